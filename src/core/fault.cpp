@@ -27,6 +27,7 @@ QString Fault::describe(int number)
     case FileAlreadyOpen: return QStringLiteral("File already open");
     case DiskFull: return QStringLiteral("Disk full");
     case PermissionDenied: return QStringLiteral("Permission denied");
+    case PathFileAccessError: return QStringLiteral("Path/File access error");
     case PathNotFound: return QStringLiteral("Path not found");
     case InvalidPicture: return QStringLiteral("Invalid picture");
     default: return QStringLiteral("Application-defined or object-defined error");

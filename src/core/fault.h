@@ -27,6 +27,7 @@ public:
         FileAlreadyOpen = 55,
         DiskFull = 61,
         PermissionDenied = 70,
+        PathFileAccessError = 75,
         PathNotFound = 76,
         InvalidPicture = 481,
     };

@@ -1,0 +1,43 @@
+#pragma once
+// Status-bar texts and progress, as one small interface: the GUI shows them in its status bar,
+// the command line draws a progress bar on a terminal, tests read them back.
+
+#include <QString>
+#include <map>
+
+namespace tf {
+
+class StatusSink {
+public:
+    virtual ~StatusSink() = default;
+    // The text of a status-bar panel (numbered from 1, as the status bar's panels are).
+    virtual void setPanelText(int panel, const QString &text) = 0;
+    // Shows the progress bar at value of max; max 0 hides it.
+    virtual void setProgress(int value, int max) = 0;
+};
+
+// Keeps the last text of each panel and the last progress; what the command line and the
+// tests use.
+class RecordingStatus : public StatusSink {
+public:
+    void setPanelText(int panel, const QString &text) override { m_panels[panel] = text; }
+    void setProgress(int value, int max) override
+    {
+        m_value = value;
+        m_max = max;
+    }
+    QString panelText(int panel) const
+    {
+        auto it = m_panels.find(panel);
+        return it == m_panels.end() ? QString() : it->second;
+    }
+    int progressValue() const { return m_value; }
+    int progressMax() const { return m_max; }
+
+private:
+    std::map<int, QString> m_panels;
+    int m_value = 0;
+    int m_max = 0;
+};
+
+} // namespace tf

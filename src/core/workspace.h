@@ -1,0 +1,128 @@
+#pragma once
+// The workspace: the named pictures of the main window, the size of the picture, and the
+// single-level Undo / Redo between the picture and its undo slot.
+//
+// `Bild` is the picture the user sees and every painter draws on. Its undo image lies in
+// memory (`BildUndo`'s Picture) while the picture's longer side is at most 712 pixels, the
+// standard format; larger pictures keep their undo image on disk as "tmpundob.bmp" in
+// `TempDir`, so that they never pass through a second in-memory copy. Selections and masks
+// have their own slot (`PicUndo`, "tmpundom.bmp") under the same rule.
+//
+// Undo and Redo are one command: it swaps the picture and its undo image, so a second press
+// brings back what the first took away.
+
+#include "core/picturebox.h"
+
+#include <QString>
+#include <functional>
+
+namespace tf {
+
+// The commands whose enabled state follows the workspace (menu entries and toolbar keys).
+struct CommandState {
+    bool undo = false;  // mn_Undo
+    bool save = false;  // mn_Speichern and the toolbar's save key
+    bool print = false; // the toolbar's "Drucken" key
+};
+
+class Workspace {
+public:
+    // Pictures up to this size on the longer side keep their undo image in memory.
+    static constexpr int UndoInMemoryMax = 712;
+    static constexpr const char *UndoFileBild = "tmpundob.bmp";
+    static constexpr const char *UndoFileMask = "tmpundom.bmp";
+
+    // A workspace of 712 x 712 pixels; TempDir is the per-user data folder.
+    Workspace();
+
+    // ---- The named pictures ---------------------------------------------------------------
+    PictureBox Bild{QStringLiteral("Bild")};
+    PictureBox BildUndo{QStringLiteral("BildUndo")};
+    PictureBox PicUndo{QStringLiteral("PicUndo")};
+    PictureBox BildWork{QStringLiteral("BildWork")};
+    PictureBox PicWork{QStringLiteral("PicWork")};
+    PictureBox Bild_Buff{QStringLiteral("Bild_Buff")};
+    PictureBox Bild_CD{QStringLiteral("Bild_CD")};
+    PictureBox Pic_CD{QStringLiteral("Pic_CD")};
+    PictureBox PicTemp{QStringLiteral("PicTemp")};
+    PictureBox PicMask{QStringLiteral("PicMask")};
+    PictureBox PicSelect{QStringLiteral("PicSelect")};
+    PictureBox PicSSelect{QStringLiteral("PicSSelect")};
+    PictureBox picSelectC{QStringLiteral("picSelectC")};
+    PictureBox PicSSelectC{QStringLiteral("PicSSelectC")};
+
+    // ---- The picture's values -------------------------------------------------------------
+    int BildW = 712;
+    int BildH = 712;
+    int BildMax = 712;
+    int NewFormatW = 712;
+    int NewFormatH = 712;
+    int NewFormatMax = 712;
+    bool BildChanged = false;
+    // The action string: what the last user action did to the picture (see the paint driver).
+    QString lastaction;
+
+    QString TempDir() const { return m_tempDir; }
+    // Sets the folder of the temp files (created when missing).
+    void setTempDir(const QString &dir);
+    // The full path of a temp file in TempDir.
+    QString tempPath(const QString &fileName) const;
+
+    CommandState commands;
+    // Called whenever `commands` changes.
+    void setCommandsHook(std::function<void()> hook) { m_commandsHook = std::move(hook); }
+    // Called by New_BildSize after the pictures took their size, for the frame's layout.
+    void setLayoutHook(std::function<void()> hook) { m_layoutHook = std::move(hook); }
+
+    // ---- Operations -----------------------------------------------------------------------
+    // Sets the size of the workspace: Bild and the pictures that follow it take w x h,
+    // the selections are hidden; the frame is laid out by the layout hook.
+    void New_BildSize(int w, int h);
+
+    // Saves `picsrc` as the undo image, in memory or (usefile, or a picture above 712) on disk.
+    void Bildimage_auf_Undo(PictureBox &picsrc, bool usemasks, bool usefile);
+    // Sets `picdst`'s Picture from the undo image.
+    void Undoimage_auf_Bild(PictureBox &picdst, bool usemasks, bool usefile);
+    // Copies a part of the undo image to `picdst`; wdst or hdst below 1 mean the undo image's
+    // own width or height.
+    void UndoBlt_auf_Bild(PictureBox &picdst, int xDst, int yDst, int wdst, int hdst, int xSrc,
+                          int ySrc, bool usemasks, bool usefile);
+    // The same, stretched from wSrc x hSrc.
+    void UndoStretch_auf_Bild(PictureBox &picdst, int xDst, int yDst, int wdst, int hdst,
+                              int xSrc, int ySrc, int wSrc, int hSrc, bool usemasks);
+
+    // The usual call before a change to Bild: marks it changed and takes the undo image.
+    void Bild_nachUndo();
+    // The same for the rectangular and the elliptic selection.
+    void PicSelect_nachUndo();
+    void PicSelectC_nachUndo();
+    // Clears Bild to its BackColor and Picture.
+    void Bild_CLEAR();
+
+    // Undo / Redo: swaps the picture and its undo image (the picture branches; the selection
+    // branches are installed by the selection tools through `setSelectionUndo`).
+    void Menu_UndoRedo();
+    // Handles Undo while lastaction begins with "RECT" or "CIRC"; answers true when it did.
+    void setSelectionUndo(std::function<bool()> handler) { m_selectionUndo = std::move(handler); }
+
+    // True when an undo image of the given size goes to disk.
+    static bool undoGoesToFile(int maxSide, bool usefile) { return usefile || maxSide > UndoInMemoryMax; }
+
+private:
+    QString undoFile(bool usemasks) const;
+    // The undo image of a slot as it stands (from memory or from its file); null when none.
+    QImage undoImage(bool usemasks, bool usefile);
+    void saveToFile(const QImage &image, const QString &path);
+    void enableUndo();
+    void setCommands(const CommandState &c);
+
+    QString m_tempDir;
+    // Where the undo image of Bild was last put: true on disk.
+    bool m_bildUndoInFile = false;
+    bool m_maskUndoInFile = false;
+    std::function<void()> m_commandsHook;
+    std::function<void()> m_layoutHook;
+    std::function<bool()> m_selectionUndo;
+};
+
+} // namespace tf

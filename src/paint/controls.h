@@ -1,0 +1,131 @@
+#pragma once
+// The option-control model: every control that painters, filters and tools read.
+//
+// A control is named as on its panel ("cmbPen", "txtMondrian" with index 2, "XFill") and has a
+// kind, a caption in both languages, a default, and the normalising rule the control applies
+// when its value changes (a split count below 2 is rewritten as "2"). The definitions are data:
+// one `ControlPanel` table per option panel. The GUI builds its widgets from them, the command
+// line sets values with --set, tests set them directly, and `controls TYPE` lists them.
+//
+// Values are held as the control would hold them: text for text fields, a number for check
+// boxes (0/1), scroll bars, list indices and colours.
+
+#include "paint/language.h"
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <map>
+#include <optional>
+#include <vector>
+
+namespace tf {
+
+enum class ControlKind {
+    Text,      // a text field: the value is its text
+    Value,     // a scroll bar or spin value: an integer in [min, max]
+    Checked,   // a check box: 0 or 1
+    ListIndex, // a list or combo box: the index of the chosen item, -1 none
+    Colour,    // a colour field: a colour long
+};
+
+// A control's name and, for a control array, its index (-1 when it is no array).
+struct ControlKey {
+    QString name;
+    int index = -1;
+
+    bool operator==(const ControlKey &o) const { return index == o.index && name == o.name; }
+    bool operator<(const ControlKey &o) const
+    {
+        const int c = name.compare(o.name);
+        return c != 0 ? c < 0 : index < o.index;
+    }
+    // "txtMondrian(2)" or "XFill".
+    QString toString() const;
+    // Parses "name" or "name(i)"; nullopt when malformed.
+    static std::optional<ControlKey> parse(const QString &text);
+};
+
+struct ControlSpec {
+    ControlKey key;
+    ControlKind kind = ControlKind::Text;
+    QString captionDe;
+    QString captionEn;
+    QString defaultValue;            // as text: "2", "1", "Hallo", "16777215"
+    int min = 0;                     // range of Value, ListIndex and numeric Text controls
+    int max = 0;                     // max < min: no range
+    QStringList itemsDe;             // the list of a ListIndex control
+    QStringList itemsEn;
+    // Rewrites a value as the control does on change (e.g. clamps to its range); the default
+    // rule clamps numbers into [min, max] when a range is given.
+    std::function<QString(const QString &)> normalise;
+
+    QString caption(Language lang) const { return lang == Language::German ? captionDe : captionEn; }
+    QStringList items(Language lang) const { return lang == Language::German ? itemsDe : itemsEn; }
+    bool hasRange() const { return max >= min; }
+};
+
+// One option panel: its name, its caption, its controls.
+struct ControlPanel {
+    QString name; // "feat_01Mondrian", "frmGrafDialog"
+    QString captionDe;
+    QString captionEn;
+    std::vector<ControlSpec> controls;
+};
+
+// The panels known to the program, in the order the GUI shows them. Each family registers its
+// panel table here once, at start, through `registerControlPanel`.
+const std::vector<const ControlPanel *> &controlPanels();
+void registerControlPanel(const ControlPanel *panel);
+// The specification of a control, searched over all panels; null when unknown.
+const ControlSpec *findControlSpec(const ControlKey &key);
+
+// Applies a spec's normalising rule (or the default clamp) to a value. Answers nullopt when the
+// value does not fit the kind at all (text where a number belongs, an unknown list item).
+std::optional<QString> normaliseValue(const ControlSpec &spec, const QString &value);
+
+// The live values of all controls of a session.
+class Controls {
+public:
+    // Every registered control at its default.
+    Controls();
+
+    // Back to the defaults of every registered panel.
+    void resetToDefaults();
+    // Adds the defaults of a panel registered after construction (idempotent).
+    void addDefaults(const ControlPanel &panel);
+
+    // Sets a value through the control's normalising rule, as a user's change would.
+    // Answers false (and changes nothing) for an unknown control or an unfitting value.
+    bool set(const ControlKey &key, const QString &value);
+    // Sets a value as it stands, without the rule (what a painter does when it writes a field).
+    void setRaw(const ControlKey &key, const QString &value);
+
+    bool has(const ControlKey &key) const { return m_values.count(key) != 0; }
+    QString text(const ControlKey &key) const;
+    // The value as a number: Val() of the text for text fields (leading number, else 0).
+    double number(const ControlKey &key) const;
+    int value(const ControlKey &key) const;
+    bool checked(const ControlKey &key) const { return value(key) != 0; }
+    int listIndex(const ControlKey &key) const { return value(key); }
+
+    // Convenience for unindexed names.
+    QString text(const QString &name) const { return text(ControlKey{name}); }
+    int value(const QString &name) const { return value(ControlKey{name}); }
+    bool checked(const QString &name) const { return checked(ControlKey{name}); }
+
+    // The controls whose value differs from their default (for presets and command lines).
+    std::vector<std::pair<ControlKey, QString>> changed() const;
+
+    // Called after every change, with the key that changed (the GUI keeps its widgets in step).
+    void setChangedHook(std::function<void(const ControlKey &)> hook) { m_hook = std::move(hook); }
+
+private:
+    std::map<ControlKey, QString> m_values;
+    std::function<void(const ControlKey &)> m_hook;
+};
+
+// The classic Val(): the leading number of a text, 0 when there is none.
+double Val(const QString &text);
+
+} // namespace tf

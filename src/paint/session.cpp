@@ -1,0 +1,48 @@
+#include "paint/session.h"
+
+namespace tf {
+
+Session::Session() : m_workspace(std::make_unique<Workspace>())
+{
+    m_prompterBefore = installPrompter(m_prompter);
+}
+
+Session::~Session() { installPrompter(m_prompterBefore); }
+
+void Session::setPrompter(Prompter *p)
+{
+    m_prompter = p ? p : &m_defaultPrompter;
+    installPrompter(m_prompter);
+}
+
+Answer Session::ask(const QString &text, Buttons buttons, Icon icon, const QString &title)
+{
+    Prompt p;
+    p.text = text;
+    p.buttons = buttons;
+    p.icon = icon;
+    p.title = title;
+    return m_prompter->ask(p);
+}
+
+void Session::DoEvents()
+{
+    if (m_yield->yield())
+        m_paint.StopPaint = true;
+}
+
+void Session::seed(uint32_t seed)
+{
+    m_clock.useSeed(seed);
+    // The generator has 24 bits of state: the seed is mixed down to them, so that nearby seeds
+    // give unrelated sequences.
+    uint32_t x = seed;
+    x ^= x >> 16;
+    x *= 0x7FEB352Du;
+    x ^= x >> 15;
+    x *= 0x846CA68Bu;
+    x ^= x >> 16;
+    m_random.setState(x);
+}
+
+} // namespace tf

@@ -1,0 +1,96 @@
+#pragma once
+// The session: everything the main window owns, in plain objects, so that painters, filters,
+// the command line and tests work without a window.
+//
+// It holds the workspace of named pictures with its undo, the option controls, the paint
+// state, the random generator and the clock, and the three doors to the user: the prompter
+// (questions and messages), the status sink (status bar, progress) and the yield hook (giving
+// way in long loops). A session installs its prompter as the process's current prompter while
+// it lives, so that faults reported deep in the engine reach the same door.
+
+#include "core/clock.h"
+#include "core/prompter.h"
+#include "core/random.h"
+#include "core/status.h"
+#include "core/workspace.h"
+#include "core/yield.h"
+#include "paint/controls.h"
+#include "paint/language.h"
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+namespace tf {
+
+// What the paint driver owns besides the action string (which lives in the workspace, since
+// Undo reads it).
+struct PaintState {
+    QString GrafKey;
+    int GrafGroup = 1;                  // 1..10
+    std::array<int, 11> GrafTypeMem{};  // per group, the list index of the type last painted
+    bool StopPaint = false;
+    bool AutoPaintRun = false;
+    bool running = false;               // a paint is under way
+};
+
+class Session {
+public:
+    Session();
+    ~Session();
+    Session(const Session &) = delete;
+    Session &operator=(const Session &) = delete;
+
+    Workspace &workspace() { return *m_workspace; }
+    const Workspace &workspace() const { return *m_workspace; }
+    Controls &controls() { return m_controls; }
+    const Controls &controls() const { return m_controls; }
+    PaintState &paint() { return m_paint; }
+
+    Language language() const { return m_language; }
+    void setLanguage(Language lang) { m_language = lang; }
+    // The German or the English text, by the session's language.
+    const QString &tr(const QString &de, const QString &en) const { return tr2(m_language, de, en); }
+
+    // The doors. Each setter takes a borrowed object (null restores the default).
+    Prompter &prompter() { return *m_prompter; }
+    void setPrompter(Prompter *p);
+    StatusSink &status() { return *m_status; }
+    void setStatus(StatusSink *s) { m_status = s ? s : &m_defaultStatus; }
+    void setYieldHook(YieldHook *y) { m_yield = y ? y : &m_noYield; }
+
+    // Asks a question through the prompter.
+    Answer ask(const QString &text, Buttons buttons = Buttons::Ok, Icon icon = Icon::None,
+               const QString &title = QString());
+
+    // Gives way to pending input; a stop request of the hook sets StopPaint.
+    void DoEvents();
+
+    // The random generator and the clock. `seed` makes both deterministic: the generator starts
+    // from a state drawn from the seed, and Timer reads the seeded clock.
+    Random &random() { return m_random; }
+    Single Rnd() { return m_random.Rnd(); }
+    Single Timer() { return m_clock.Timer(); }
+    void Randomize() { m_random.Randomize(double(Timer())); }
+    void seed(uint32_t seed);
+    void unseed() { m_clock.useWallClock(); }
+    SessionClock &clock() { return m_clock; }
+
+private:
+    std::unique_ptr<Workspace> m_workspace;
+    Controls m_controls;
+    PaintState m_paint;
+    Language m_language = Language::German;
+    Random m_random;
+    SessionClock m_clock;
+
+    StderrPrompter m_defaultPrompter;
+    RecordingStatus m_defaultStatus;
+    NoYield m_noYield;
+    Prompter *m_prompter = &m_defaultPrompter;
+    StatusSink *m_status = &m_defaultStatus;
+    YieldHook *m_yield = &m_noYield;
+    Prompter *m_prompterBefore = nullptr;
+};
+
+} // namespace tf

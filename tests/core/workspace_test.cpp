@@ -1,0 +1,165 @@
+#include "core/prompter.h"
+#include "core/workspace.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace tf;
+
+namespace {
+
+struct WorkspaceTest : ::testing::Test {
+    QTemporaryDir dir;
+    Workspace ws;
+    ScriptedPrompter prompter;
+    PrompterScope scope{prompter};
+
+    void SetUp() override { ws.setTempDir(dir.path()); }
+
+    void paintAll(ColorLong c)
+    {
+        ws.Bild.Line(0, 0, ws.BildW - 1, ws.BildH - 1, c, LineFlags::BF);
+    }
+    ColorLong at(int x, int y) { return ws.Bild.Point(x, y); }
+    bool undoFileExists() { return QFile::exists(ws.tempPath(QStringLiteral("tmpundob.bmp"))); }
+};
+
+} // namespace
+
+TEST_F(WorkspaceTest, NewSizeSetsThePictureAndItsFollowers)
+{
+    ws.New_BildSize(300, 200);
+    EXPECT_EQ(ws.BildW, 300);
+    EXPECT_EQ(ws.BildH, 200);
+    EXPECT_EQ(ws.BildMax, 300);
+    for (PictureBox *p : {&ws.Bild, &ws.BildWork, &ws.BildUndo, &ws.PicWork, &ws.Bild_CD}) {
+        EXPECT_EQ(p->Width(), 300) << p->name().toStdString();
+        EXPECT_EQ(p->Height(), 200) << p->name().toStdString();
+    }
+    EXPECT_FALSE(ws.PicSelect.Visible());
+    EXPECT_FALSE(ws.picSelectC.Visible());
+}
+
+TEST_F(WorkspaceTest, TwoUndoPressesGiveThePictureBack)
+{
+    ws.New_BildSize(712, 712);
+    paintAll(RGB(255, 0, 0));
+    ws.Bild_nachUndo();
+    EXPECT_TRUE(ws.commands.undo);
+    EXPECT_TRUE(ws.commands.save);
+    EXPECT_TRUE(ws.BildChanged);
+    paintAll(RGB(0, 0, 255));
+    ws.lastaction = QStringLiteral("$PAINT");
+
+    ws.Menu_UndoRedo();
+    EXPECT_EQ(at(5, 5), RGB(255, 0, 0));
+    EXPECT_EQ(at(711, 711), RGB(255, 0, 0));
+    ws.Menu_UndoRedo();
+    EXPECT_EQ(at(5, 5), RGB(0, 0, 255));
+    EXPECT_EQ(ws.lastaction, QStringLiteral("$PAINT")); // Redo stays possible
+    EXPECT_TRUE(prompter.asked().empty());
+}
+
+TEST_F(WorkspaceTest, At712TheUndoStaysInMemoryAt713ItGoesToDisk)
+{
+    ws.New_BildSize(712, 500);
+    ws.Bild_nachUndo();
+    EXPECT_FALSE(undoFileExists());
+
+    ws.New_BildSize(500, 713);
+    paintAll(RGB(0, 255, 0));
+    ws.Bild_nachUndo();
+    EXPECT_TRUE(undoFileExists());
+    paintAll(RGB(9, 9, 9));
+
+    ws.Menu_UndoRedo();
+    EXPECT_EQ(at(0, 0), RGB(0, 255, 0));
+    EXPECT_EQ(at(499, 712), RGB(0, 255, 0));
+    ws.Menu_UndoRedo();
+    EXPECT_EQ(at(0, 0), RGB(9, 9, 9));
+    EXPECT_TRUE(prompter.asked().empty());
+}
+
+TEST_F(WorkspaceTest, AMissingUndoFileReportsAndKeepsThePicture)
+{
+    ws.New_BildSize(800, 600);
+    paintAll(RGB(1, 2, 3));
+    ws.Bild_nachUndo();
+    QFile::remove(ws.tempPath(QStringLiteral("tmpundob.bmp")));
+    paintAll(RGB(4, 5, 6));
+    ws.Menu_UndoRedo();
+    ASSERT_EQ(prompter.asked().size(), 1u);
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("Menu_UndoRedo [File not found]"));
+    EXPECT_EQ(prompter.asked().back().icon, Icon::Exclamation);
+    EXPECT_EQ(at(10, 10), RGB(4, 5, 6));
+}
+
+TEST_F(WorkspaceTest, UndoAfterAResizeTakesTheFormerSize)
+{
+    ws.New_BildSize(40, 30);
+    paintAll(RGB(50, 60, 70));
+    ws.Bild_nachUndo();
+    ws.New_BildSize(30, 40); // a quarter turn
+    ws.lastaction = QStringLiteral("$TURN90");
+    paintAll(RGB(1, 1, 1));
+    ws.Menu_UndoRedo();
+    EXPECT_EQ(ws.BildW, 40);
+    EXPECT_EQ(ws.BildH, 30);
+    EXPECT_EQ(ws.Bild.Width(), 40);
+    EXPECT_EQ(at(39, 29), RGB(50, 60, 70));
+    ws.Menu_UndoRedo();
+    EXPECT_EQ(ws.BildW, 30);
+    EXPECT_EQ(ws.BildH, 40);
+    EXPECT_EQ(at(29, 39), RGB(1, 1, 1));
+}
+
+TEST_F(WorkspaceTest, UndoBltWithZeroWidthCopiesTheFullUndoWidth)
+{
+    ws.New_BildSize(20, 10);
+    paintAll(RGB(200, 0, 0));
+    ws.Bild_nachUndo();
+    paintAll(RGB(0, 0, 0));
+    ws.UndoBlt_auf_Bild(ws.Bild, 0, 2, 0, 3, 0, 0, false, false);
+    EXPECT_EQ(at(0, 2), RGB(200, 0, 0));
+    EXPECT_EQ(at(19, 4), RGB(200, 0, 0));
+    EXPECT_EQ(at(19, 5), RGB(0, 0, 0));
+    EXPECT_EQ(at(0, 1), RGB(0, 0, 0));
+}
+
+TEST_F(WorkspaceTest, UndoBltFromDiskShrinksTheScratchBufferAgain)
+{
+    ws.New_BildSize(720, 20);
+    paintAll(RGB(0, 0, 200));
+    ws.Bild_nachUndo();
+    paintAll(RGB(0, 0, 0));
+    ws.UndoBlt_auf_Bild(ws.Bild, 0, 0, 0, 0, 0, 0, false, false);
+    EXPECT_EQ(at(719, 19), RGB(0, 0, 200));
+    EXPECT_EQ(ws.Bild_Buff.Width(), 10);
+    EXPECT_EQ(ws.Bild_Buff.Height(), 10);
+}
+
+TEST_F(WorkspaceTest, SelectionUndoImagesFollowTheSameRule)
+{
+    ws.New_BildSize(100, 100);
+    ws.PicSelect.resize(8, 6);
+    ws.PicSelect.Line(0, 0, 7, 5, RGB(7, 7, 7), LineFlags::BF);
+    ws.PicSelect_nachUndo();
+    EXPECT_EQ(ws.PicUndo.Width(), 8);
+    EXPECT_EQ(ws.PicWork.Width(), 8);
+    ws.PicSelect.Cls();
+    ws.Undoimage_auf_Bild(ws.PicSelect, true, false);
+    EXPECT_EQ(ws.PicSelect.Point(7, 5), RGB(7, 7, 7));
+
+    ws.New_BildSize(1000, 100);
+    ws.PicSelect.resize(8, 6);
+    ws.PicSelect.Line(0, 0, 7, 5, RGB(8, 8, 8), LineFlags::BF);
+    ws.PicSelect.setVisible(true);
+    ws.PicSelect_nachUndo();
+    EXPECT_TRUE(QFile::exists(ws.tempPath(QStringLiteral("tmpundom.bmp"))));
+    EXPECT_EQ(ws.PicUndo.Width(), 12);
+    ws.PicSelect.Cls();
+    ws.Undoimage_auf_Bild(ws.PicSelect, true, false);
+    EXPECT_EQ(ws.PicSelect.Point(3, 3), RGB(8, 8, 8));
+    EXPECT_TRUE(prompter.asked().empty());
+}

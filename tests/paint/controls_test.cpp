@@ -1,0 +1,124 @@
+#include "paint/controls.h"
+
+#include <gtest/gtest.h>
+
+using namespace tf;
+
+namespace {
+
+// A panel shaped like a real one: a split count with its clamp, a list, a check box, a value
+// and a colour, one of them a control array.
+const ControlPanel &samplePanel()
+{
+    static const ControlPanel panel = [] {
+        ControlPanel p{QStringLiteral("feat_Test"), QStringLiteral("Test"), QStringLiteral("Test"), {}};
+        ControlSpec splits;
+        splits.key = {QStringLiteral("txtSplits"), 0};
+        splits.kind = ControlKind::Text;
+        splits.captionDe = QStringLiteral("H-Splits");
+        splits.captionEn = QStringLiteral("H-Splits");
+        splits.defaultValue = QStringLiteral("2");
+        splits.min = 2;
+        splits.max = 50;
+        p.controls.push_back(splits);
+        ControlSpec format;
+        format.key = {QStringLiteral("cmbFormat"), -1};
+        format.kind = ControlKind::ListIndex;
+        format.defaultValue = QStringLiteral("0");
+        format.itemsDe = {QStringLiteral("Quadratisch"), QStringLiteral("Vertikal")};
+        format.itemsEn = {QStringLiteral("Square"), QStringLiteral("Vertical")};
+        p.controls.push_back(format);
+        ControlSpec fill;
+        fill.key = {QStringLiteral("XFillTest"), -1};
+        fill.kind = ControlKind::Checked;
+        fill.defaultValue = QStringLiteral("1");
+        p.controls.push_back(fill);
+        ControlSpec step;
+        step.key = {QStringLiteral("scrollTest"), -1};
+        step.kind = ControlKind::Value;
+        step.defaultValue = QStringLiteral("10");
+        step.min = 1;
+        step.max = 100;
+        p.controls.push_back(step);
+        ControlSpec colour;
+        colour.key = {QStringLiteral("picTestColour"), -1};
+        colour.kind = ControlKind::Colour;
+        colour.defaultValue = QStringLiteral("0");
+        p.controls.push_back(colour);
+        return p;
+    }();
+    return panel;
+}
+
+struct ControlsTest : ::testing::Test {
+    void SetUp() override { registerControlPanel(&samplePanel()); }
+};
+
+} // namespace
+
+TEST(ControlKeyTest, ParsesNamesAndIndices)
+{
+    EXPECT_EQ(ControlKey::parse(QStringLiteral("txtMondrian(2)"))->index, 2);
+    EXPECT_EQ(ControlKey::parse(QStringLiteral("XFill"))->index, -1);
+    EXPECT_EQ(ControlKey::parse(QStringLiteral("XFill"))->toString(), QStringLiteral("XFill"));
+    EXPECT_EQ(ControlKey::parse(QStringLiteral("txtMondrian(2)"))->toString(), QStringLiteral("txtMondrian(2)"));
+    EXPECT_FALSE(ControlKey::parse(QStringLiteral("txt(")));
+    EXPECT_FALSE(ControlKey::parse(QStringLiteral("2abc")));
+}
+
+TEST(ValTest, ReadsTheLeadingNumber)
+{
+    EXPECT_EQ(Val(QStringLiteral("  12abc")), 12.0);
+    EXPECT_EQ(Val(QStringLiteral("-3.5")), -3.5);
+    EXPECT_EQ(Val(QStringLiteral("abc")), 0.0);
+    EXPECT_EQ(Val(QString()), 0.0);
+}
+
+TEST_F(ControlsTest, DefaultsAndNormalisingRules)
+{
+    Controls c;
+    const ControlKey splits{QStringLiteral("txtSplits"), 0};
+    EXPECT_EQ(c.text(splits), QStringLiteral("2"));
+    EXPECT_TRUE(c.set(splits, QStringLiteral("1")));
+    EXPECT_EQ(c.text(splits), QStringLiteral("2")); // below 2 is rewritten as "2"
+    EXPECT_TRUE(c.set(splits, QStringLiteral("77")));
+    EXPECT_EQ(c.text(splits), QStringLiteral("50"));
+    EXPECT_TRUE(c.set(splits, QStringLiteral("7")));
+    EXPECT_EQ(c.value(splits), 7);
+    EXPECT_FALSE(c.set({QStringLiteral("txtSplits"), 5}, QStringLiteral("3"))); // no such index
+
+    EXPECT_TRUE(c.checked(QStringLiteral("XFillTest")));
+    EXPECT_TRUE(c.set({QStringLiteral("XFillTest")}, QStringLiteral("off")));
+    EXPECT_FALSE(c.checked(QStringLiteral("XFillTest")));
+    EXPECT_FALSE(c.set({QStringLiteral("XFillTest")}, QStringLiteral("maybe")));
+
+    EXPECT_TRUE(c.set({QStringLiteral("cmbFormat")}, QStringLiteral("Vertical")));
+    EXPECT_EQ(c.value(QStringLiteral("cmbFormat")), 1);
+    EXPECT_TRUE(c.set({QStringLiteral("cmbFormat")}, QStringLiteral("Quadratisch")));
+    EXPECT_EQ(c.value(QStringLiteral("cmbFormat")), 0);
+    EXPECT_FALSE(c.set({QStringLiteral("cmbFormat")}, QStringLiteral("2")));
+
+    EXPECT_TRUE(c.set({QStringLiteral("scrollTest")}, QStringLiteral("500")));
+    EXPECT_EQ(c.value(QStringLiteral("scrollTest")), 100);
+    EXPECT_FALSE(c.set({QStringLiteral("scrollTest")}, QStringLiteral("x")));
+
+    EXPECT_TRUE(c.set({QStringLiteral("picTestColour")}, QStringLiteral("#FF8000")));
+    EXPECT_EQ(c.value(QStringLiteral("picTestColour")), 0x0080FF); // 0x00BBGGRR
+    EXPECT_FALSE(c.set({QStringLiteral("nope")}, QStringLiteral("1")));
+}
+
+TEST_F(ControlsTest, ChangedListsOnlyWhatDiffersAndTheHookSeesEachChange)
+{
+    Controls c;
+    std::vector<QString> seen;
+    c.setChangedHook([&](const ControlKey &k) { seen.push_back(k.toString()); });
+    c.set({QStringLiteral("scrollTest")}, QStringLiteral("10")); // the default: no change
+    c.set({QStringLiteral("scrollTest")}, QStringLiteral("11"));
+    c.set({QStringLiteral("txtSplits"), 0}, QStringLiteral("4"));
+    ASSERT_EQ(seen.size(), 2u);
+    EXPECT_EQ(seen[1], QStringLiteral("txtSplits(0)"));
+    const auto changed = c.changed();
+    ASSERT_EQ(changed.size(), 2u);
+    c.resetToDefaults();
+    EXPECT_TRUE(c.changed().empty());
+}

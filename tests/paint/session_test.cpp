@@ -1,0 +1,56 @@
+#include "core/fault.h"
+#include "paint/session.h"
+
+#include <gtest/gtest.h>
+
+using namespace tf;
+
+namespace {
+struct StopAfter : YieldHook {
+    int calls = 0;
+    int stopAt;
+    explicit StopAfter(int n) : stopAt(n) {}
+    bool yield() override { return ++calls >= stopAt; }
+};
+} // namespace
+
+TEST(SessionTest, ASeedMakesRandomAndTimerReproducible)
+{
+    Session a, b;
+    a.seed(42);
+    b.seed(42);
+    a.Randomize();
+    b.Randomize();
+    for (int i = 0; i < 50; ++i)
+        ASSERT_EQ(a.Rnd(), b.Rnd());
+    Session c;
+    c.seed(43);
+    c.Randomize();
+    Session d;
+    d.seed(42);
+    d.Randomize();
+    EXPECT_NE(c.Rnd(), d.Rnd());
+}
+
+TEST(SessionTest, FaultsReachTheSessionsPrompter)
+{
+    Session s;
+    ScriptedPrompter p;
+    s.setPrompter(&p);
+    reportFault(QStringLiteral("Resample"), QStringLiteral("Overflow"));
+    ASSERT_EQ(p.asked().size(), 1u);
+    EXPECT_EQ(p.lastText(), QStringLiteral("Resample [Overflow]"));
+    EXPECT_EQ(s.ask(QStringLiteral("?"), Buttons::YesNo), Answer::Yes);
+}
+
+TEST(SessionTest, AStopRequestOfTheYieldHookSetsStopPaint)
+{
+    Session s;
+    StopAfter hook(3);
+    s.setYieldHook(&hook);
+    s.DoEvents();
+    s.DoEvents();
+    EXPECT_FALSE(s.paint().StopPaint);
+    s.DoEvents();
+    EXPECT_TRUE(s.paint().StopPaint);
+}
