@@ -124,7 +124,9 @@ void PictureBox::syncBackground()
     m_dc.textColor = m_foreColor;
 }
 
-void PictureBox::syncFont()
+void PictureBox::syncFont() { m_dc.font = propertyFont(); }
+
+Font PictureBox::propertyFont() const
 {
     Font f;
     f.faceName = m_fontName;
@@ -134,7 +136,7 @@ void PictureBox::syncFont()
     f.italic = m_fontItalic;
     f.underline = m_fontUnderline;
     f.strikeOut = m_fontStrikethru;
-    m_dc.font = f;
+    return f;
 }
 
 void PictureBox::setForeColor(ColorLong c)

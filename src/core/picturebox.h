@@ -218,9 +218,9 @@ private:
     void syncBrush();
     void syncFont();
     void syncBackground();
-    Pen drawingPen(ColorLong colour) const;
+    // The font that the Font* properties describe.
+    Font propertyFont() const;
     void drawLine(int x1, int y1, int x2, int y2, ColorLong colour, LineFlags flags);
-    void drawText(const QString &text);
 
     QString m_name;
     QImage m_image;
