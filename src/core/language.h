@@ -1,5 +1,11 @@
 #pragma once
-// The two languages of the interface. German is the program's own, English beside it.
+// The two languages of the interface: German, the program's own, and English beside it.
+//
+// Every text the user reads is written in German in the code, inside Qt's translation
+// functions (tr(), QCoreApplication::translate, QT_TRANSLATE_NOOP), and translated from two
+// catalogues compiled into the program: the German one (identity) and the English one.
+// Switching the language installs the other catalogue at once; widgets retranslate on the
+// LanguageChange event, engine messages are translated when they are shown.
 
 #include <QString>
 
@@ -7,10 +13,15 @@ namespace tf {
 
 enum class Language { German, English };
 
-// Picks the German or the English text.
-inline const QString &tr2(Language lang, const QString &de, const QString &en)
-{
-    return lang == Language::German ? de : en;
-}
+// The language in use.
+Language currentLanguage();
+// Installs the catalogue of `lang`. Answers false when it could not be loaded.
+bool setLanguage(Language lang);
+// The language of the system's locale: German for a German locale, else English.
+Language systemLanguage();
+
+// The value stored in the settings for a language, and back (1 German, 2 English).
+int languageSettingValue(Language lang);
+Language languageFromSettingValue(int value);
 
 } // namespace tf

@@ -1,5 +1,6 @@
 #include "paint/controls.h"
 
+#include <QCoreApplication>
 #include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
@@ -21,6 +22,19 @@ std::optional<ControlKey> ControlKey::parse(const QString &text)
     if (m.capturedLength(2) > 0)
         key.index = m.captured(2).toInt();
     return key;
+}
+
+QString ControlSpec::translatedCaption() const
+{
+    return QCoreApplication::translate("Controls", caption);
+}
+
+QStringList ControlSpec::translatedItems() const
+{
+    QStringList out;
+    for (const char *item : items)
+        out << QCoreApplication::translate("Controls", item);
+    return out;
 }
 
 namespace {
@@ -90,17 +104,17 @@ std::optional<QString> normaliseValue(const ControlSpec &spec, const QString &va
         return std::nullopt;
     }
     case ControlKind::ListIndex: {
-        // An index, or the caption of an item in either language.
+        // An index, or the caption of an item in German or in the current language.
         auto n = asInteger(value);
         if (!n) {
-            qsizetype i = spec.itemsDe.indexOf(value);
-            if (i < 0)
-                i = spec.itemsEn.indexOf(value);
-            if (i < 0)
+            const QStringList shown = spec.translatedItems();
+            for (size_t i = 0; i < spec.items.size() && !n; ++i)
+                if (value == QString::fromUtf8(spec.items[i]) || value == shown[qsizetype(i)])
+                    n = (long long)i;
+            if (!n)
                 return std::nullopt;
-            n = i;
         }
-        const long long count = std::max(spec.itemsDe.size(), spec.itemsEn.size());
+        const long long count = (long long)spec.items.size();
         if (*n < -1 || (count > 0 && *n >= count))
             return std::nullopt;
         return QString::number(*n);

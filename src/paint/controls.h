@@ -8,9 +8,10 @@
 // line sets values with --set, tests set them directly, and `controls TYPE` lists them.
 //
 // Values are held as the control would hold them: text for text fields, a number for check
-// boxes (0/1), scroll bars, list indices and colours.
+// boxes (0/1), scroll bars, list indices and colours. Captions and list items are German
+// source texts of the "Controls" translation context (write them with QT_TRANSLATE_NOOP), so
+// the catalogues translate them like every other text.
 
-#include "paint/language.h"
 
 #include <QString>
 #include <QStringList>
@@ -49,27 +50,25 @@ struct ControlKey {
 struct ControlSpec {
     ControlKey key;
     ControlKind kind = ControlKind::Text;
-    QString captionDe;
-    QString captionEn;
+    const char *caption = "";        // German source text
     QString defaultValue;            // as text: "2", "1", "Hallo", "16777215"
     int min = 0;                     // range of Value, ListIndex and numeric Text controls
     int max = 0;                     // max < min: no range
-    QStringList itemsDe;             // the list of a ListIndex control
-    QStringList itemsEn;
+    std::vector<const char *> items; // the list of a ListIndex control, German source texts
     // Rewrites a value as the control does on change (e.g. clamps to its range); the default
     // rule clamps numbers into [min, max] when a range is given.
     std::function<QString(const QString &)> normalise;
 
-    QString caption(Language lang) const { return lang == Language::German ? captionDe : captionEn; }
-    QStringList items(Language lang) const { return lang == Language::German ? itemsDe : itemsEn; }
+    // Caption and items in the current language.
+    QString translatedCaption() const;
+    QStringList translatedItems() const;
     bool hasRange() const { return max >= min; }
 };
 
 // One option panel: its name, its caption, its controls.
 struct ControlPanel {
-    QString name; // "feat_01Mondrian", "frmGrafDialog"
-    QString captionDe;
-    QString captionEn;
+    QString name;            // "feat_01Mondrian", "frmGrafDialog"
+    const char *caption = ""; // German source text of the "Controls" context
     std::vector<ControlSpec> controls;
 };
 

@@ -15,7 +15,6 @@
 #include "core/workspace.h"
 #include "core/yield.h"
 #include "paint/controls.h"
-#include "paint/language.h"
 
 #include <array>
 #include <cstdint>
@@ -47,11 +46,6 @@ public:
     const Controls &controls() const { return m_controls; }
     PaintState &paint() { return m_paint; }
 
-    Language language() const { return m_language; }
-    void setLanguage(Language lang) { m_language = lang; }
-    // The German or the English text, by the session's language.
-    const QString &tr(const QString &de, const QString &en) const { return tr2(m_language, de, en); }
-
     // The doors. Each setter takes a borrowed object (null restores the default).
     Prompter &prompter() { return *m_prompter; }
     void setPrompter(Prompter *p);
@@ -80,7 +74,6 @@ private:
     std::unique_ptr<Workspace> m_workspace;
     Controls m_controls;
     PaintState m_paint;
-    Language m_language = Language::German;
     Random m_random;
     SessionClock m_clock;
 

@@ -11,12 +11,11 @@ namespace {
 const ControlPanel &samplePanel()
 {
     static const ControlPanel panel = [] {
-        ControlPanel p{QStringLiteral("feat_Test"), QStringLiteral("Test"), QStringLiteral("Test"), {}};
+        ControlPanel p{QStringLiteral("feat_Test"), "Test", {}};
         ControlSpec splits;
         splits.key = {QStringLiteral("txtSplits"), 0};
         splits.kind = ControlKind::Text;
-        splits.captionDe = QStringLiteral("H-Splits");
-        splits.captionEn = QStringLiteral("H-Splits");
+        splits.caption = "H-Splits";
         splits.defaultValue = QStringLiteral("2");
         splits.min = 2;
         splits.max = 50;
@@ -25,8 +24,7 @@ const ControlPanel &samplePanel()
         format.key = {QStringLiteral("cmbFormat"), -1};
         format.kind = ControlKind::ListIndex;
         format.defaultValue = QStringLiteral("0");
-        format.itemsDe = {QStringLiteral("Quadratisch"), QStringLiteral("Vertikal")};
-        format.itemsEn = {QStringLiteral("Square"), QStringLiteral("Vertical")};
+        format.items = {"Quadratisch", "Vertikal"};
         p.controls.push_back(format);
         ControlSpec fill;
         fill.key = {QStringLiteral("XFillTest"), -1};
@@ -92,7 +90,7 @@ TEST_F(ControlsTest, DefaultsAndNormalisingRules)
     EXPECT_FALSE(c.checked(QStringLiteral("XFillTest")));
     EXPECT_FALSE(c.set({QStringLiteral("XFillTest")}, QStringLiteral("maybe")));
 
-    EXPECT_TRUE(c.set({QStringLiteral("cmbFormat")}, QStringLiteral("Vertical")));
+    EXPECT_TRUE(c.set({QStringLiteral("cmbFormat")}, QStringLiteral("Vertikal")));
     EXPECT_EQ(c.value(QStringLiteral("cmbFormat")), 1);
     EXPECT_TRUE(c.set({QStringLiteral("cmbFormat")}, QStringLiteral("Quadratisch")));
     EXPECT_EQ(c.value(QStringLiteral("cmbFormat")), 0);

@@ -1,0 +1,44 @@
+#include "core/language.h"
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QTranslator>
+#include <memory>
+
+namespace tf {
+
+namespace {
+Language g_language = Language::German;
+std::unique_ptr<QTranslator> g_translator;
+} // namespace
+
+Language currentLanguage() { return g_language; }
+
+bool setLanguage(Language lang)
+{
+    auto translator = std::make_unique<QTranslator>();
+    const QString file = lang == Language::German ? QStringLiteral(":/i18n/tarvelle-forge_de.qm")
+                                                  : QStringLiteral(":/i18n/tarvelle-forge_en.qm");
+    if (!translator->load(file))
+        return false;
+    if (g_translator)
+        QCoreApplication::removeTranslator(g_translator.get());
+    g_translator = std::move(translator);
+    QCoreApplication::installTranslator(g_translator.get());
+    g_language = lang;
+    return true;
+}
+
+Language systemLanguage()
+{
+    return QLocale::system().language() == QLocale::German ? Language::German : Language::English;
+}
+
+int languageSettingValue(Language lang) { return lang == Language::German ? 1 : 2; }
+
+Language languageFromSettingValue(int value)
+{
+    return value == 2 ? Language::English : Language::German;
+}
+
+} // namespace tf
