@@ -7,6 +7,9 @@
 
 namespace tf {
 
+// The panels of the main window's status bar.
+enum StatusPanel { sbrState = 1, sbrSize = 2, sbrfixed = 3, sbrSFixed = 4, sbrFont = 5 };
+
 class StatusSink {
 public:
     virtual ~StatusSink() = default;
