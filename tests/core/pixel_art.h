@@ -1,0 +1,55 @@
+#pragma once
+// Pictures as text for exact pixel checks: one character per pixel, rows ended by '\n'.
+// The key maps colour longs to characters; any other colour shows as '?'.
+
+#include "core/colour.h"
+#include "core/devicecontext.h"
+
+#include <QImage>
+#include <map>
+#include <string>
+
+namespace tf::test {
+
+using ArtKey = std::map<ColorLong, char>;
+
+// White '.', black '#', red 'r', green 'g', blue 'b'.
+inline const ArtKey &basicKey()
+{
+    static const ArtKey key{{0xFFFFFF, '.'}, {0x000000, '#'}, {0x0000FF, 'r'},
+                            {0x00FF00, 'g'}, {0xFF0000, 'b'}};
+    return key;
+}
+
+inline std::string art(const DeviceContext &dc, const ArtKey &key = basicKey())
+{
+    std::string s;
+    for (int y = 0; y < dc.height(); ++y) {
+        for (int x = 0; x < dc.width(); ++x) {
+            const auto it = key.find(dc.pixel(x, y));
+            s += it == key.end() ? '?' : it->second;
+        }
+        s += '\n';
+    }
+    return s;
+}
+
+inline std::string art(const QImage &image, const ArtKey &key = basicKey())
+{
+    QImage copy = image;
+    DeviceContext dc(&copy, false);
+    return art(dc, key);
+}
+
+// One row of a picture.
+inline std::string artRow(const QImage &image, int y, const ArtKey &key = basicKey())
+{
+    std::string s;
+    for (int x = 0; x < image.width(); ++x) {
+        const auto it = key.find(fromQRgb(image.pixel(x, y)));
+        s += it == key.end() ? '?' : it->second;
+    }
+    return s;
+}
+
+} // namespace tf::test
