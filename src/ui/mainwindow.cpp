@@ -1,11 +1,271 @@
 #include "ui/mainwindow.h"
 
+#include "core/pictureformats.h"
+#include "paint/groups.h"
+#include "ui/pictureview.h"
+#include "ui/sizedialog.h"
+#include "ui/statusbar.h"
+
+#include <QAction>
+#include <QActionGroup>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QScrollArea>
+#include <QStatusBar>
+#include <QToolBar>
+
 namespace tf::ui {
 
 MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
 {
-    setWindowTitle(QStringLiteral("Tarvelle-Forge"));
-    resize(1000, 760);
+    setObjectName(QStringLiteral("frmMain"));
+    m_status = std::make_unique<StatusBarSink>(statusBar());
+    m_session.setPrompter(&m_prompter);
+    m_session.setStatus(m_status.get());
+    m_session.setYieldHook(&m_yield);
+
+    m_picContainer = new QScrollArea(this);
+    m_picContainer->setObjectName(QStringLiteral("picContainer"));
+    m_picContainer->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    m_picContainer->setBackgroundRole(QPalette::Dark);
+    m_view = new PictureView(m_session.workspace().Bild);
+    m_picContainer->setWidget(m_view);
+    setCentralWidget(m_picContainer);
+
+    createActions();
+    createMenus();
+    createToolBar();
+
+    Workspace &ws = m_session.workspace();
+    ws.setCommandsHook([this] { updateCommands(); });
+    ws.setLayoutHook([this] {
+        m_view->syncSize();
+        refreshStatus();
+    });
+    ws.Bild.setAutoRedraw(true);
+    ws.Bild.Cls();
+
+    retranslate();
+    updateCommands();
+    refreshStatus();
+    resize(1000, 800);
+}
+
+MainWindow::~MainWindow()
+{
+    m_session.workspace().setCommandsHook({});
+    m_session.workspace().setLayoutHook({});
+}
+
+void MainWindow::createActions()
+{
+    for (int i = 0; i < NewPictureFormatCount; ++i) {
+        auto *a = new QAction(this);
+        connect(a, &QAction::triggered, this, [this, i] { newPicture(i); });
+        mn_New_Picformat.push_back(a);
+    }
+    mn_Undo = new QAction(this);
+    mn_Undo->setShortcut(QKeySequence::Undo);
+    connect(mn_Undo, &QAction::triggered, this, &MainWindow::undoRedo);
+    mn_Ende = new QAction(this);
+    mn_Ende->setShortcut(QKeySequence::Quit);
+    connect(mn_Ende, &QAction::triggered, this, &QWidget::close);
+
+    m_groupActions = new QActionGroup(this);
+    for (int g = 1; g <= GroupCount; ++g) {
+        auto *a = new QAction(this);
+        a->setCheckable(true);
+        // The ten groups answer to the keys 1 to 9 and A with the control key.
+        a->setShortcut(QKeySequence(Qt::CTRL | (g < 10 ? Qt::Key(Qt::Key_0 + g) : Qt::Key_A)));
+        m_groupActions->addAction(a);
+        connect(a, &QAction::triggered, this, [this, g] { chooseGroup(g); });
+        mn_Grafmodes[size_t(g - 1)] = a;
+    }
+    mn_Grafmodes[0]->setChecked(true);
+
+    tbDefault = new QAction(this);
+    connect(tbDefault, &QAction::triggered, this, &MainWindow::resetDefaults);
+    tbDrucken = new QAction(this);
+    tbDrucken->setShortcut(QKeySequence::Print);
+    connect(tbDrucken, &QAction::triggered, this, &MainWindow::printPicture);
+}
+
+void MainWindow::createMenus()
+{
+    m_fileMenu = menuBar()->addMenu(QString());
+    m_newMenu = m_fileMenu->addMenu(QString());
+    for (QAction *a : mn_New_Picformat)
+        m_newMenu->addAction(a);
+    m_newMenu->insertSeparator(mn_New_Picformat[1]);
+    m_newMenu->insertSeparator(mn_New_Picformat[7]);
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(tbDrucken);
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(mn_Ende);
+
+    m_editMenu = menuBar()->addMenu(QString());
+    m_editMenu->addAction(mn_Undo);
+    m_editMenu->addSeparator();
+    m_editMenu->addAction(tbDefault);
+
+    m_grafModesMenu = menuBar()->addMenu(QString());
+    for (QAction *a : mn_Grafmodes)
+        m_grafModesMenu->addAction(a);
+}
+
+void MainWindow::createToolBar()
+{
+    m_toolBar = addToolBar(QString());
+    m_toolBar->setObjectName(QStringLiteral("Toolbar1"));
+    m_toolBar->setMovable(false);
+    m_toolBar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    m_toolBar->addAction(tbDefault);
+    m_toolBar->addAction(tbDrucken);
+}
+
+void MainWindow::retranslate()
+{
+    m_fileMenu->setTitle(tr("&Datei"));
+    m_newMenu->setTitle(tr("&Neu"));
+    for (int i = 0; i < NewPictureFormatCount; ++i)
+        mn_New_Picformat[size_t(i)]->setText(
+            QCoreApplication::translate("PictureFormats", newPictureFormats()[size_t(i)].caption));
+    mn_Undo->setText(tr("&Undo / Redo"));
+    mn_Ende->setText(tr("&Beenden"));
+    m_editMenu->setTitle(tr("&Bearbeiten"));
+    m_grafModesMenu->setTitle(tr("&Grafikmodus"));
+    for (int g = 1; g <= GroupCount; ++g) {
+        const QString key = g < 10 ? QString::number(g) : QStringLiteral("A");
+        mn_Grafmodes[size_t(g - 1)]->setText(QStringLiteral("&%1 ").arg(key) +
+                                             QCoreApplication::translate("Groups", groupTitle(g)));
+    }
+    m_toolBar->setWindowTitle(tr("Werkzeugleiste"));
+    tbDefault->setText(tr("Default"));
+    tbDefault->setToolTip(tr("Alle Optionen auf ihre Vorgaben setzen"));
+    tbDrucken->setText(tr("Drucken"));
+    const int group = m_session.paint().GrafGroup;
+    m_toolBar->setToolTip(QCoreApplication::translate("Groups", groupTitle(group)).replace(QStringLiteral("&&"), QStringLiteral("&")));
+    Set_MDI_Caption();
+    refreshStatus();
+}
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::Set_MDI_Caption()
+{
+    QString title = QStringLiteral("Tarvelle-Forge");
+    if (!m_fileName.isEmpty())
+        title += QStringLiteral(" - ") + m_fileName;
+    if (m_session.workspace().BildChanged)
+        title += QStringLiteral(" *");
+    setWindowTitle(title);
+}
+
+void MainWindow::refreshStatus()
+{
+    const Workspace &ws = m_session.workspace();
+    m_status->setPanelText(sbrSize, QStringLiteral("%1 x %2").arg(ws.BildW).arg(ws.BildH));
+}
+
+void MainWindow::updateCommands()
+{
+    const CommandState &c = m_session.workspace().commands;
+    mn_Undo->setEnabled(c.undo);
+    tbDrucken->setEnabled(c.print);
+    Set_MDI_Caption();
+}
+
+void MainWindow::New_BildSize(int w, int h) { m_session.workspace().New_BildSize(w, h); }
+
+void MainWindow::newPicture(int formatIndex)
+{
+    Workspace &ws = m_session.workspace();
+    if (ws.BildChanged &&
+        m_session.ask(tr("Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert."),
+                      Buttons::YesNo, Icon::Question) != Answer::Yes)
+        return;
+    const NewPictureFormat &f = newPictureFormats()[size_t(formatIndex)];
+    int w = f.width, h = f.height;
+    if (formatIndex == 0) {
+        SizeDialog dialog(ws.NewFormatW, ws.NewFormatH, this);
+        if (dialog.exec() != QDialog::Accepted)
+            return;
+        w = dialog.pictureWidth();
+        h = dialog.pictureHeight();
+    }
+    ws.NewFormatW = w;
+    ws.NewFormatH = h;
+    ws.NewFormatMax = std::max(w, h);
+    ws.New_BildSize(w, h);
+    ws.Bild.setPicture(QImage());
+    ws.Bild_CLEAR();
+    ws.BildUndo.setPicture(QImage());
+    ws.lastaction.clear();
+    ws.BildChanged = false;
+    CommandState c = ws.commands;
+    c.undo = false;
+    c.print = false;
+    ws.commands = c;
+    updateCommands();
+    m_fileName.clear();
+    Set_MDI_Caption();
+}
+
+void MainWindow::undoRedo()
+{
+    m_session.workspace().Menu_UndoRedo();
+    refreshStatus();
+    Set_MDI_Caption();
+    m_view->setFocus();
+}
+
+void MainWindow::chooseGroup(int group)
+{
+    m_session.paint().GrafGroup = group;
+    m_toolBar->setToolTip(QCoreApplication::translate("Groups", groupTitle(group)).replace(QStringLiteral("&&"), QStringLiteral("&")));
+}
+
+void MainWindow::resetDefaults() { m_session.controls().resetToDefaults(); }
+
+void MainWindow::printPicture()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintDialog dialog(&printer, this);
+    dialog.setWindowTitle(tr("Bild drucken"));
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QPainter p(&printer);
+    const QImage &image = m_session.workspace().Bild.Image();
+    const QRect page = p.viewport();
+    QSize size = image.size();
+    size.scale(page.size(), Qt::KeepAspectRatio);
+    p.setViewport(page.x() + (page.width() - size.width()) / 2,
+                  page.y() + (page.height() - size.height()) / 2, size.width(), size.height());
+    p.setWindow(image.rect());
+    p.drawImage(0, 0, image);
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (m_session.workspace().BildChanged &&
+        m_session.ask(tr("Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert. "
+                         "Wollen Sie trotzdem beenden?"),
+                      Buttons::YesNo, Icon::Question) != Answer::Yes) {
+        event->ignore();
+        return;
+    }
+    event->accept();
 }
 
 } // namespace tf::ui
