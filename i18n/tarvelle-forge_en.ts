@@ -1,5 +1,17 @@
-<?xml version='1.0' encoding='utf-8'?>
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="de">
+<context>
+    <name>Fixings</name>
+    <message>
+        <source>fixiert</source>
+        <translation>fixed</translation>
+    </message>
+    <message>
+        <source>nicht fixiert</source>
+        <translation>not fixed</translation>
+    </message>
+</context>
 <context>
     <name>Groups</name>
     <message>
@@ -99,6 +111,43 @@
     </message>
 </context>
 <context>
+    <name>Rescue</name>
+    <message>
+        <source>Nach dem letzten Beenden von Tarvelle-Forge gibt es noch ein wiederherstellbares Undobild. Dies ist die letzte Chance das Bild zu retten. Soll das Bild gerettet werden?</source>
+        <translation>Since Tarvelle-Forge was last closed, a recoverable undo picture has been left over. This is the last chance to save the picture. Shall the picture be saved?</translation>
+    </message>
+    <message>
+        <source>Der Pfad/Name des geretteten Bildes ist %1</source>
+        <translation>The path/name of the saved picture is %1</translation>
+    </message>
+    <message>
+        <source>Nach dem letzten Beenden von Tarvelle-Forge gibt es noch eine wiederherstellbare Undobildmaske. Dies ist die letzte Chance das Bild zu retten. Soll die Bildmaske gerettet werden?</source>
+        <translation>Since Tarvelle-Forge was last closed, a recoverable undo picture mask has been left over. This is the last chance to save the picture. Shall the picture mask be saved?</translation>
+    </message>
+    <message>
+        <source>Der Pfad/Name des geretteten Bildmaske ist %1</source>
+        <translation>The path/name of the saved picture mask is %1</translation>
+    </message>
+</context>
+<context>
+    <name>SingleInstance</name>
+    <message>
+        <source>Sorry</source>
+        <translation>Sorry</translation>
+    </message>
+    <message>
+        <source>Tarvelle-Forge is running soon!</source>
+        <translation>Tarvelle-Forge is running soon!</translation>
+    </message>
+</context>
+<context>
+    <name>TempFiles</name>
+    <message>
+        <source>Das neue Verzeichnis %1 wurde erstellt.</source>
+        <translation>The new directory %1 was created.</translation>
+    </message>
+</context>
+<context>
     <name>tf::ui::MainWindow</name>
     <message>
         <source>&amp;Datei</source>
@@ -151,6 +200,109 @@
     <message>
         <source>Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert. Wollen Sie trotzdem beenden?</source>
         <translation>The picture has been changed and its current state has not been saved yet. Do you want to exit anyway?</translation>
+    </message>
+    <message>
+        <source>Ö&amp;ffnen ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Speichern unter ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fixieren  &lt;F4&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fixieren</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restaurieren</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Optionen ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Datei %1 kann nicht als Bild gelesen werden.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bilder werden als BMP, JPEG oder PNG gespeichert: die Endung %1 ist unbekannt.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Die Datei %1 kann nicht geschrieben werden.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bild öffnen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bilder (*.bmp *.jpg *.jpeg *.png *.gif);;Alle Dateien (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bild speichern</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::OptionsDialog</name>
+    <message>
+        <source>Ordner suchen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Systemoptionen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Sonstige </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Sprache </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zwischenablage beim Beenden leeren</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> Fixieren / Restaurieren </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fixierungen beim Beenden löschen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Anzahl der Fixierungen:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Verzeichnis für temporäre Dateien:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Übernehmen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
