@@ -60,7 +60,12 @@ bool ExtFloodFill(DeviceContext &dc, int x, int y, ColorLong crColor, unsigned f
         return false;
     crColor &= 0xFFFFFF;
     const bool surface = fillType == FLOODFILLSURFACE;
-    auto inside = [&](int px, int py) { return (dc.pixel(px, py) == crColor) == surface; };
+    const DeviceContext &pixels = dc; // reads without detaching the image for every pixel
+    const int bpp = dc.bytesPerPixel();
+    auto inside = [&](int px, int py) {
+        const uchar *p = pixels.scanLine(py) + px * bpp;
+        return (ColorLong(p[2] | (p[1] << 8) | (p[0] << 16)) == crColor) == surface;
+    };
     if (!inside(x, y))
         return false;
     const auto spans = floodSpans(dc.clip(), x, y, inside);

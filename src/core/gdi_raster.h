@@ -11,6 +11,7 @@
 
 #include <QPoint>
 #include <QRect>
+#include <algorithm>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -59,13 +60,25 @@ int64_t thinLine(int64_t x1, int64_t y1, int64_t x2, int64_t y2, bool includeEnd
         iFirst = std::max<int64_t>(iFirst, m0 - hi);
         iLast = std::min<int64_t>(iLast, m0 - lo);
     }
+    if (iFirst > iLast)
+        return n;
+    // Minor offset of step i: i * dMinor / dMajor rounded, a half away from the start, i.e.
+    // (2 i dMinor + dMajor) div (2 dMajor), stepped with its remainder. The first value is
+    // computed in 128 bits since far-away lines can exceed 64.
+    __extension__ typedef __int128 Wide;
     const int64_t dMajor = xMajor ? adx : ady, dMinor = xMajor ? ady : adx;
+    const int64_t den = 2 * std::max<int64_t>(dMajor, 1);
+    const Wide num = Wide(2) * iFirst * dMinor + dMajor;
+    int64_t off = int64_t(num / den), rem = int64_t(num % den);
     for (int64_t i = iFirst; i <= iLast; ++i) {
-        // Minor offset: i * dMinor / dMajor rounded, a half away from the start.
-        const int64_t off = dMajor == 0 ? 0 : (2 * i * dMinor + dMajor) / (2 * dMajor);
         const int64_t x = xMajor ? x1 + sx * i : x1 + sx * off;
         const int64_t y = xMajor ? y1 + sy * off : y1 + sy * i;
         f(int(x), int(y), i);
+        rem += 2 * dMinor;
+        if (rem >= den) {
+            ++off;
+            rem -= den;
+        }
     }
     return n;
 }

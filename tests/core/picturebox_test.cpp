@@ -69,6 +69,10 @@ TEST(PictureBoxLine, FarAwayLinesAreClippedWithoutWalkingThem)
     Canvas c(6, 3);
     c.pb.Line(-1e9, 1, 1e9, 1);
     EXPECT_EQ(artRow(c.pb.Image(), 1), "######");
+    c.pb.Line(-2e9, -2e9 + 2, 2e9, 2e9 + 2, 0xFF); // the diagonal through (0, 2)
+    EXPECT_EQ(art(c.pb.Image()), "......\n"
+                                 "######\n"
+                                 "r.....\n");
     EXPECT_THROW(c.pb.Line(0, 0, 1e10, 0), Fault); // beyond 32 bits: Overflow
 }
 
