@@ -111,6 +111,13 @@ void PictureBox::markChanged(const QRect &r)
     m_hook(r.isEmpty() ? whole : r.intersected(whole));
 }
 
+void PictureBox::drawn(const QRect &r)
+{
+    const QRect visible = r.intersected(m_image.rect());
+    if (!visible.isEmpty())
+        markChanged(visible);
+}
+
 // ---- Drawing state -------------------------------------------------------------------------
 
 void PictureBox::syncPen() { m_dc.pen = Pen{m_drawStyle, m_drawWidth, m_foreColor}; }

@@ -221,6 +221,8 @@ private:
     // The font that the Font* properties describe.
     Font propertyFont() const;
     void drawLine(int x1, int y1, int x2, int y2, ColorLong colour, LineFlags flags);
+    // Reports what a drawing operation changed; nothing when it changed no pixel.
+    void drawn(const QRect &r);
 
     QString m_name;
     QImage m_image;

@@ -48,7 +48,7 @@ void PictureBox::Circle(double x, double y, double radius, ColorLong colour,
     const ColorLong c = detail::penColour(*this, colour);
     const QRect changed = raster::drawRoundBox(dc, shape, detail::strokeOf(*this, c),
                                                m_fillStyle == 0 ? m_fillColor : -1, arc);
-    markChanged(changed);
+    drawn(changed);
 }
 
 } // namespace tf

@@ -31,7 +31,7 @@ void PictureBox::drawLine(int x1, int y1, int x2, int y2, ColorLong colour, Line
         }
         changed = raster::drawRoundBox(dc, box, stroke, fill);
     }
-    markChanged(changed);
+    drawn(changed);
 }
 
 void PictureBox::Line(double x1, double y1, double x2, double y2, ColorLong colour,

@@ -11,7 +11,7 @@ void PictureBox::PSet(double x, double y, ColorLong colour)
     const int px = detail::pixelOf(x), py = detail::pixelOf(y);
     DeviceContext &dc = beginDrawing();
     detail::DrawScope scope(dc, m_drawMode);
-    markChanged(raster::drawDot(dc, px, py, m_drawWidth, detail::penColour(*this, colour)));
+    drawn(raster::drawDot(dc, px, py, m_drawWidth, detail::penColour(*this, colour)));
     m_currentX = CSng(x);
     m_currentY = CSng(y);
 }
@@ -47,7 +47,7 @@ void PictureBox::PaintPicture(const QImage &source, double x1, double y1, std::o
 
     DeviceContext &dc = beginDrawing();
     StretchBlt(dc, dx, dy, dw, dh, src, sx, sy, sw, sh, rop);
-    markChanged(QRect(dx, dy, dw, dh).normalized());
+    drawn(QRect(dx, dy, dw, dh).normalized());
 }
 
 void PictureBox::PaintPicture(PictureBox &source, double x1, double y1, std::optional<double> w1,

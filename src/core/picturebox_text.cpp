@@ -54,7 +54,7 @@ void PictureBox::Print(const QString &text, bool newline)
         const int x = detail::pixelOf(m_currentX), y = detail::pixelOf(m_currentY);
         if (!line.isEmpty()) {
             TextOutA(dc, x, y, line);
-            markChanged(QRect(x, y, m.horizontalAdvance(line), step));
+            drawn(QRect(x, y, m.horizontalAdvance(line), step));
         }
         if (i + 1 < lines.size() || newline) {
             m_currentX = 0;

@@ -324,6 +324,8 @@ TEST(PictureBoxPersistence, ChangesReachTheHook)
     pb.Line(2, 3, 6, 3);
     ASSERT_EQ(seen.size(), 1u);
     EXPECT_EQ(seen[0], QRect(QPoint(2, 3), QPoint(5, 3)));
+    pb.Line(20, 20, 30, 30); // off the picture: nothing to repaint
+    EXPECT_EQ(seen.size(), 1u);
     pb.Refresh();
     EXPECT_EQ(seen.back(), QRect(0, 0, 10, 10));
 }
