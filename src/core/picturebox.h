@@ -177,7 +177,8 @@ public:
     void Cls();
     // Draws `text` at CurrentX/Y in ForeColor with the font (background by FontTransparent).
     // With `newline` the pen moves to x 0 and down by TextHeight, else right by TextWidth.
-    // Line breaks in `text` start new lines at x 0.
+    // Line breaks in `text` start new lines at x 0. An empty text draws nothing but reports
+    // the whole picture changed, so that what was drawn through hDC() reaches the view.
     void Print(const QString &text = QString(), bool newline = true);
     // Copies `source` (or its part from (x2,y2), w2 x h2) to (x1,y1) stretched to w1 x h1 by
     // the raster operation `rop`. Omitted sizes are the source's own.

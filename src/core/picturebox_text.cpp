@@ -48,6 +48,8 @@ void PictureBox::Print(const QString &text, bool newline)
     const QFontMetrics m(toQFont(dc.font));
     const int step = lineHeight(m);
 
+    if (text.isEmpty())
+        markChanged();
     const QStringList lines = linesOf(text);
     for (qsizetype i = 0; i < lines.size(); ++i) {
         const QString &line = lines[i];

@@ -326,6 +326,10 @@ TEST(PictureBoxPersistence, ChangesReachTheHook)
     EXPECT_EQ(seen[0], QRect(QPoint(2, 3), QPoint(5, 3)));
     pb.Line(20, 20, 30, 30); // off the picture: nothing to repaint
     EXPECT_EQ(seen.size(), 1u);
+    BitBlt(pb.hDC(), 0, 0, 10, 10, nullptr, 0, 0, BLACKNESS);
+    pb.Print(); // the classic way to show what went through the context
+    EXPECT_EQ(seen.back(), QRect(0, 0, 10, 10));
+    seen.clear();
     pb.Refresh();
     EXPECT_EQ(seen.back(), QRect(0, 0, 10, 10));
 }
