@@ -1,5 +1,4 @@
-<?xml version="1.0" encoding="utf-8"?>
-<!DOCTYPE TS>
+<?xml version='1.0' encoding='utf-8'?>
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
     <name>Fixings</name>
@@ -203,106 +202,106 @@
     </message>
     <message>
         <source>Ö&amp;ffnen ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Open ...</translation>
     </message>
     <message>
         <source>&amp;Speichern unter ...</source>
-        <translation type="unfinished"></translation>
+        <translation>Save &amp;as ...</translation>
     </message>
     <message>
         <source>Fixieren  &lt;F4&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>Fix  &lt;F4&gt;</translation>
     </message>
     <message>
         <source>Fixieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Fix</translation>
     </message>
     <message>
         <source>Restaurieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Restore</translation>
     </message>
     <message>
         <source>&amp;Optionen ...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Options ...</translation>
     </message>
     <message>
         <source>Die Datei %1 kann nicht als Bild gelesen werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file %1 cannot be read as a picture.</translation>
     </message>
     <message>
         <source>Bilder werden als BMP, JPEG oder PNG gespeichert: die Endung %1 ist unbekannt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pictures are saved as BMP, JPEG or PNG: the extension %1 is unknown.</translation>
     </message>
     <message>
         <source>Die Datei %1 kann nicht geschrieben werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file %1 cannot be written.</translation>
     </message>
     <message>
         <source>Bild öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Open picture</translation>
     </message>
     <message>
         <source>Bilder (*.bmp *.jpg *.jpeg *.png *.gif);;Alle Dateien (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pictures (*.bmp *.jpg *.jpeg *.png *.gif);;All files (*)</translation>
     </message>
     <message>
         <source>Bild speichern</source>
-        <translation type="unfinished"></translation>
+        <translation>Save picture</translation>
     </message>
     <message>
         <source>PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)</translation>
     </message>
 </context>
 <context>
     <name>tf::ui::OptionsDialog</name>
     <message>
         <source>Ordner suchen</source>
-        <translation type="unfinished"></translation>
+        <translation>Browse for Folder</translation>
     </message>
     <message>
         <source>Systemoptionen</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferences</translation>
     </message>
     <message>
         <source> Sonstige </source>
-        <translation type="unfinished"></translation>
+        <translation> Miscellaneous </translation>
     </message>
     <message>
         <source> Sprache </source>
-        <translation type="unfinished"></translation>
+        <translation> Language </translation>
     </message>
     <message>
         <source>Zwischenablage beim Beenden leeren</source>
-        <translation type="unfinished"></translation>
+        <translation>Empty the clipboard on exit</translation>
     </message>
     <message>
         <source> Fixieren / Restaurieren </source>
-        <translation type="unfinished"></translation>
+        <translation> Fix / Restore </translation>
     </message>
     <message>
         <source>Fixierungen beim Beenden löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete fixings on exit</translation>
     </message>
     <message>
         <source>Anzahl der Fixierungen:</source>
-        <translation type="unfinished"></translation>
+        <translation>Number of fixings:</translation>
     </message>
     <message>
         <source>Verzeichnis für temporäre Dateien:</source>
-        <translation type="unfinished"></translation>
+        <translation>Folder for temporary files:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
     </message>
     <message>
         <source>Übernehmen</source>
-        <translation type="unfinished"></translation>
+        <translation>Apply</translation>
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>

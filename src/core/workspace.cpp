@@ -247,11 +247,11 @@ void Workspace::Menu_UndoRedo()
             return;
         const QImage current = Bild.Image();
 
-        // The former picture goes to the undo slot first, so a failing write leaves the picture
-        // as it was.
-        if (inFile) {
+        // The former picture becomes the undo image, in memory or on disk by its own size; it
+        // is put away first, so a failing write leaves the picture as it was.
+        const bool currentToFile = undoGoesToFile(std::max(current.width(), current.height()), false);
+        if (currentToFile)
             saveToFile(current, undoFile(false));
-        }
 
         // After a resize or a quarter turn the undo image has the other size: the workspace
         // takes it, which for a turn exchanges width and height.
@@ -262,10 +262,13 @@ void Workspace::Menu_UndoRedo()
 
         Bild.setPicture(undo);
         Bild.markChanged();
-        if (!inFile) {
+        if (currentToFile) {
+            BildUndo.setPicture(QImage());
+        } else {
             BildUndo.resize(current.width(), current.height());
             BildUndo.setPicture(current);
         }
+        m_bildUndoInFile = currentToFile;
         BildChanged = true;
     });
 }

@@ -29,6 +29,8 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     m_session.setPrompter(&m_prompter);
     m_session.setStatus(m_status.get());
     m_session.setYieldHook(&m_yield);
+    m_fixings = std::make_unique<Fixings>(m_session.workspace(), *m_status);
+    m_fixings->setPaintRunning([this] { return m_session.paint().running; });
 
     m_picContainer = new QScrollArea(this);
     m_picContainer->setObjectName(QStringLiteral("picContainer"));
@@ -70,6 +72,34 @@ void MainWindow::createActions()
         connect(a, &QAction::triggered, this, [this, i] { newPicture(i); });
         mn_New_Picformat.push_back(a);
     }
+    for (size_t i = 0; i < mn_File.size(); ++i) {
+        auto *a = new QAction(this);
+        connect(a, &QAction::triggered, this, [this, i] {
+            const QString path = m_mru.file(int(i) + 1);
+            if (!path.isEmpty())
+                openPicture(path);
+        });
+        mn_File[i] = a;
+    }
+    mn_Oeffnen = new QAction(this);
+    mn_Oeffnen->setShortcut(QKeySequence::Open);
+    connect(mn_Oeffnen, &QAction::triggered, this, &MainWindow::openDialog);
+    mn_Speichern = new QAction(this);
+    mn_Speichern->setShortcut(QKeySequence::Save);
+    connect(mn_Speichern, &QAction::triggered, this, &MainWindow::saveAsDialog);
+    mn_Fixieren = new QAction(this);
+    mn_Fixieren->setShortcut(QKeySequence(Qt::Key_F4));
+    connect(mn_Fixieren, &QAction::triggered, this, [this] {
+        m_fixings->BtnFix_Click();
+    });
+    mn_Restaurieren = new QAction(this);
+    connect(mn_Restaurieren, &QAction::triggered, this, [this] {
+        m_fixings->BtnRestore_Click();
+        refreshStatus();
+        Set_MDI_Caption();
+    });
+    mn_Optionen = new QAction(this);
+    connect(mn_Optionen, &QAction::triggered, this, &MainWindow::showOptions);
     mn_Undo = new QAction(this);
     mn_Undo->setShortcut(QKeySequence::Undo);
     connect(mn_Undo, &QAction::triggered, this, &MainWindow::undoRedo);
@@ -104,8 +134,18 @@ void MainWindow::createMenus()
         m_newMenu->addAction(a);
     m_newMenu->insertSeparator(mn_New_Picformat[1]);
     m_newMenu->insertSeparator(mn_New_Picformat[7]);
+    m_fileMenu->addAction(mn_Oeffnen);
+    m_fileMenu->addAction(mn_Speichern);
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(mn_Fixieren);
+    m_fileMenu->addAction(mn_Restaurieren);
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(tbDrucken);
+    m_fileMenu->addSeparator();
+    for (QAction *a : mn_File)
+        m_fileMenu->addAction(a);
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(mn_Optionen);
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(mn_Ende);
 
@@ -125,6 +165,9 @@ void MainWindow::createToolBar()
     m_toolBar->setObjectName(QStringLiteral("Toolbar1"));
     m_toolBar->setMovable(false);
     m_toolBar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    m_toolBar->addAction(mn_Fixieren);
+    m_toolBar->addAction(mn_Restaurieren);
+    m_toolBar->addSeparator();
     m_toolBar->addAction(tbDefault);
     m_toolBar->addAction(tbDrucken);
 }
@@ -136,6 +179,14 @@ void MainWindow::retranslate()
     for (int i = 0; i < NewPictureFormatCount; ++i)
         mn_New_Picformat[size_t(i)]->setText(
             QCoreApplication::translate("PictureFormats", newPictureFormats()[size_t(i)].caption));
+    mn_Oeffnen->setText(tr("Ö&ffnen ..."));
+    mn_Speichern->setText(tr("&Speichern unter ..."));
+    mn_Fixieren->setText(tr("Fixieren  <F4>"));
+    mn_Fixieren->setIconText(tr("Fixieren"));
+    mn_Restaurieren->setText(tr("Restaurieren"));
+    mn_Optionen->setText(tr("&Optionen ..."));
+    updateRecentMenu();
+    m_fixings->Set_Fixstatus(m_fixings->pictureFixed());
     mn_Undo->setText(tr("&Undo / Redo"));
     mn_Ende->setText(tr("&Beenden"));
     m_editMenu->setTitle(tr("&Bearbeiten"));
@@ -182,6 +233,7 @@ void MainWindow::updateCommands()
 {
     const CommandState &c = m_session.workspace().commands;
     mn_Undo->setEnabled(c.undo);
+    mn_Speichern->setEnabled(c.save);
     tbDrucken->setEnabled(c.print);
     Set_MDI_Caption();
 }
@@ -213,6 +265,7 @@ void MainWindow::newPicture(int formatIndex)
     ws.BildUndo.setPicture(QImage());
     ws.lastaction.clear();
     ws.BildChanged = false;
+    m_formatIndex = formatIndex;
     CommandState c = ws.commands;
     c.undo = false;
     c.print = false;
@@ -265,6 +318,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         event->ignore();
         return;
     }
+    shutDown();
     event->accept();
 }
 

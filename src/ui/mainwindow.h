@@ -3,6 +3,9 @@
 // that shows `Bild` pixel for pixel, scrolled when it is larger than the frame. It owns the
 // session, and through it the workspace of named pictures.
 
+#include "core/appsettings.h"
+#include "core/fixings.h"
+#include "core/mrufilelist.h"
 #include "paint/session.h"
 #include "ui/guiprompter.h"
 #include "ui/guiyield.h"
@@ -20,6 +23,7 @@ class QToolBar;
 namespace tf::ui {
 
 class PictureView;
+struct SystemOptions;
 class StatusBarSink;
 
 class MainWindow : public QMainWindow {
@@ -29,6 +33,17 @@ public:
     ~MainWindow() override;
 
     Session &session() { return m_session; }
+    Fixings &fixings() { return *m_fixings; }
+    const cMRUFileList &recentFiles() const { return m_mru; }
+
+    // The start of the program after the window is made: settings, window place, fixings,
+    // last files, the last picture format, and the offer to rescue undo images left by a
+    // crash. Reads the settings from `store`.
+    void startUp(SettingsStore &store);
+    // Opens a picture file into Bild; answers false (after a message) when it cannot be read.
+    bool openPicture(const QString &path);
+    // Saves Bild to `path` (format by extension); answers false after a message on failure.
+    bool savePicture(const QString &path);
 
     // The title: the product name, " - " and the file name, with " *" when changed.
     void Set_MDI_Caption();
@@ -53,6 +68,13 @@ private:
     void chooseGroup(int group);
     void resetDefaults();
     void printPicture();
+    void showOptions();
+    void openDialog();
+    void saveAsDialog();
+    void updateRecentMenu();
+    void applyOptions(const SystemOptions &options);
+    // The unload steps: settings, temp files, clipboard, last files.
+    void shutDown();
 
     Session m_session;
     MessageBoxPrompter m_prompter{this};
@@ -62,6 +84,12 @@ private:
     QScrollArea *m_picContainer = nullptr;
     PictureView *m_view = nullptr;
     QString m_fileName;
+    std::unique_ptr<Fixings> m_fixings;
+    cMRUFileList m_mru;
+    AppSettings m_settings;
+    SettingsStore *m_store = nullptr;
+    int m_formatIndex = 4; // the "Neu" entry of the picture (712 x 712)
+    bool m_shutDown = false;
 
     QMenu *m_fileMenu = nullptr;
     QMenu *m_newMenu = nullptr;
@@ -69,6 +97,12 @@ private:
     QMenu *m_grafModesMenu = nullptr;
     QToolBar *m_toolBar = nullptr;
     std::vector<QAction *> mn_New_Picformat;
+    std::array<QAction *, 4> mn_File{};
+    QAction *mn_Oeffnen = nullptr;
+    QAction *mn_Speichern = nullptr;
+    QAction *mn_Fixieren = nullptr;
+    QAction *mn_Restaurieren = nullptr;
+    QAction *mn_Optionen = nullptr;
     QAction *mn_Undo = nullptr;
     QAction *mn_Ende = nullptr;
     std::array<QAction *, 10> mn_Grafmodes{};

@@ -1,9 +1,8 @@
 #include "ui/optionsdialog.h"
 
-#include "core/prompter.h"
+#include "core/tempfiles.h"
 
 #include <QCheckBox>
-#include <QCoreApplication>
 #include <QDir>
 #include <QEvent>
 #include <QFileDialog>
@@ -20,24 +19,9 @@
 
 namespace tf::ui {
 
-bool Check_CreateDir(const QString &path, Prompter &prompter)
-{
-    QDir dir(path);
-    if (dir.exists())
-        return true;
-    if (!QDir().mkpath(path))
-        return false;
-    Prompt p;
-    p.text = QCoreApplication::translate("frmOptions", "Das neue Verzeichnis %1 wurde erstellt.")
-                 .arg(QDir::toNativeSeparators(path));
-    p.icon = Icon::Information;
-    prompter.ask(p);
-    return true;
-}
-
-OptionsDialog::OptionsDialog(const SystemOptions &options, Prompter &prompter,
+OptionsDialog::OptionsDialog(const SystemOptions &options,
                              std::function<void(const SystemOptions &)> apply, QWidget *parent)
-    : QDialog(parent), m_prompter(prompter), m_apply(std::move(apply))
+    : QDialog(parent), m_apply(std::move(apply))
 {
     setObjectName(QStringLiteral("frmOptions"));
     auto *layout = new QVBoxLayout(this);
@@ -118,13 +102,9 @@ SystemOptions OptionsDialog::options() const
 bool OptionsDialog::applyOptions()
 {
     const SystemOptions o = options();
-    if (!o.tempPath.isEmpty() && !Check_CreateDir(o.tempPath, m_prompter)) {
-        Prompt p;
-        p.text = tr("Das Verzeichnis %1 kann nicht erstellt werden.").arg(QDir::toNativeSeparators(o.tempPath));
-        p.icon = Icon::Exclamation;
-        m_prompter.ask(p);
+    // A folder that cannot be made has been reported; the dialog stays open to correct it.
+    if (!o.tempPath.isEmpty() && !Check_CreateDir(o.tempPath))
         return false;
-    }
     if (m_apply)
         m_apply(o);
     return true;

@@ -16,10 +16,6 @@ class QTabWidget;
 class QGroupBox;
 class QLabel;
 
-namespace tf {
-class Prompter;
-}
-
 namespace tf::ui {
 
 struct SystemOptions {
@@ -30,15 +26,11 @@ struct SystemOptions {
     Language language = Language::German;
 };
 
-// Creates `path` when it does not exist and tells the user so through the prompter.
-// Answers false when the folder neither exists nor could be made.
-bool Check_CreateDir(const QString &path, Prompter &prompter);
-
 class OptionsDialog : public QDialog {
     Q_OBJECT
 public:
     // `apply` receives the options at OK and Apply.
-    OptionsDialog(const SystemOptions &options, Prompter &prompter,
+    OptionsDialog(const SystemOptions &options,
                   std::function<void(const SystemOptions &)> apply, QWidget *parent = nullptr);
 
     SystemOptions options() const;
@@ -54,7 +46,6 @@ private:
     void retranslate();
     void browse();
 
-    Prompter &m_prompter;
     std::function<void(const SystemOptions &)> m_apply;
     QTabWidget *tbsOptions;
     QWidget *m_pageSundry;

@@ -163,3 +163,24 @@ TEST_F(WorkspaceTest, SelectionUndoImagesFollowTheSameRule)
     EXPECT_EQ(ws.PicSelect.Point(3, 3), RGB(8, 8, 8));
     EXPECT_TRUE(prompter.asked().empty());
 }
+
+TEST_F(WorkspaceTest, AnUndoneLargePictureGoesToDiskNotToMemory)
+{
+    ws.New_BildSize(700, 700);
+    paintAll(RGB(10, 20, 30));
+    ws.Bild_nachUndo();
+    EXPECT_FALSE(undoFileExists());
+    ws.New_BildSize(800, 700); // enlarged: the undo image stays the 700 one in memory
+    ws.lastaction = QStringLiteral("BILDRESIZED");
+    paintAll(RGB(40, 50, 60));
+
+    ws.Menu_UndoRedo();
+    EXPECT_EQ(ws.BildW, 700);
+    EXPECT_EQ(at(699, 699), RGB(10, 20, 30));
+    EXPECT_TRUE(undoFileExists());                // the 800-wide picture went to disk
+    EXPECT_TRUE(ws.BildUndo.Picture().isNull());  // and holds no copy in memory
+    ws.Menu_UndoRedo();
+    EXPECT_EQ(ws.BildW, 800);
+    EXPECT_EQ(at(799, 0), RGB(40, 50, 60));
+    EXPECT_TRUE(prompter.asked().empty());
+}
