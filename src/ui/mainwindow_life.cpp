@@ -18,7 +18,11 @@
 #include <QImageReader>
 #include <QSaveFile>
 #include <QScreen>
+#include <QMenuBar>
 #include <QScrollArea>
+#include <QStatusBar>
+#include <QStyle>
+#include <QToolBar>
 #include <QStandardPaths>
 
 namespace tf::ui {
@@ -43,8 +47,10 @@ void MainWindow::startUp(SettingsStore &store)
         setGeometry(keepOnScreen(m_settings.mainRect(), screen));
     } else {
         // The first start: room for the standard picture, as far as the screen allows.
-        const QSize chrome = size() - m_picContainer->viewport()->size();
-        const QSize want = QSize(712, 712) + chrome + QSize(8, 8);
+        const int bar = m_picContainer->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+        const int chromeH = menuBar()->sizeHint().height() + statusBar()->sizeHint().height() +
+                            m_toolBar->sizeHint().height();
+        const QSize want(712 + bar + 8, 712 + chromeH + bar + 8);
         setGeometry(keepOnScreen(QRect(screen.topLeft() + QPoint(20, 20), want), screen));
     }
     if (m_settings.MainWState == 2)
