@@ -1,6 +1,220 @@
 <?xml version='1.0' encoding='utf-8'?>
 <TS version="2.1" language="de" sourcelanguage="de">
 <context>
+    <name>Cli</name>
+    <message>
+        <source>Unbekannte Sprache: %1 (de oder en)</source>
+        <translation>Unbekannte Sprache: %1 (de oder en)</translation>
+    </message>
+    <message>
+        <source>Der Option %1 fehlt ihr Wert.</source>
+        <translation>Der Option %1 fehlt ihr Wert.</translation>
+    </message>
+    <message>
+        <source>Unbekannte Option: %1</source>
+        <translation>Unbekannte Option: %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Grafiktyp: %1</source>
+        <translation>Unbekannter Grafiktyp: %1</translation>
+    </message>
+    <message>
+        <source>Ungültige Größe: %1 (BREITExHÖHE, 1 bis 14000)</source>
+        <translation>Ungültige Größe: %1 (BREITExHÖHE, 1 bis 14000)</translation>
+    </message>
+    <message>
+        <source>Ungültige Farbe: %1 (#RRGGBB)</source>
+        <translation>Ungültige Farbe: %1 (#RRGGBB)</translation>
+    </message>
+    <message>
+        <source>Ungültiger Wert für %1: %2</source>
+        <translation>Ungültiger Wert für %1: %2</translation>
+    </message>
+    <message>
+        <source>Ungültiger Startwert: %1</source>
+        <translation>Ungültiger Startwert: %1</translation>
+    </message>
+    <message>
+        <source>Ungültige Einstellung: %1 (STEUERELEMENT=WERT)</source>
+        <translation>Ungültige Einstellung: %1 (STEUERELEMENT=WERT)</translation>
+    </message>
+    <message>
+        <source>Ungültige Transparenz: %1 (0 bis 100)</source>
+        <translation>Ungültige Transparenz: %1 (0 bis 100)</translation>
+    </message>
+    <message>
+        <source>Überzähliges Argument: %1</source>
+        <translation>Überzähliges Argument: %1</translation>
+    </message>
+    <message>
+        <source>Es fehlt der Grafiktyp.</source>
+        <translation>Es fehlt der Grafiktyp.</translation>
+    </message>
+    <message>
+        <source>Unbekanntes Steuerelement: %1</source>
+        <translation>Unbekanntes Steuerelement: %1</translation>
+    </message>
+    <message>
+        <source>Das Bild %1 kann nicht gelesen werden.</source>
+        <translation>Das Bild %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Das Malen wurde abgebrochen.</source>
+        <translation>Das Malen wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Das Malen ist fehlgeschlagen.</source>
+        <translation>Das Malen ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Das Bild %1 kann nicht geschrieben werden.</source>
+        <translation>Das Bild %1 kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>Controls</name>
+    <message>
+        <source>Freies Format (pixel)</source>
+        <translation>Freies Format (pixel)</translation>
+    </message>
+    <message>
+        <source>Freies Format (cm)</source>
+        <translation>Freies Format (cm)</translation>
+    </message>
+    <message>
+        <source>DIN-A4 Hochformat</source>
+        <translation>DIN-A4 Hochformat</translation>
+    </message>
+    <message>
+        <source>DIN-A4 Querformat</source>
+        <translation>DIN-A4 Querformat</translation>
+    </message>
+    <message>
+        <source>DIN-A3 Hochformat</source>
+        <translation>DIN-A3 Hochformat</translation>
+    </message>
+    <message>
+        <source>DIN-A3 Querformat</source>
+        <translation>DIN-A3 Querformat</translation>
+    </message>
+    <message>
+        <source>DIN-A2 Hochformat</source>
+        <translation>DIN-A2 Hochformat</translation>
+    </message>
+    <message>
+        <source>DIN-A2 Querformat</source>
+        <translation>DIN-A2 Querformat</translation>
+    </message>
+    <message>
+        <source>DIN-A1 Hochformat</source>
+        <translation>DIN-A1 Hochformat</translation>
+    </message>
+    <message>
+        <source>DIN-A1 Querformat</source>
+        <translation>DIN-A1 Querformat</translation>
+    </message>
+    <message>
+        <source>12 x 12 cm</source>
+        <translation>12 x 12 cm</translation>
+    </message>
+    <message>
+        <source>20 x 30 cm</source>
+        <translation>20 x 30 cm</translation>
+    </message>
+    <message>
+        <source>30 x 20 cm</source>
+        <translation>30 x 20 cm</translation>
+    </message>
+    <message>
+        <source>24 x 30 cm</source>
+        <translation>24 x 30 cm</translation>
+    </message>
+    <message>
+        <source>30 x 24 cm</source>
+        <translation>30 x 24 cm</translation>
+    </message>
+    <message>
+        <source>30 x 40 cm</source>
+        <translation>30 x 40 cm</translation>
+    </message>
+    <message>
+        <source>40 x 30 cm</source>
+        <translation>40 x 30 cm</translation>
+    </message>
+    <message>
+        <source>30 x 45 cm</source>
+        <translation>30 x 45 cm</translation>
+    </message>
+    <message>
+        <source>45 x 30 cm</source>
+        <translation>45 x 30 cm</translation>
+    </message>
+    <message>
+        <source>Allgemein</source>
+        <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Anzahl</source>
+        <translation>Anzahl</translation>
+    </message>
+    <message>
+        <source>Stift</source>
+        <translation>Stift</translation>
+    </message>
+    <message>
+        <source>Schrittweite</source>
+        <translation>Schrittweite</translation>
+    </message>
+    <message>
+        <source>Transparenz</source>
+        <translation>Transparenz</translation>
+    </message>
+    <message>
+        <source>Ränder</source>
+        <translation>Ränder</translation>
+    </message>
+    <message>
+        <source>Zentrieren</source>
+        <translation>Zentrieren</translation>
+    </message>
+    <message>
+        <source>Füllen</source>
+        <translation>Füllen</translation>
+    </message>
+    <message>
+        <source>Weiß füllen</source>
+        <translation>Weiß füllen</translation>
+    </message>
+    <message>
+        <source>Auto-Anti-Aliasing</source>
+        <translation>Auto-Anti-Aliasing</translation>
+    </message>
+    <message>
+        <source>Bildformat</source>
+        <translation>Bildformat</translation>
+    </message>
+    <message>
+        <source>DPI</source>
+        <translation>DPI</translation>
+    </message>
+    <message>
+        <source>Breite</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Höhe</source>
+        <translation>Höhe</translation>
+    </message>
+    <message>
+        <source>Superformat Breite</source>
+        <translation>Superformat Breite</translation>
+    </message>
+    <message>
+        <source>Superformat Höhe</source>
+        <translation>Superformat Höhe</translation>
+    </message>
+</context>
+<context>
     <name>Fixings</name>
     <message>
         <source>fixiert</source>
@@ -9,6 +223,21 @@
     <message>
         <source>nicht fixiert</source>
         <translation>nicht fixiert</translation>
+    </message>
+</context>
+<context>
+    <name>GrafDialog</name>
+    <message>
+        <source>Paint &lt;F5&gt;</source>
+        <translation>Paint &lt;F5&gt;</translation>
+    </message>
+    <message>
+        <source>STO&amp;PP !</source>
+        <translation>STO&amp;PP !</translation>
+    </message>
+    <message>
+        <source>Stopped - Wait!</source>
+        <translation>Stopped - Wait!</translation>
     </message>
 </context>
 <context>
@@ -52,6 +281,29 @@
     <message>
         <source>Papiermuster</source>
         <translation>Papiermuster</translation>
+    </message>
+</context>
+<context>
+    <name>PaintDriver</name>
+    <message>
+        <source>Die Ausgabe wurde angehalten! Bitte bestätigen.</source>
+        <translation>Die Ausgabe wurde angehalten! Bitte bestätigen.</translation>
+    </message>
+    <message>
+        <source>Sie haben keine Grafikoption ausgewählt!</source>
+        <translation>Sie haben keine Grafikoption ausgewählt!</translation>
+    </message>
+    <message>
+        <source>Eine Trennlinie malt nichts.</source>
+        <translation>Eine Trennlinie malt nichts.</translation>
+    </message>
+    <message>
+        <source>„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.</source>
+        <translation>„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.</translation>
+    </message>
+    <message>
+        <source>Startwert %1</source>
+        <translation>Startwert %1</translation>
     </message>
 </context>
 <context>
@@ -144,6 +396,56 @@
     <message>
         <source>Das neue Verzeichnis %1 wurde erstellt.</source>
         <translation>Das neue Verzeichnis %1 wurde erstellt.</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::FeatDialogDock</name>
+    <message>
+        <source>Optionen</source>
+        <translation>Optionen</translation>
+    </message>
+    <message>
+        <source>Dieser Grafiktyp liest nur die allgemeinen Optionen des Maldialogs.</source>
+        <translation>Dieser Grafiktyp liest nur die allgemeinen Optionen des Maldialogs.</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::GrafDialogDock</name>
+    <message>
+        <source>(keine Vorschau)</source>
+        <translation>(keine Vorschau)</translation>
+    </message>
+    <message>
+        <source>Bildformat: %1</source>
+        <translation>Bildformat: %1</translation>
+    </message>
+    <message>
+        <source>Malen &lt;F5&gt;</source>
+        <translation>Malen &lt;F5&gt;</translation>
+    </message>
+    <message>
+        <source>Vorheriger Typ der Gruppe, dann malen</source>
+        <translation>Vorheriger Typ der Gruppe, dann malen</translation>
+    </message>
+    <message>
+        <source>Nächster Typ der Gruppe, dann malen</source>
+        <translation>Nächster Typ der Gruppe, dann malen</translation>
+    </message>
+    <message>
+        <source>Fixieren</source>
+        <translation>Fixieren</translation>
+    </message>
+    <message>
+        <source>Restaurieren</source>
+        <translation>Restaurieren</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation>Clip</translation>
+    </message>
+    <message>
+        <source>Das Bild in die Zwischenablage kopieren</source>
+        <translation>Das Bild in die Zwischenablage kopieren</translation>
     </message>
 </context>
 <context>
@@ -251,6 +553,30 @@
     <message>
         <source>PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)</source>
         <translation>PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)</translation>
+    </message>
+    <message>
+        <source>Malen</source>
+        <translation>Malen</translation>
+    </message>
+    <message>
+        <source>Als Befehlszeile kopieren</source>
+        <translation>Als Befehlszeile kopieren</translation>
+    </message>
+    <message>
+        <source>Den Befehl, der das letzte Bild wieder malt, in die Zwischenablage kopieren</source>
+        <translation>Den Befehl, der das letzte Bild wieder malt, in die Zwischenablage kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Ansicht</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>Es wurde noch nichts gemalt.</source>
+        <translation>Es wurde noch nichts gemalt.</translation>
+    </message>
+    <message>
+        <source>Befehlszeile in die Zwischenablage kopiert.</source>
+        <translation>Befehlszeile in die Zwischenablage kopiert.</translation>
     </message>
 </context>
 <context>

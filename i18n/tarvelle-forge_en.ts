@@ -1,6 +1,220 @@
 <?xml version='1.0' encoding='utf-8'?>
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
+    <name>Cli</name>
+    <message>
+        <source>Unbekannte Sprache: %1 (de oder en)</source>
+        <translation>Unknown language: %1 (de or en)</translation>
+    </message>
+    <message>
+        <source>Der Option %1 fehlt ihr Wert.</source>
+        <translation>The option %1 lacks its value.</translation>
+    </message>
+    <message>
+        <source>Unbekannte Option: %1</source>
+        <translation>Unknown option: %1</translation>
+    </message>
+    <message>
+        <source>Unbekannter Grafiktyp: %1</source>
+        <translation>Unknown graphics type: %1</translation>
+    </message>
+    <message>
+        <source>Ungültige Größe: %1 (BREITExHÖHE, 1 bis 14000)</source>
+        <translation>Invalid size: %1 (WIDTHxHEIGHT, 1 to 14000)</translation>
+    </message>
+    <message>
+        <source>Ungültige Farbe: %1 (#RRGGBB)</source>
+        <translation>Invalid colour: %1 (#RRGGBB)</translation>
+    </message>
+    <message>
+        <source>Ungültiger Wert für %1: %2</source>
+        <translation>Invalid value for %1: %2</translation>
+    </message>
+    <message>
+        <source>Ungültiger Startwert: %1</source>
+        <translation>Invalid seed: %1</translation>
+    </message>
+    <message>
+        <source>Ungültige Einstellung: %1 (STEUERELEMENT=WERT)</source>
+        <translation>Invalid setting: %1 (CONTROL=VALUE)</translation>
+    </message>
+    <message>
+        <source>Ungültige Transparenz: %1 (0 bis 100)</source>
+        <translation>Invalid transparency: %1 (0 to 100)</translation>
+    </message>
+    <message>
+        <source>Überzähliges Argument: %1</source>
+        <translation>Unexpected argument: %1</translation>
+    </message>
+    <message>
+        <source>Es fehlt der Grafiktyp.</source>
+        <translation>The graphics type is missing.</translation>
+    </message>
+    <message>
+        <source>Unbekanntes Steuerelement: %1</source>
+        <translation>Unknown control: %1</translation>
+    </message>
+    <message>
+        <source>Das Bild %1 kann nicht gelesen werden.</source>
+        <translation>The picture %1 cannot be read.</translation>
+    </message>
+    <message>
+        <source>Das Malen wurde abgebrochen.</source>
+        <translation>The paint was interrupted.</translation>
+    </message>
+    <message>
+        <source>Das Malen ist fehlgeschlagen.</source>
+        <translation>The paint failed.</translation>
+    </message>
+    <message>
+        <source>Das Bild %1 kann nicht geschrieben werden.</source>
+        <translation>The picture %1 cannot be written.</translation>
+    </message>
+</context>
+<context>
+    <name>Controls</name>
+    <message>
+        <source>Freies Format (pixel)</source>
+        <translation>Free format (pixel)</translation>
+    </message>
+    <message>
+        <source>Freies Format (cm)</source>
+        <translation>Free format (inch)</translation>
+    </message>
+    <message>
+        <source>DIN-A4 Hochformat</source>
+        <translation>DIN-A4 vertical</translation>
+    </message>
+    <message>
+        <source>DIN-A4 Querformat</source>
+        <translation>DIN-A4 horizontal</translation>
+    </message>
+    <message>
+        <source>DIN-A3 Hochformat</source>
+        <translation>DIN-A3 vertical</translation>
+    </message>
+    <message>
+        <source>DIN-A3 Querformat</source>
+        <translation>DIN-A3 horizontal</translation>
+    </message>
+    <message>
+        <source>DIN-A2 Hochformat</source>
+        <translation>DIN-A2 vertical</translation>
+    </message>
+    <message>
+        <source>DIN-A2 Querformat</source>
+        <translation>DIN-A2 horizontal</translation>
+    </message>
+    <message>
+        <source>DIN-A1 Hochformat</source>
+        <translation>DIN-A1 vertical</translation>
+    </message>
+    <message>
+        <source>DIN-A1 Querformat</source>
+        <translation>DIN-A1 horizontal</translation>
+    </message>
+    <message>
+        <source>12 x 12 cm</source>
+        <translation>12 x 12 cm</translation>
+    </message>
+    <message>
+        <source>20 x 30 cm</source>
+        <translation>20 x 30 cm</translation>
+    </message>
+    <message>
+        <source>30 x 20 cm</source>
+        <translation>30 x 20 cm</translation>
+    </message>
+    <message>
+        <source>24 x 30 cm</source>
+        <translation>24 x 30 cm</translation>
+    </message>
+    <message>
+        <source>30 x 24 cm</source>
+        <translation>30 x 24 cm</translation>
+    </message>
+    <message>
+        <source>30 x 40 cm</source>
+        <translation>30 x 40 cm</translation>
+    </message>
+    <message>
+        <source>40 x 30 cm</source>
+        <translation>40 x 30 cm</translation>
+    </message>
+    <message>
+        <source>30 x 45 cm</source>
+        <translation>30 x 45 cm</translation>
+    </message>
+    <message>
+        <source>45 x 30 cm</source>
+        <translation>45 x 30 cm</translation>
+    </message>
+    <message>
+        <source>Allgemein</source>
+        <translation>General</translation>
+    </message>
+    <message>
+        <source>Anzahl</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Stift</source>
+        <translation>Pen</translation>
+    </message>
+    <message>
+        <source>Schrittweite</source>
+        <translation>Step</translation>
+    </message>
+    <message>
+        <source>Transparenz</source>
+        <translation>Transparency</translation>
+    </message>
+    <message>
+        <source>Ränder</source>
+        <translation>Borders</translation>
+    </message>
+    <message>
+        <source>Zentrieren</source>
+        <translation>Center</translation>
+    </message>
+    <message>
+        <source>Füllen</source>
+        <translation>Fill</translation>
+    </message>
+    <message>
+        <source>Weiß füllen</source>
+        <translation>Fill white</translation>
+    </message>
+    <message>
+        <source>Auto-Anti-Aliasing</source>
+        <translation>Auto anti-aliasing</translation>
+    </message>
+    <message>
+        <source>Bildformat</source>
+        <translation>Picture format</translation>
+    </message>
+    <message>
+        <source>DPI</source>
+        <translation>DPI</translation>
+    </message>
+    <message>
+        <source>Breite</source>
+        <translation>Width</translation>
+    </message>
+    <message>
+        <source>Höhe</source>
+        <translation>Height</translation>
+    </message>
+    <message>
+        <source>Superformat Breite</source>
+        <translation>Supersize width</translation>
+    </message>
+    <message>
+        <source>Superformat Höhe</source>
+        <translation>Supersize height</translation>
+    </message>
+</context>
+<context>
     <name>Fixings</name>
     <message>
         <source>fixiert</source>
@@ -9,6 +223,21 @@
     <message>
         <source>nicht fixiert</source>
         <translation>not fixed</translation>
+    </message>
+</context>
+<context>
+    <name>GrafDialog</name>
+    <message>
+        <source>Paint &lt;F5&gt;</source>
+        <translation>Paint &lt;F5&gt;</translation>
+    </message>
+    <message>
+        <source>STO&amp;PP !</source>
+        <translation>STO&amp;P !</translation>
+    </message>
+    <message>
+        <source>Stopped - Wait!</source>
+        <translation>Stopped - Wait!</translation>
     </message>
 </context>
 <context>
@@ -52,6 +281,29 @@
     <message>
         <source>Papiermuster</source>
         <translation>Papers</translation>
+    </message>
+</context>
+<context>
+    <name>PaintDriver</name>
+    <message>
+        <source>Die Ausgabe wurde angehalten! Bitte bestätigen.</source>
+        <translation>Output stopped! Please confirm.</translation>
+    </message>
+    <message>
+        <source>Sie haben keine Grafikoption ausgewählt!</source>
+        <translation>Please select a graficoption!</translation>
+    </message>
+    <message>
+        <source>Eine Trennlinie malt nichts.</source>
+        <translation>A separator paints nothing.</translation>
+    </message>
+    <message>
+        <source>„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.</source>
+        <translation>"%1" paints nothing yet: its painter is not built in.</translation>
+    </message>
+    <message>
+        <source>Startwert %1</source>
+        <translation>Seed %1</translation>
     </message>
 </context>
 <context>
@@ -144,6 +396,56 @@
     <message>
         <source>Das neue Verzeichnis %1 wurde erstellt.</source>
         <translation>The new directory %1 was created.</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::FeatDialogDock</name>
+    <message>
+        <source>Optionen</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Dieser Grafiktyp liest nur die allgemeinen Optionen des Maldialogs.</source>
+        <translation type="unfinished" />
+    </message>
+</context>
+<context>
+    <name>tf::ui::GrafDialogDock</name>
+    <message>
+        <source>(keine Vorschau)</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Bildformat: %1</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Malen &lt;F5&gt;</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Vorheriger Typ der Gruppe, dann malen</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Nächster Typ der Gruppe, dann malen</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Fixieren</source>
+        <translation type="unfinished">Fix</translation>
+    </message>
+    <message>
+        <source>Restaurieren</source>
+        <translation type="unfinished">Restore</translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Das Bild in die Zwischenablage kopieren</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>
@@ -251,6 +553,30 @@
     <message>
         <source>PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)</source>
         <translation>PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)</translation>
+    </message>
+    <message>
+        <source>Malen</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Als Befehlszeile kopieren</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Den Befehl, der das letzte Bild wieder malt, in die Zwischenablage kopieren</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>&amp;Ansicht</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Es wurde noch nichts gemalt.</source>
+        <translation type="unfinished" />
+    </message>
+    <message>
+        <source>Befehlszeile in die Zwischenablage kopiert.</source>
+        <translation type="unfinished" />
     </message>
 </context>
 <context>

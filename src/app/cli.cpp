@@ -1,12 +1,15 @@
 #include "app/cli.h"
 
+#include "app/cli_common.h"
 #include "app/version.h"
+#include "core/language.h"
 
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QString>
 #include <QStringList>
-#include <cstdio>
-#include <cstdlib>
+#include <functional>
+#include <map>
 
 namespace tf::cli {
 
@@ -17,11 +20,55 @@ const char *const usage =
     "\n"
     "Without a command the desktop program starts.\n"
     "\n"
-    "Options:\n"
-    "  -h, --help       show this help and exit\n"
-    "  -v, --version    show the version and exit\n";
+    "Commands:\n"
+    "  paint TYPE [OPTIONS]   paint one graphics type and save the picture\n"
+    "  types                  the groups and types: key, English and German caption\n"
+    "  controls [TYPE]        the option controls (of a type): name, kind, default, range,\n"
+    "                         caption\n"
+    "\n"
+    "Options of paint:\n"
+    "  -o, --output FILE      the picture to write; .png, .jpg or .bmp by its extension\n"
+    "                         (default: the type's key with .png)\n"
+    "  --size WxH             the picture's size (default: that of --over, else 712x712)\n"
+    "  --over FILE            paint over this picture instead of a cleared one\n"
+    "  --seed N               the seed of the random numbers: the same seed, options and size\n"
+    "                         give the same picture (default: one from the clock)\n"
+    "  --set CONTROL[(i)]=VALUE\n"
+    "                         set an option control (repeatable; see `controls TYPE`)\n"
+    "  --fore, --back, --border #RRGGBB\n"
+    "                         the colours; giving one turns random colours off\n"
+    "  --random-colors on|off, --random-values on|off\n"
+    "                         random colours, random counts and sizes (default: on)\n"
+    "  --transparency P       lay the paint over the picture at P percent (0..100)\n"
+    "\n"
+    "Options of every command:\n"
+    "  --lang de|en           the language of messages and captions\n"
+    "  -h, --help             show this help and exit\n"
+    "  -v, --version          show the version and exit\n"
+    "\n"
+    "Exit codes: 0 success, 1 the work failed, 2 bad usage.\n";
 
-void print(FILE *to, const QString &text) { std::fputs(text.toLocal8Bit().constData(), to); }
+// Takes "--lang de|en" out of the arguments and installs that language (the system's when
+// none is given).
+QStringList takeLanguage(QStringList args)
+{
+    Language lang = systemLanguage();
+    for (qsizetype i = 0; i < args.size(); ++i) {
+        if (args[i] != QLatin1String("--lang"))
+            continue;
+        const QString value = args.value(i + 1);
+        if (value == QLatin1String("de"))
+            lang = Language::German;
+        else if (value == QLatin1String("en"))
+            lang = Language::English;
+        else
+            throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Sprache: %1 (de oder en)").arg(value));
+        args.remove(i, 2);
+        --i;
+    }
+    setLanguage(lang);
+    return args;
+}
 
 } // namespace
 
@@ -37,20 +84,35 @@ int run(int argc, char **argv)
     QGuiApplication::setApplicationName(QStringLiteral("tarvelle-forge"));
     QGuiApplication::setApplicationVersion(QStringLiteral(TF_VERSION));
 
-    const QStringList args = app.arguments().mid(1);
-    const QString command = args.value(0);
+    const QStringList all = app.arguments().mid(1);
+    const QString command = all.value(0);
     if (command == QLatin1String("-h") || command == QLatin1String("--help") ||
         command == QLatin1String("help")) {
         print(stdout, QString::fromLatin1(usage));
-        return 0;
+        return ExitOk;
     }
     if (command == QLatin1String("-v") || command == QLatin1String("--version")) {
         print(stdout, QStringLiteral("tarvelle-forge %1\n").arg(QStringLiteral(TF_VERSION)));
-        return 0;
+        return ExitOk;
     }
-    print(stderr, QStringLiteral("tarvelle-forge: unknown command \"%1\"\n\n").arg(command));
-    print(stderr, QString::fromLatin1(usage));
-    return 2;
+
+    static const std::map<QString, std::function<int(const QStringList &)>> commands = {
+        {QStringLiteral("paint"), runPaint},
+        {QStringLiteral("types"), runTypes},
+        {QStringLiteral("controls"), runControls},
+    };
+    const auto it = commands.find(command);
+    if (it == commands.end()) {
+        print(stderr, QStringLiteral("tarvelle-forge: unknown command \"%1\"\n\n").arg(command));
+        print(stderr, QString::fromLatin1(usage));
+        return ExitUsage;
+    }
+    try {
+        return it->second(takeLanguage(all.mid(1)));
+    } catch (const UsageError &e) {
+        printError(e.message);
+        return ExitUsage;
+    }
 }
 
 } // namespace tf::cli

@@ -4,6 +4,9 @@ namespace tf {
 
 Session::Session() : m_workspace(std::make_unique<Workspace>())
 {
+    m_transparency.XBild = &m_workspace->Bild;
+    m_transparency.XUndo = &m_workspace->BildUndo;
+    m_transparency.XWork = &m_workspace->BildWork;
     m_prompterBefore = installPrompter(m_prompter);
 }
 

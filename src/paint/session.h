@@ -14,11 +14,17 @@
 #include "core/status.h"
 #include "core/workspace.h"
 #include "core/yield.h"
+#include "paint/colourstate.h"
 #include "paint/controls.h"
+#include "paint/grafdialog.h"
+#include "paint/paintrecord.h"
+#include "paint/transparency.h"
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 
 namespace tf {
 
@@ -31,6 +37,25 @@ struct PaintState {
     bool StopPaint = false;
     bool AutoPaintRun = false;
     bool running = false;               // a paint is under way
+    bool Timer1 = false;                // the main window's animation timer runs
+    GrafDialogState dialog;             // the Paint button's caption, the type list's row
+    int progress2Max = 0;               // the second progress bar's range, 0 while hidden
+
+    // The seed of the next paint; without one a paint takes a seed from the clock.
+    std::optional<uint32_t> nextSeed;
+    // The last paint that ran (see paintrecord.h).
+    std::optional<PaintRecord> lastPaint;
+
+    // The main window's routines that a paint calls; each may be left empty. Set_Toolbarstatus
+    // and Set_Fontstatus write their status panels when empty.
+    struct Hooks {
+        std::function<void()> reset_imgButtons;     // release the mouse tools
+        std::function<void()> clr_DrawStyleButtons; // clear the draw-style toggles
+        std::function<void(const QString &)> Set_Toolbarstatus;
+        std::function<void(const QString &)> Set_Fontstatus;
+        std::function<void(bool)> Set_Fixstatus;
+        std::function<void()> Handle_Formobjects;   // the option panels follow GrafKey
+    } hooks;
 };
 
 class Session {
@@ -45,6 +70,12 @@ public:
     Controls &controls() { return m_controls; }
     const Controls &controls() const { return m_controls; }
     PaintState &paint() { return m_paint; }
+    const PaintState &paint() const { return m_paint; }
+    ColourState &colours() { return m_colours; }
+    const ColourState &colours() const { return m_colours; }
+    // TranspPercent and the paint target XBild, XUndo, XWork (Bild's until Set_BILD).
+    TransparencyState &transparency() { return m_transparency; }
+    const TransparencyState &transparency() const { return m_transparency; }
 
     // The doors. Each setter takes a borrowed object (null restores the default).
     Prompter &prompter() { return *m_prompter; }
@@ -74,6 +105,8 @@ private:
     std::unique_ptr<Workspace> m_workspace;
     Controls m_controls;
     PaintState m_paint;
+    ColourState m_colours;
+    TransparencyState m_transparency;
     Random m_random;
     SessionClock m_clock;
 

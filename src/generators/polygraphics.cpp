@@ -1,0 +1,35 @@
+#include "generators/polygraphics.h"
+
+#include "core/blit.h"
+#include "core/picturebox.h"
+#include "paint/colourstate.h"
+#include "paint/painter.h"
+#include "paint/transparency.h"
+
+namespace tf {
+
+void paintBackgroundcolor(PaintContext &ctx)
+{
+    ctx.Bild_CLEAR();
+    const ColorLong colour = ctx.colours().RandomColors ? Pick_RandomColor(ctx.session) : ctx.colours().ColorBack;
+    PictureBox &target = ctx.XBild;
+    const int w = ctx.opt.W;
+    const int h = ctx.opt.H;
+    if (ctx.opt.TranspPercent >= 2 && ctx.opt.TranspPercent <= 98) {
+        // The mix works on a copy in the work picture and comes back in one block copy.
+        PictureBox &work = ctx.XWork;
+        BitBlt(work.hDC(), 0, 0, w, h, &target.hDC(), 0, 0, SRCCOPY);
+        blendColourOver(work.mutableImage(), colour, ctx.opt.TranspLevel);
+        work.markChanged();
+        BitBlt(target.hDC(), 0, 0, w, h, &work.hDC(), 0, 0, SRCCOPY);
+        target.markChanged();
+        return;
+    }
+    target.setFillStyle(0);
+    target.setFillColor(colour);
+    target.setForeColor(colour);
+    target.setDrawWidth(1);
+    target.Line(0, 0, w - 1, h - 1, colour, LineFlags::BF);
+}
+
+} // namespace tf

@@ -1,0 +1,268 @@
+#include "paint/paintdriver.h"
+
+#include "core/fault.h"
+#include "paint/catalogue.h"
+#include "paint/grafmenu.h"
+#include "paint/painter.h"
+#include "paint/session.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+
+namespace tf {
+
+namespace {
+
+const QLatin1String PaintWord("$PAINT");
+
+bool contains(const QString &text, const char *word) { return text.contains(QLatin1String(word)); }
+
+// Brings the controls of the dialog back to rest after a click.
+void restoreControls(Session &s)
+{
+    s.paint().dialog.setButtonState(GrafDialogState::Button::Rest);
+}
+
+uint32_t seedFromClock()
+{
+    // Two paints within the same millisecond still differ.
+    static uint32_t count = 0;
+    const auto ms = uint64_t(QDateTime::currentMSecsSinceEpoch());
+    return uint32_t(ms) ^ uint32_t(ms >> 32) ^ (++count * 0x9E3779B9u);
+}
+
+void setStatusText(Session &s, const QString &text) { s.status().setPanelText(sbrState, text); }
+
+// The undo image and the resets of the main window before a paint.
+void prepare(Session &s)
+{
+    Workspace &ws = s.workspace();
+    PaintState::Hooks &h = s.paint().hooks;
+    ws.Bild.setDrawMode(13);
+    if (h.reset_imgButtons)
+        h.reset_imgButtons();
+    if (h.clr_DrawStyleButtons)
+        h.clr_DrawStyleButtons();
+    ws.Bild_nachUndo();
+    // A paint on a selection blends over the selection's own undo image.
+    if (ws.PicSelect.Visible())
+        ws.PicSelect_nachUndo();
+    else if (ws.picSelectC.Visible())
+        ws.PicSelectC_nachUndo();
+    if (h.Set_Toolbarstatus)
+        h.Set_Toolbarstatus(QString());
+    else
+        setStatusText(s, QString());
+    if (h.Set_Fixstatus)
+        h.Set_Fixstatus(false);
+    if (h.Set_Fontstatus)
+        h.Set_Fontstatus(QString());
+    else
+        s.status().setPanelText(sbrFont, QString());
+}
+
+PaintRecord recordOf(const Session &s, uint32_t seed)
+{
+    const TransparencyState &t = s.transparency();
+    const ColourState &c = s.colours();
+    PaintRecord r;
+    r.GrafKey = s.paint().GrafKey;
+    r.width = t.XBild->Width();
+    r.height = t.XBild->Height();
+    r.ColorFore = c.ColorFore;
+    r.ColorBack = c.ColorBack;
+    r.ColorBorder = c.ColorBorder;
+    r.RandomColors = c.RandomColors;
+    r.RandomValues = c.RandomValues;
+    r.TranspPercent = t.TranspPercent;
+    for (auto &changed : s.controls().changed())
+        if (changed.first.name != QLatin1String("ScrollTransparence"))
+            r.controls.push_back(std::move(changed));
+    r.seed = seed;
+    return r;
+}
+
+PaintOutcome paintButton(Session &s)
+{
+    PaintState &p = s.paint();
+    Workspace &ws = s.workspace();
+    if (p.AutoPaintRun)
+        patch_lastactionpaint(s);
+
+    const QString kind = ws.lastaction.left(4);
+    if (kind == QLatin1String("RECT"))
+        ws.lastaction = ws.PicSelect.Visible() ? QStringLiteral("RECT") : QString();
+    else if (kind == QLatin1String("CIRC"))
+        ws.lastaction = ws.picSelectC.Visible() ? QStringLiteral("CIRC") : QString();
+    if (!ws.lastaction.contains(PaintWord))
+        ws.lastaction += PaintWord;
+
+    if (p.dialog.captionSaysStop()) {
+        p.dialog.setButtonState(GrafDialogState::Button::Waiting);
+        const Answer a = s.ask(QCoreApplication::translate(
+                                   "PaintDriver", "Die Ausgabe wurde angehalten! Bitte bestätigen."),
+                               Buttons::OkCancel, Icon::Question);
+        if (a == Answer::Cancel) {
+            p.dialog.setButtonState(GrafDialogState::Button::Running);
+            p.dialog.notify(GrafDialogState::Change::FocusButton);
+            return PaintOutcome::StopCancelled;
+        }
+        p.StopPaint = true;
+        restoreControls(s);
+        return PaintOutcome::StopConfirmed;
+    }
+    if (p.Timer1) {
+        p.StopPaint = true;
+        restoreControls(s);
+        return PaintOutcome::StopConfirmed;
+    }
+    restoreControls(s);
+    // A paint stopped but not yet at its next check still runs: no second one meanwhile.
+    if (p.running)
+        return PaintOutcome::Busy;
+
+    Set_BILD(s);
+    if (p.hooks.reset_imgButtons)
+        p.hooks.reset_imgButtons();
+    const int listIndex = p.dialog.ListIndex();
+    if (listIndex + 1 < 1) {
+        s.ask(QCoreApplication::translate("PaintDriver", "Sie haben keine Grafikoption ausgewählt!"),
+              Buttons::Ok, Icon::Information);
+        return PaintOutcome::NoTypeChosen;
+    }
+    if (p.GrafGroup >= 1 && p.GrafGroup <= GroupCount)
+        p.GrafTypeMem[size_t(p.GrafGroup)] = listIndex;
+    Hole_GMENU(s, listIndex + 1);
+
+    const PaintOutcome outcome = Create_Polygraphics(s);
+    if (outcome != PaintOutcome::Painted)
+        return outcome;
+
+    // The paint becomes the persistent picture.
+    ws.Bild.setPicture(ws.Bild.Image());
+    ws.BildWork.setPicture(ws.BildWork.Image());
+    ws.commands.save = true;
+    if (!p.AutoPaintRun)
+        ws.commands.print = true;
+    return PaintOutcome::Painted;
+}
+
+} // namespace
+
+PaintOutcome BtnPaint_Click(Session &s)
+{
+    PaintOutcome outcome = PaintOutcome::Failed;
+    guarded(QStringLiteral("DoPaintButton"), [&] { outcome = paintButton(s); });
+    return outcome;
+}
+
+PaintOutcome BtnPaintRoll_Click(Session &s, int index)
+{
+    PaintState &p = s.paint();
+    if (p.dialog.captionSaysStop()) {
+        restoreControls(s);
+        s.DoEvents();
+        p.StopPaint = true;
+        return PaintOutcome::StopConfirmed;
+    }
+    const auto rows = groupRows(p.GrafGroup);
+    const int n = int(rows.size());
+    if (n == 0)
+        return PaintOutcome::NoTypeChosen;
+    const int step = index == 0 ? -1 : 1;
+    // From no row, ">>" starts at the first row and "<<" at the last.
+    int i = p.dialog.ListIndex();
+    if (i < 0 || i >= n)
+        i = step > 0 ? -1 : n;
+    for (int tries = 0; tries < n; ++tries) {
+        i = (i + step + n) % n;
+        if (!rows[size_t(i)].isSeparator())
+            break;
+    }
+    ListBoxType_Click(s, i);
+    return BtnPaint_Click(s);
+}
+
+void patch_lastactionpaint(Session &s)
+{
+    Workspace &ws = s.workspace();
+    if (!ws.PicSelect.Visible() && !ws.picSelectC.Visible())
+        ws.lastaction.clear();
+    ws.BildChanged = true;
+    if (!ws.lastaction.contains(PaintWord) && contains(ws.lastaction, "MOVED"))
+        ws.lastaction = ws.lastaction.left(4) + PaintWord;
+}
+
+PaintOutcome Create_Polygraphics(Session &s)
+{
+    PaintState &p = s.paint();
+    if (p.running)
+        return PaintOutcome::Busy;
+    if (p.GrafKey == QLatin1String(SeparatorKey)) {
+        setStatusText(s, QCoreApplication::translate("PaintDriver", "Eine Trennlinie malt nichts."));
+        return PaintOutcome::NotPaintable;
+    }
+    const PainterEntry *entry = findPainter(p.GrafKey);
+    if (!entry || !entry->paint) {
+        setStatusText(s, QCoreApplication::translate("PaintDriver", "„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.")
+                             .arg(p.GrafKey));
+        return PaintOutcome::NotPaintable;
+    }
+
+    p.running = true;
+    p.StopPaint = false;
+    struct Finish {
+        Session &s;
+        ~Finish()
+        {
+            s.unseed();
+            s.paint().running = false;
+            restoreControls(s);
+        }
+    } finish{s};
+    p.dialog.setButtonState(GrafDialogState::Button::Running);
+
+    if (entry->prepare)
+        prepare(s);
+    TransparencyState &t = s.transparency();
+    t.setPercent(s.controls().value(ControlKey{QStringLiteral("ScrollTransparence")}));
+
+    const uint32_t seed = p.nextSeed.value_or(seedFromClock());
+    p.nextSeed.reset();
+    p.lastPaint = recordOf(s, seed);
+    s.seed(seed);
+    // The caption shows, and a Stop can come, before the painter starts.
+    s.DoEvents();
+
+    bool ok = true;
+    if (!p.StopPaint) {
+        ok = guarded(QStringLiteral("Create_Polygraphics"), [&] {
+            PaintContext ctx{s, *t.XBild, *t.XUndo, *t.XWork,
+                             readOptionVariables(s.controls(), t.XBild->Width(), t.XBild->Height())};
+            entry->paint(ctx);
+        });
+    }
+    setStatusText(s, QCoreApplication::translate("PaintDriver", "Startwert %1").arg(seed));
+    return ok ? PaintOutcome::Painted : PaintOutcome::Failed;
+}
+
+void init_Progress2(Session &s, int lValue)
+{
+    s.paint().progress2Max = std::max(1, lValue);
+    s.status().setProgress(0, s.paint().progress2Max);
+    s.DoEvents();
+}
+
+void set_Progress2(Session &s, int value)
+{
+    if (s.paint().progress2Max > 0)
+        s.status().setProgress(std::clamp(value, 0, s.paint().progress2Max), s.paint().progress2Max);
+}
+
+void exit_Progress2(Session &s)
+{
+    s.paint().progress2Max = 0;
+    s.status().setProgress(0, 0);
+}
+
+} // namespace tf

@@ -1,0 +1,61 @@
+#pragma once
+// What a painter is given, and the one table from type key to painter.
+//
+// A painter paints one graphics type on the paint target. It receives a PaintContext: the
+// session (colours, controls, random numbers, the doors to the user), the target pictures
+// chosen by Set_BILD and the option variables read for this paint. It brackets its drawing
+// with Start_Transparent / Ende_Transparent where its type blends, polls `stopRequested()`
+// in long loops after `DoEvents()`, and reports its own faults or lets them reach the
+// dispatcher, which reports them under "Create_Polygraphics".
+//
+// The dispatch table lists every key of the catalogue exactly once; a painter that has not
+// landed yet is a null entry. The generators install the table at start (the paint layer lies
+// below them and cannot name them itself); tests may install a table of their own.
+
+#include "core/numeric.h"
+#include "paint/optionvariables.h"
+
+#include <span>
+
+namespace tf {
+
+class PictureBox;
+class Session;
+class Workspace;
+struct ColourState;
+
+struct PaintContext {
+    Session &session;
+    PictureBox &XBild; // the target: Bild or the visible selection
+    PictureBox &XUndo;
+    PictureBox &XWork;
+    OptionVariables opt;
+
+    Workspace &workspace();
+    ColourState &colours();
+    Single Rnd();
+    void DoEvents();
+    bool stopRequested() const;
+    // Clears the target to its BackColor and Picture: Bild_CLEAR for Bild, Cls for a
+    // selection.
+    void Bild_CLEAR();
+};
+
+using Painter = void (*)(PaintContext &);
+
+struct PainterEntry {
+    const char *key;
+    Painter paint; // null: not built in yet
+    // False for the types that paint into another window or need no undo image: the
+    // dispatcher skips its preparation (undo image, tool and status resets) for them.
+    bool prepare = true;
+};
+
+// Installs the dispatch table (borrowed; it must outlive its use) and answers the one
+// installed before.
+std::span<const PainterEntry> installPainters(std::span<const PainterEntry> table);
+std::span<const PainterEntry> installedPainters();
+// The entry of a key; null when the key is not in the table.
+const PainterEntry *findPainter(const QString &key);
+
+} // namespace tf

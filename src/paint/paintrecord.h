@@ -1,0 +1,46 @@
+#pragma once
+// What a paint was made of, and the command line that makes it again.
+//
+// Every paint records its type, the size of its target, the colours, the option controls
+// that differ from their defaults, its transparency and the seed its random numbers came
+// from. `paintCommandArguments` turns the record into the arguments of
+// `tarvelle-forge paint`, which reproduce the paint on a cleared picture of that size.
+
+#include "core/colour.h"
+#include "paint/controls.h"
+
+#include <QString>
+#include <QStringList>
+#include <cstdint>
+#include <utility>
+#include <vector>
+
+namespace tf {
+
+struct PaintRecord {
+    QString GrafKey;
+    int width = 0;
+    int height = 0;
+    ColorLong ColorFore = 0;
+    ColorLong ColorBack = 0;
+    ColorLong ColorBorder = 0;
+    bool RandomColors = true;
+    bool RandomValues = true;
+    int TranspPercent = 0;
+    // The controls that differ from their defaults, the transparency scroll bar excepted.
+    std::vector<std::pair<ControlKey, QString>> controls;
+    uint32_t seed = 0;
+};
+
+// "#RRGGBB" of a colour long.
+QString colourArgument(ColorLong c);
+// The arguments after the program's name: "paint", the key, and the options.
+QStringList paintCommandArguments(const PaintRecord &r);
+// One line for a POSIX shell: "tarvelle-forge paint ..." with every argument quoted that
+// needs it.
+QString paintCommandLine(const PaintRecord &r);
+// An argument quoted for a POSIX shell: as it stands when it holds only safe characters,
+// else in single quotes.
+QString shellQuote(const QString &argument);
+
+} // namespace tf

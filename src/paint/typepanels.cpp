@@ -1,0 +1,33 @@
+#include "paint/typepanels.h"
+
+#include "paint/grafdialogpanel.h"
+
+#include <array>
+
+namespace tf {
+
+std::span<const TypePanel> typePanels()
+{
+    // Each family adds its types here as its panel lands.
+    static constexpr std::array<TypePanel, 0> table{};
+    return table;
+}
+
+QString optionPanelOf(const QString &key)
+{
+    for (const TypePanel &t : typePanels())
+        if (key == QString::fromUtf8(t.key))
+            return QString::fromLatin1(t.panel);
+    return QString();
+}
+
+QStringList panelsReadBy(const QString &key)
+{
+    QStringList out{QString::fromLatin1(GrafDialogPanelName)};
+    const QString own = optionPanelOf(key);
+    if (!own.isEmpty())
+        out << own;
+    return out;
+}
+
+} // namespace tf

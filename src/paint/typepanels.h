@@ -1,0 +1,25 @@
+#pragma once
+// Which option panel a graphics type reads: the data by which the paint dialog brings the
+// type's panel to the top (`Handle_Formobjects`), and by which `controls TYPE` lists what a
+// type reads.
+
+#include <QString>
+#include <QStringList>
+#include <span>
+
+namespace tf {
+
+struct TypePanel {
+    const char *key;   // a key of the catalogue
+    const char *panel; // the name of its option panel ("feat_01Mondrian")
+};
+
+// One row per type that has an option panel of its own; the other types read the general
+// options only.
+std::span<const TypePanel> typePanels();
+// The panel of a type, "" when it has none.
+QString optionPanelOf(const QString &key);
+// The panels a type reads: the paint dialog's general options, then its own panel if any.
+QStringList panelsReadBy(const QString &key);
+
+} // namespace tf

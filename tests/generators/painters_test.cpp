@@ -1,0 +1,49 @@
+#include "generators/painters.h"
+#include "paint/catalogue.h"
+#include "paint/controls.h"
+
+#include <gtest/gtest.h>
+#include <map>
+
+using namespace tf;
+
+TEST(PainterTable, EveryKeyOfTheCatalogueIsInTheDispatchTableExactlyOnce)
+{
+    setInternalTilesAvailable(true);
+    std::map<QString, int> inTable;
+    for (const PainterEntry &e : painterTable())
+        ++inTable[QString::fromUtf8(e.key)];
+    size_t catalogueKeys = 0;
+    for (int g = 1; g <= GroupCount; ++g)
+        for (const CatalogueRow &row : groupRows(g)) {
+            if (row.isSeparator())
+                continue;
+            ++catalogueKeys;
+            EXPECT_EQ(inTable[QString::fromUtf8(row.key)], 1) << row.key;
+        }
+    setInternalTilesAvailable(std::nullopt);
+    EXPECT_EQ(painterTable().size(), catalogueKeys);
+    EXPECT_EQ(inTable.count(QStringLiteral("-")), 0u);
+}
+
+TEST(PainterTable, OnlyTheTypesThatPaintElsewhereSkipTheUndoImage)
+{
+    QStringList noUndo;
+    for (const PainterEntry &e : painterTable())
+        if (!e.prepare)
+            noUndo << QString::fromUtf8(e.key);
+    noUndo.sort();
+    EXPECT_EQ(noUndo, (QStringList{"Bitblt-Kacheln", "Bitblt-Schmieren", "PIC-DiaShow", "The Matrix"}));
+}
+
+TEST(PainterTable, RegisteringInstallsTheTableAndTheGeneralPanel)
+{
+    registerAllPanels();
+    registerAllPanels();
+    EXPECT_EQ(installedPainters().data(), painterTable().data());
+    const PainterEntry *e = findPainter(QStringLiteral("Backgroundcolor"));
+    ASSERT_NE(e, nullptr);
+    EXPECT_NE(e->paint, nullptr);
+    EXPECT_NE(findControlSpec(ControlKey{QStringLiteral("ScrollTransparence")}), nullptr);
+    EXPECT_EQ(findPainter(QStringLiteral("Backgroundcolour")), nullptr);
+}
