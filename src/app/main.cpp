@@ -2,6 +2,7 @@
 #include "core/language.h"
 #include "core/settings.h"
 #include "core/singleinstance.h"
+#include "generators/painters.h"
 #include "ui/guiprompter.h"
 #include "ui/mainwindow.h"
 
@@ -36,6 +37,7 @@ int main(int argc, char **argv)
         return 1;
     }
 
+    tf::registerAllPanels();
     tf::ui::MainWindow window;
     window.startUp(tf::programSettings());
     window.show();

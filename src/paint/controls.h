@@ -55,6 +55,7 @@ struct ControlSpec {
     int min = 0;                     // range of Value, ListIndex and numeric Text controls
     int max = 0;                     // max < min: no range
     std::vector<const char *> items; // the list of a ListIndex control, German source texts
+    const char *unit = "";           // shown behind a Value control's number (" %")
     // Rewrites a value as the control does on change (e.g. clamps to its range); the default
     // rule clamps numbers into [min, max] when a range is given.
     std::function<QString(const QString &)> normalise;

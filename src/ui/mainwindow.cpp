@@ -1,8 +1,14 @@
 #include "ui/mainwindow.h"
 
 #include "core/pictureformats.h"
-#include "paint/groups.h"
+#include "paint/catalogue.h"
+#include "paint/grafmenu.h"
+#include "paint/paintdriver.h"
+#include "paint/paintrecord.h"
+#include "ui/featdialogdock.h"
+#include "ui/grafdialogdock.h"
 #include "ui/pictureview.h"
+#include "ui/previewcache.h"
 #include "ui/sizedialog.h"
 #include "ui/statusbar.h"
 
@@ -10,7 +16,10 @@
 #include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QClipboard>
 #include <QCoreApplication>
+#include <QDockWidget>
+#include <QGuiApplication>
 #include <QEvent>
 #include <QMenuBar>
 #include <QPainter>
@@ -40,9 +49,29 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     m_picContainer->setWidget(m_view);
     setCentralWidget(m_picContainer);
 
+    m_previews = std::make_unique<PreviewCache>();
+    m_grafDialog = new GrafDialogDock(m_session, *m_previews, this);
+    m_featDialog = new FeatDialogDock(m_session, this);
+    addDockWidget(Qt::RightDockWidgetArea, m_grafDialog);
+    addDockWidget(Qt::RightDockWidgetArea, m_featDialog);
+    connect(m_grafDialog, &GrafDialogDock::paintRequested, this, &MainWindow::paint);
+    connect(m_grafDialog, &GrafDialogDock::rollRequested, this, &MainWindow::roll);
+    connect(m_grafDialog, &GrafDialogDock::clipRequested, this, &MainWindow::copyPictureToClipboard);
+    connect(m_grafDialog, &GrafDialogDock::groupChosen, this, &MainWindow::chooseGroup);
+    connect(m_grafDialog, &GrafDialogDock::paintRunningChanged, this, &MainWindow::paintRunning);
+    m_session.controls().setChangedHook([this](const ControlKey &key) {
+        m_grafDialog->controlChanged(key);
+        m_featDialog->controlChanged(key);
+    });
+    PaintState::Hooks &hooks = m_session.paint().hooks;
+    hooks.Set_Fixstatus = [this](bool fixed) { m_fixings->Set_Fixstatus(fixed); };
+    hooks.Handle_Formobjects = [this] { m_featDialog->Handle_Formobjects(); };
+
     createActions();
     createMenus();
     createToolBar();
+    connect(m_grafDialog, &GrafDialogDock::fixRequested, mn_Fixieren, &QAction::trigger);
+    connect(m_grafDialog, &GrafDialogDock::restoreRequested, mn_Restaurieren, &QAction::trigger);
 
     Workspace &ws = m_session.workspace();
     ws.setCommandsHook([this] { updateCommands(); });
@@ -63,6 +92,8 @@ MainWindow::~MainWindow()
 {
     m_session.workspace().setCommandsHook({});
     m_session.workspace().setLayoutHook({});
+    m_session.controls().setChangedHook({});
+    m_session.paint().hooks = {};
 }
 
 void MainWindow::createActions()
@@ -100,6 +131,13 @@ void MainWindow::createActions()
     });
     mn_Optionen = new QAction(this);
     connect(mn_Optionen, &QAction::triggered, this, &MainWindow::showOptions);
+    mn_Paint = new QAction(this);
+    mn_Paint->setShortcut(QKeySequence(Qt::Key_F5));
+    mn_Paint->setShortcutContext(Qt::ApplicationShortcut);
+    connect(mn_Paint, &QAction::triggered, this, &MainWindow::paint);
+    addAction(mn_Paint);
+    mn_CopyCommand = new QAction(this);
+    connect(mn_CopyCommand, &QAction::triggered, this, &MainWindow::copyCommandLine);
     mn_Undo = new QAction(this);
     mn_Undo->setShortcut(QKeySequence::Undo);
     connect(mn_Undo, &QAction::triggered, this, &MainWindow::undoRedo);
@@ -152,11 +190,17 @@ void MainWindow::createMenus()
     m_editMenu = menuBar()->addMenu(QString());
     m_editMenu->addAction(mn_Undo);
     m_editMenu->addSeparator();
+    m_editMenu->addAction(mn_CopyCommand);
+    m_editMenu->addSeparator();
     m_editMenu->addAction(tbDefault);
 
     m_grafModesMenu = menuBar()->addMenu(QString());
     for (QAction *a : mn_Grafmodes)
         m_grafModesMenu->addAction(a);
+
+    m_viewMenu = menuBar()->addMenu(QString());
+    m_viewMenu->addAction(m_grafDialog->toggleViewAction());
+    m_viewMenu->addAction(m_featDialog->toggleViewAction());
 }
 
 void MainWindow::createToolBar()
@@ -188,6 +232,10 @@ void MainWindow::retranslate()
     updateRecentMenu();
     m_fixings->Set_Fixstatus(m_fixings->pictureFixed());
     mn_Undo->setText(tr("&Undo / Redo"));
+    mn_Paint->setText(tr("Malen"));
+    mn_CopyCommand->setText(tr("Als Befehlszeile kopieren"));
+    mn_CopyCommand->setToolTip(tr("Den Befehl, der das letzte Bild wieder malt, in die Zwischenablage kopieren"));
+    m_viewMenu->setTitle(tr("&Ansicht"));
     mn_Ende->setText(tr("&Beenden"));
     m_editMenu->setTitle(tr("&Bearbeiten"));
     m_grafModesMenu->setTitle(tr("&Grafikmodus"));
@@ -285,8 +333,56 @@ void MainWindow::undoRedo()
 
 void MainWindow::chooseGroup(int group)
 {
-    m_session.paint().GrafGroup = group;
+    if (group < 1 || group > GroupCount)
+        return;
+    tf::mn_Grafmodes(m_session, group);
+    mn_Grafmodes[size_t(group - 1)]->setChecked(true);
     m_toolBar->setToolTip(QCoreApplication::translate("Groups", groupTitle(group)).replace(QStringLiteral("&&"), QStringLiteral("&")));
+    m_featDialog->Handle_Formobjects();
+}
+
+void MainWindow::paint()
+{
+    BtnPaint_Click(m_session);
+    afterPaint();
+}
+
+void MainWindow::roll(int index)
+{
+    BtnPaintRoll_Click(m_session, index);
+    afterPaint();
+}
+
+void MainWindow::afterPaint()
+{
+    updateCommands();
+    refreshStatus();
+    Set_MDI_Caption();
+}
+
+void MainWindow::paintRunning(bool running)
+{
+    // While a paint runs, only the Paint button (now Stop) and the roll buttons are live: the
+    // paint gives way to input, and a menu command in between would change the picture under it.
+    menuBar()->setEnabled(!running);
+    m_toolBar->setEnabled(!running);
+    m_featDialog->setEnabled(!running);
+}
+
+void MainWindow::copyPictureToClipboard()
+{
+    QGuiApplication::clipboard()->setImage(m_session.workspace().Bild.Image());
+}
+
+void MainWindow::copyCommandLine()
+{
+    const auto &last = m_session.paint().lastPaint;
+    if (!last) {
+        m_status->setPanelText(sbrState, tr("Es wurde noch nichts gemalt."));
+        return;
+    }
+    QGuiApplication::clipboard()->setText(paintCommandLine(*last));
+    m_status->setPanelText(sbrState, tr("Befehlszeile in die Zwischenablage kopiert."));
 }
 
 void MainWindow::resetDefaults() { m_session.controls().resetToDefaults(); }

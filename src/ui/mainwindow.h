@@ -22,7 +22,10 @@ class QToolBar;
 
 namespace tf::ui {
 
+class FeatDialogDock;
+class GrafDialogDock;
 class PictureView;
+class PreviewCache;
 struct SystemOptions;
 class StatusBarSink;
 
@@ -68,6 +71,12 @@ private:
     void chooseGroup(int group);
     void resetDefaults();
     void printPicture();
+    void paint();
+    void roll(int index);
+    void copyPictureToClipboard();
+    void copyCommandLine();
+    void afterPaint();
+    void paintRunning(bool running);
     void showOptions();
     void openDialog();
     void saveAsDialog();
@@ -81,6 +90,9 @@ private:
     EventLoopYield m_yield;
     std::unique_ptr<StatusBarSink> m_status;
 
+    std::unique_ptr<PreviewCache> m_previews;
+    GrafDialogDock *m_grafDialog = nullptr;
+    FeatDialogDock *m_featDialog = nullptr;
     QScrollArea *m_picContainer = nullptr;
     PictureView *m_view = nullptr;
     QString m_fileName;
@@ -104,6 +116,9 @@ private:
     QAction *mn_Restaurieren = nullptr;
     QAction *mn_Optionen = nullptr;
     QAction *mn_Undo = nullptr;
+    QAction *mn_Paint = nullptr;
+    QAction *mn_CopyCommand = nullptr;
+    QMenu *m_viewMenu = nullptr;
     QAction *mn_Ende = nullptr;
     std::array<QAction *, 10> mn_Grafmodes{};
     QActionGroup *m_groupActions = nullptr;

@@ -6,6 +6,7 @@
 #include "core/settings.h"
 #include "core/tempfiles.h"
 #include "paint/groups.h"
+#include "ui/grafdialogdock.h"
 #include "ui/optionsdialog.h"
 #include "ui/pictureview.h"
 #include "ui/statusbar.h"
@@ -50,7 +51,8 @@ void MainWindow::startUp(SettingsStore &store)
         const int bar = m_picContainer->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
         const int chromeH = menuBar()->sizeHint().height() + statusBar()->sizeHint().height() +
                             m_toolBar->sizeHint().height();
-        const QSize want(712 + bar + 8, 712 + chromeH + bar + 8);
+        const int docks = m_grafDialog->isVisible() || !isVisible() ? m_grafDialog->sizeHint().width() : 0;
+        const QSize want(712 + bar + 8 + docks + 8, 712 + chromeH + bar + 8);
         setGeometry(keepOnScreen(QRect(screen.topLeft() + QPoint(20, 20), want), screen));
     }
     if (m_settings.MainWState == 2)

@@ -1,0 +1,196 @@
+#include "ui/controlpanelwidget.h"
+
+#include "core/colour.h"
+
+#include <QCheckBox>
+#include <QColorDialog>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSlider>
+
+namespace tf::ui {
+
+namespace {
+
+QString caption(const ControlSpec &spec)
+{
+    return QCoreApplication::translate("Controls", spec.caption);
+}
+
+void setButtonColour(QPushButton *b, ColorLong c)
+{
+    b->setStyleSheet(QStringLiteral("background-color: %1; min-width: 40px;")
+                         .arg(toQColor(c).name()));
+}
+
+} // namespace
+
+ControlPanelWidget::ControlPanelWidget(const ControlPanel &panel, Controls &controls, QWidget *parent)
+    : QWidget(parent), m_panel(panel), m_controls(controls)
+{
+    setObjectName(panel.name);
+    build();
+    refresh();
+}
+
+ControlPanelWidget::~ControlPanelWidget() = default;
+
+void ControlPanelWidget::build()
+{
+    auto *form = new QFormLayout(this);
+    form->setContentsMargins(4, 4, 4, 4);
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    for (const ControlSpec &spec : m_panel.controls) {
+        const ControlSpec *sp = &spec;
+        Binding b{sp, nullptr, nullptr, {}};
+        switch (spec.kind) {
+        case ControlKind::Text: {
+            if (!spec.items.empty()) {
+                auto *combo = new QComboBox(this);
+                combo->setEditable(true);
+                for (const char *item : spec.items)
+                    combo->addItem(QCoreApplication::translate("Controls", item));
+                connect(combo, &QComboBox::currentTextChanged, this,
+                        [this, sp](const QString &t) { commit(*sp, t); });
+                b.widget = combo;
+                b.show = [this, combo, sp] { combo->setCurrentText(m_controls.text(sp->key)); };
+            } else {
+                auto *edit = new QLineEdit(this);
+                connect(edit, &QLineEdit::editingFinished, this, [this, sp, edit] { commit(*sp, edit->text()); });
+                b.widget = edit;
+                b.show = [this, edit, sp] { edit->setText(m_controls.text(sp->key)); };
+            }
+            break;
+        }
+        case ControlKind::Value: {
+            auto *box = new QWidget(this);
+            auto *row = new QHBoxLayout(box);
+            row->setContentsMargins(0, 0, 0, 0);
+            auto *slider = new QSlider(Qt::Horizontal, box);
+            slider->setRange(spec.min, spec.hasRange() ? spec.max : 1000);
+            auto *number = new QLabel(box);
+            number->setMinimumWidth(44);
+            row->addWidget(slider, 1);
+            row->addWidget(number);
+            connect(slider, &QSlider::valueChanged, this, [this, sp, number](int v) {
+                number->setText(QString::number(v) + QString::fromUtf8(sp->unit));
+                commit(*sp, QString::number(v));
+            });
+            b.widget = box;
+            b.show = [this, slider, number, sp] {
+                const int v = m_controls.value(sp->key);
+                slider->setValue(v);
+                number->setText(QString::number(v) + QString::fromUtf8(sp->unit));
+            };
+            break;
+        }
+        case ControlKind::Checked: {
+            auto *check = new QCheckBox(this);
+            connect(check, &QCheckBox::toggled, this,
+                    [this, sp](bool on) { commit(*sp, on ? QStringLiteral("1") : QStringLiteral("0")); });
+            b.widget = check;
+            b.show = [this, check, sp] { check->setChecked(m_controls.checked(sp->key)); };
+            break;
+        }
+        case ControlKind::ListIndex: {
+            auto *combo = new QComboBox(this);
+            for (const char *item : spec.items)
+                combo->addItem(QCoreApplication::translate("Controls", item));
+            connect(combo, &QComboBox::currentIndexChanged, this,
+                    [this, sp](int i) { commit(*sp, QString::number(i)); });
+            b.widget = combo;
+            b.show = [this, combo, sp] { combo->setCurrentIndex(m_controls.value(sp->key)); };
+            break;
+        }
+        case ControlKind::Colour: {
+            auto *button = new QPushButton(this);
+            connect(button, &QPushButton::clicked, this, [this, sp] {
+                const QColor c = QColorDialog::getColor(toQColor(m_controls.value(sp->key)), this);
+                if (c.isValid())
+                    commit(*sp, QString::number(fromQRgb(c.rgb())));
+            });
+            b.widget = button;
+            b.show = [this, button, sp] { setButtonColour(button, m_controls.value(sp->key)); };
+            break;
+        }
+        }
+        b.widget->setObjectName(spec.key.toString());
+        if (spec.kind == ControlKind::Checked) {
+            form->addRow(b.widget);
+        } else {
+            b.label = new QLabel(this);
+            form->addRow(b.label, b.widget);
+        }
+        m_bindings.emplace(spec.key, std::move(b));
+    }
+    retranslate();
+}
+
+QWidget *ControlPanelWidget::widgetFor(const ControlKey &key) const
+{
+    auto it = m_bindings.find(key);
+    return it == m_bindings.end() ? nullptr : it->second.widget;
+}
+
+void ControlPanelWidget::refresh()
+{
+    for (auto &[key, b] : m_bindings)
+        refresh(key);
+}
+
+void ControlPanelWidget::refresh(const ControlKey &key)
+{
+    auto it = m_bindings.find(key);
+    if (it == m_bindings.end())
+        return;
+    m_showing = true;
+    it->second.show();
+    m_showing = false;
+}
+
+void ControlPanelWidget::commit(const ControlSpec &spec, const QString &value)
+{
+    if (m_showing)
+        return;
+    if (!m_controls.set(spec.key, value)) {
+        refresh(spec.key); // an unfitting value: show the value that stands
+        return;
+    }
+    // The normalising rule may have rewritten the value ("1" split becomes "2").
+    if (m_controls.text(spec.key) != value)
+        refresh(spec.key);
+}
+
+void ControlPanelWidget::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QWidget::changeEvent(event);
+}
+
+void ControlPanelWidget::retranslate()
+{
+    for (auto &[key, b] : m_bindings) {
+        const ControlSpec &spec = *b.spec;
+        if (b.label)
+            b.label->setText(caption(spec));
+        if (auto *check = qobject_cast<QCheckBox *>(b.widget))
+            check->setText(caption(spec));
+        if (spec.kind == ControlKind::ListIndex || (spec.kind == ControlKind::Text && !spec.items.empty())) {
+            auto *combo = static_cast<QComboBox *>(b.widget);
+            m_showing = true;
+            for (int i = 0; i < combo->count() && size_t(i) < spec.items.size(); ++i)
+                combo->setItemText(i, QCoreApplication::translate("Controls", spec.items[size_t(i)]));
+            b.show();
+            m_showing = false;
+        }
+    }
+}
+
+} // namespace tf::ui

@@ -1,0 +1,56 @@
+#pragma once
+// An option panel built from its control table: one widget per control, bound both ways to
+// the session's control values. A change in the widget goes through the control's normalising
+// rule (the widget then shows the normalised value); a change of the value by the engine shows
+// in the widget.
+//
+// Kinds and widgets: a Text control with items is an editable combo box, one without a line
+// edit; a Value control a slider with its number (and unit) beside it; Checked a check box;
+// ListIndex a combo box; Colour a colour button.
+
+#include "paint/controls.h"
+
+#include <QWidget>
+#include <functional>
+#include <map>
+
+class QFormLayout;
+class QLabel;
+
+namespace tf::ui {
+
+class ControlPanelWidget : public QWidget {
+    Q_OBJECT
+public:
+    ControlPanelWidget(const ControlPanel &panel, Controls &controls, QWidget *parent = nullptr);
+    ~ControlPanelWidget() override;
+
+    const ControlPanel &panel() const { return m_panel; }
+    // The widget of a control (for layouts that place some controls elsewhere); null if none.
+    QWidget *widgetFor(const ControlKey &key) const;
+    // Shows the values as they stand in the control model.
+    void refresh();
+    // Shows one control's value.
+    void refresh(const ControlKey &key);
+
+protected:
+    void changeEvent(QEvent *event) override;
+
+private:
+    struct Binding {
+        const ControlSpec *spec;
+        QWidget *widget;
+        QLabel *label;
+        std::function<void()> show;      // model -> widget
+    };
+    void build();
+    void retranslate();
+    void commit(const ControlSpec &spec, const QString &value);
+
+    const ControlPanel &m_panel;
+    Controls &m_controls;
+    std::map<ControlKey, Binding> m_bindings;
+    bool m_showing = false;
+};
+
+} // namespace tf::ui

@@ -1,0 +1,231 @@
+#include "ui/grafdialogdock.h"
+
+#include "paint/bildformate.h"
+#include "paint/catalogue.h"
+#include "paint/grafdialogpanel.h"
+#include "paint/grafmenu.h"
+#include "paint/session.h"
+#include "ui/controlpanelwidget.h"
+#include "ui/previewcache.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QGridLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace tf::ui {
+
+namespace {
+
+QString plainTitle(int group)
+{
+    return QCoreApplication::translate("Groups", groupTitle(group)).replace(QStringLiteral("&&"), QStringLiteral("&"));
+}
+
+// A small icon of a preview for the list.
+QIcon iconOf(const QImage &preview)
+{
+    if (preview.isNull()) {
+        // An empty place of the icon's size keeps the captions in line.
+        QPixmap blank(32, 32);
+        blank.fill(Qt::transparent);
+        return QIcon(blank);
+    }
+    return QIcon(QPixmap::fromImage(preview.scaled(32, 32, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)));
+}
+
+} // namespace
+
+GrafDialogDock::GrafDialogDock(Session &session, PreviewCache &previews, QWidget *parent)
+    : QDockWidget(parent), m_session(session), m_previews(previews)
+{
+    setObjectName(QStringLiteral("frmGrafDialog"));
+    setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
+
+    auto *content = new QWidget(this);
+    auto *layout = new QVBoxLayout(content);
+    layout->setContentsMargins(4, 4, 4, 4);
+
+    m_groups = new QComboBox(content);
+    for (int g = 1; g <= GroupCount; ++g)
+        m_groups->addItem(QString());
+    layout->addWidget(m_groups);
+
+    auto *listRow = new QHBoxLayout;
+    ListBoxType = new QListWidget(content);
+    ListBoxType->setObjectName(QStringLiteral("ListBoxType"));
+    ListBoxType->setIconSize(QSize(32, 32));
+    ListBoxType->setMinimumHeight(220);
+    listRow->addWidget(ListBoxType, 1);
+    m_preview = new QLabel(content);
+    m_preview->setFixedSize(PreviewCache::Side + 2, PreviewCache::Side + 2);
+    m_preview->setFrameShape(QFrame::Box);
+    m_preview->setAlignment(Qt::AlignCenter);
+    listRow->addWidget(m_preview, 0, Qt::AlignTop);
+    layout->addLayout(listRow);
+
+    auto *buttons = new QGridLayout;
+    BtnPaintRoll[0] = new QPushButton(QStringLiteral("<<"), content);
+    BtnPaint = new QPushButton(content);
+    BtnPaint->setObjectName(QStringLiteral("BtnPaint"));
+    BtnPaint->setMinimumHeight(32);
+    BtnPaintRoll[1] = new QPushButton(QStringLiteral(">>"), content);
+    buttons->addWidget(BtnPaintRoll[0], 0, 0);
+    buttons->addWidget(BtnPaint, 0, 1);
+    buttons->addWidget(BtnPaintRoll[1], 0, 2);
+    BtnFix = new QPushButton(content);
+    BtnRestore = new QPushButton(content);
+    BtnClip = new QPushButton(content);
+    buttons->addWidget(BtnFix, 1, 0);
+    buttons->addWidget(BtnRestore, 1, 1);
+    buttons->addWidget(BtnClip, 1, 2);
+    buttons->setColumnStretch(1, 1);
+    layout->addLayout(buttons);
+
+    m_general = new ControlPanelWidget(grafDialogPanel(), session.controls(), content);
+    auto *scroll = new QScrollArea(content);
+    scroll->setWidget(m_general);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    layout->addWidget(scroll, 1);
+    lblPixelSize = new QLabel(content);
+    layout->addWidget(lblPixelSize);
+    setWidget(content);
+
+    connect(BtnPaint, &QPushButton::clicked, this, &GrafDialogDock::paintRequested);
+    connect(BtnPaintRoll[0], &QPushButton::clicked, this, [this] { emit rollRequested(0); });
+    connect(BtnPaintRoll[1], &QPushButton::clicked, this, [this] { emit rollRequested(1); });
+    connect(BtnClip, &QPushButton::clicked, this, &GrafDialogDock::clipRequested);
+    connect(BtnFix, &QPushButton::clicked, this, &GrafDialogDock::fixRequested);
+    connect(BtnRestore, &QPushButton::clicked, this, &GrafDialogDock::restoreRequested);
+    connect(m_groups, &QComboBox::currentIndexChanged, this, [this](int i) {
+        if (!m_loading && i >= 0)
+            emit groupChosen(i + 1);
+    });
+    connect(ListBoxType, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (m_loading)
+            return;
+        ListBoxType_Click(m_session, row);
+        showPreview();
+    });
+
+    m_session.paint().dialog.setChangedHook([this](GrafDialogState::Change c) {
+        switch (c) {
+        case GrafDialogState::Change::Caption:
+            BtnPaint->setText(m_session.paint().dialog.BtnPaintCaption());
+            emit paintRunningChanged(m_session.paint().dialog.buttonState() != GrafDialogState::Button::Rest);
+            break;
+        case GrafDialogState::Change::TypeList:
+            loadTypeList();
+            break;
+        case GrafDialogState::Change::ListIndex: {
+            const int row = m_session.paint().dialog.ListIndex();
+            if (ListBoxType->currentRow() != row) {
+                m_loading = true;
+                ListBoxType->setCurrentRow(row);
+                m_loading = false;
+            }
+            showPreview();
+            break;
+        }
+        case GrafDialogState::Change::FocusButton:
+            BtnPaint->setFocus();
+            break;
+        }
+    });
+    retranslate();
+    loadTypeList();
+}
+
+GrafDialogDock::~GrafDialogDock()
+{
+    m_session.paint().dialog.setChangedHook({});
+}
+
+void GrafDialogDock::controlChanged(const ControlKey &key)
+{
+    m_general->refresh(key);
+    updatePixelSize();
+}
+
+void GrafDialogDock::syncFromEngine()
+{
+    loadTypeList();
+    BtnPaint->setText(m_session.paint().dialog.BtnPaintCaption());
+}
+
+void GrafDialogDock::loadTypeList()
+{
+    m_loading = true;
+    const int group = m_session.paint().GrafGroup;
+    m_groups->setCurrentIndex(group - 1);
+    setWindowTitle(plainTitle(group));
+    ListBoxType->clear();
+    const auto rows = groupRows(group);
+    for (const CatalogueRow &row : rows) {
+        auto *item = new QListWidgetItem(ListBoxType);
+        if (row.isSeparator()) {
+            // A separator shows as a line and cannot be chosen for a paint.
+            item->setText(QString(24, QChar(0x2500)));
+            item->setFlags(Qt::NoItemFlags);
+            continue;
+        }
+        item->setText(row.caption());
+        item->setIcon(iconOf(m_previews.preview(QString::fromLatin1(row.key))));
+    }
+    ListBoxType->setCurrentRow(m_session.paint().dialog.ListIndex());
+    m_loading = false;
+    showPreview();
+}
+
+void GrafDialogDock::showPreview()
+{
+    const CatalogueRow *row = groupRow(m_session.paint().GrafGroup, ListBoxType->currentRow());
+    QImage image;
+    if (row && !row->isSeparator())
+        image = m_previews.preview(QString::fromLatin1(row->key));
+    if (image.isNull()) {
+        m_preview->setPixmap(QPixmap());
+        m_preview->setText(row && !row->isSeparator() ? tr("(keine Vorschau)") : QString());
+    } else {
+        m_preview->setPixmap(QPixmap::fromImage(image));
+    }
+}
+
+void GrafDialogDock::updatePixelSize()
+{
+    lblPixelSize->setText(tr("Bildformat: %1").arg(pixelSizeLabel(Calc_Bildformate_WH(m_session.controls()))));
+}
+
+void GrafDialogDock::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QDockWidget::changeEvent(event);
+}
+
+void GrafDialogDock::retranslate()
+{
+    m_loading = true;
+    for (int g = 1; g <= GroupCount; ++g)
+        m_groups->setItemText(g - 1, plainTitle(g));
+    m_loading = false;
+    BtnPaint->setText(m_session.paint().dialog.BtnPaintCaption());
+    BtnPaint->setToolTip(tr("Malen <F5>"));
+    BtnPaintRoll[0]->setToolTip(tr("Vorheriger Typ der Gruppe, dann malen"));
+    BtnPaintRoll[1]->setToolTip(tr("Nächster Typ der Gruppe, dann malen"));
+    BtnFix->setText(tr("Fixieren"));
+    BtnRestore->setText(tr("Restaurieren"));
+    BtnClip->setText(tr("Clip"));
+    BtnClip->setToolTip(tr("Das Bild in die Zwischenablage kopieren"));
+    loadTypeList();
+    updatePixelSize();
+}
+
+} // namespace tf::ui
