@@ -54,15 +54,16 @@ QStringList takeLanguage(QStringList args)
 {
     Language lang = systemLanguage();
     for (qsizetype i = 0; i < args.size(); ++i) {
-        if (args[i] != QLatin1String("--lang"))
-            continue;
+        if (args[i] != QLatin1String("--lang")) continue;
         const QString value = args.value(i + 1);
         if (value == QLatin1String("de"))
             lang = Language::German;
         else if (value == QLatin1String("en"))
             lang = Language::English;
         else
-            throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Sprache: %1 (de oder en)").arg(value));
+            throw UsageError(
+                QCoreApplication::translate("Cli", "Unbekannte Sprache: %1 (de oder en)")
+                    .arg(value));
         args.remove(i, 2);
         --i;
     }
@@ -72,14 +73,16 @@ QStringList takeLanguage(QStringList args)
 
 } // namespace
 
-bool wantsCommandLine(int argc, char **argv) { return argc > 1 && argv[1][0] != '\0'; }
+bool wantsCommandLine(int argc, char **argv)
+{
+    return argc > 1 && argv[1][0] != '\0';
+}
 
 int run(int argc, char **argv)
 {
     // The engine draws text and pictures through Qt's painter, which needs a GUI application;
     // the command line needs no screen.
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("tarvelle-forge"));
     QGuiApplication::setApplicationVersion(QStringLiteral(TF_VERSION));

@@ -6,7 +6,10 @@
 
 namespace tf::cli {
 
-void print(FILE *to, const QString &text) { std::fputs(text.toUtf8().constData(), to); }
+void print(FILE *to, const QString &text)
+{
+    std::fputs(text.toUtf8().constData(), to);
+}
 
 void printError(const QString &message)
 {
@@ -18,22 +21,21 @@ UsageError::UsageError(const QString &m) : std::runtime_error(m.toStdString()), 
 QString Arguments::valueOf(const QString &option)
 {
     if (atEnd())
-        throw UsageError(QCoreApplication::translate("Cli", "Der Option %1 fehlt ihr Wert.").arg(option));
+        throw UsageError(
+            QCoreApplication::translate("Cli", "Der Option %1 fehlt ihr Wert.").arg(option));
     return next();
 }
 
 Answer CliPrompter::ask(const Prompt &p)
 {
-    if (p.icon == Icon::Exclamation || p.icon == Icon::Critical)
-        m_faultSeen = true;
+    if (p.icon == Icon::Exclamation || p.icon == Icon::Critical) m_faultSeen = true;
     return StderrPrompter::ask(p);
 }
 
 void TerminalStatus::setProgress(int value, int max)
 {
     RecordingStatus::setProgress(value, max);
-    if (!isatty(STDERR_FILENO))
-        return;
+    if (!isatty(STDERR_FILENO)) return;
     if (max <= 0) {
         std::fputs("\r\033[K", stderr);
         return;
@@ -47,7 +49,10 @@ void TerminalStatus::setProgress(int value, int max)
 
 namespace {
 volatile std::sig_atomic_t g_interrupted = 0;
-void onInterrupt(int) { g_interrupted = 1; }
+void onInterrupt(int)
+{
+    g_interrupted = 1;
+}
 } // namespace
 
 InterruptYield::InterruptYield()
@@ -56,10 +61,19 @@ InterruptYield::InterruptYield()
     std::signal(SIGINT, onInterrupt);
 }
 
-InterruptYield::~InterruptYield() { std::signal(SIGINT, SIG_DFL); }
+InterruptYield::~InterruptYield()
+{
+    std::signal(SIGINT, SIG_DFL);
+}
 
-bool InterruptYield::yield() { return g_interrupted != 0; }
+bool InterruptYield::yield()
+{
+    return g_interrupted != 0;
+}
 
-bool InterruptYield::interrupted() const { return g_interrupted != 0; }
+bool InterruptYield::interrupted() const
+{
+    return g_interrupted != 0;
+}
 
 } // namespace tf::cli

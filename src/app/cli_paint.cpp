@@ -45,7 +45,9 @@ QSize parseSize(const QString &text)
     const int w = m.hasMatch() ? m.captured(1).toInt() : 0;
     const int h = m.hasMatch() ? m.captured(2).toInt() : 0;
     if (w < 1 || h < 1 || w > MaxSide || h > MaxSide)
-        throw UsageError(QCoreApplication::translate("Cli", "Ungültige Größe: %1 (BREITExHÖHE, 1 bis 14000)").arg(text));
+        throw UsageError(
+            QCoreApplication::translate("Cli", "Ungültige Größe: %1 (BREITExHÖHE, 1 bis 14000)")
+                .arg(text));
     return {w, h};
 }
 
@@ -54,18 +56,18 @@ ColorLong parseColour(const QString &text)
     static const QRegularExpression re(QStringLiteral(R"(^#([0-9A-Fa-f]{6})$)"));
     const auto m = re.match(text);
     if (!m.hasMatch())
-        throw UsageError(QCoreApplication::translate("Cli", "Ungültige Farbe: %1 (#RRGGBB)").arg(text));
+        throw UsageError(
+            QCoreApplication::translate("Cli", "Ungültige Farbe: %1 (#RRGGBB)").arg(text));
     const uint rgb = m.captured(1).toUInt(nullptr, 16);
     return fromQRgb(rgb);
 }
 
 bool parseOnOff(const QString &option, const QString &text)
 {
-    if (text == QLatin1String("on"))
-        return true;
-    if (text == QLatin1String("off"))
-        return false;
-    throw UsageError(QCoreApplication::translate("Cli", "Ungültiger Wert für %1: %2").arg(option, text));
+    if (text == QLatin1String("on")) return true;
+    if (text == QLatin1String("off")) return false;
+    throw UsageError(
+        QCoreApplication::translate("Cli", "Ungültiger Wert für %1: %2").arg(option, text));
 }
 
 PaintOptions parsePaintOptions(const QStringList &words)
@@ -83,13 +85,16 @@ PaintOptions parsePaintOptions(const QStringList &words)
             bool ok = false;
             const qulonglong n = v.toULongLong(&ok);
             if (!ok || n > 0xFFFFFFFFull)
-                throw UsageError(QCoreApplication::translate("Cli", "Ungültiger Startwert: %1").arg(v));
+                throw UsageError(
+                    QCoreApplication::translate("Cli", "Ungültiger Startwert: %1").arg(v));
             o.seed = uint32_t(n);
         } else if (w == QLatin1String("--set")) {
             const QString v = a.valueOf(w);
             const qsizetype eq = v.indexOf(QLatin1Char('='));
             if (eq < 1)
-                throw UsageError(QCoreApplication::translate("Cli", "Ungültige Einstellung: %1 (STEUERELEMENT=WERT)").arg(v));
+                throw UsageError(QCoreApplication::translate(
+                                     "Cli", "Ungültige Einstellung: %1 (STEUERELEMENT=WERT)")
+                                     .arg(v));
             o.sets.emplace_back(v.left(eq), v.mid(eq + 1));
         } else if (w == QLatin1String("--fore")) {
             o.fore = parseColour(a.valueOf(w));
@@ -106,7 +111,9 @@ PaintOptions parsePaintOptions(const QStringList &words)
             bool ok = false;
             const int p = v.toInt(&ok);
             if (!ok || p < 0 || p > 100)
-                throw UsageError(QCoreApplication::translate("Cli", "Ungültige Transparenz: %1 (0 bis 100)").arg(v));
+                throw UsageError(
+                    QCoreApplication::translate("Cli", "Ungültige Transparenz: %1 (0 bis 100)")
+                        .arg(v));
             o.transparency = p;
         } else if (w == QLatin1String("--over")) {
             o.over = a.valueOf(w);
@@ -115,13 +122,15 @@ PaintOptions parsePaintOptions(const QStringList &words)
         } else if (o.type.isEmpty()) {
             o.type = w;
         } else {
-            throw UsageError(QCoreApplication::translate("Cli", "Überzähliges Argument: %1").arg(w));
+            throw UsageError(
+                QCoreApplication::translate("Cli", "Überzähliges Argument: %1").arg(w));
         }
     }
     if (o.type.isEmpty())
         throw UsageError(QCoreApplication::translate("Cli", "Es fehlt der Grafiktyp."));
     if (!findType(o.type))
-        throw UsageError(QCoreApplication::translate("Cli", "Unbekannter Grafiktyp: %1").arg(o.type));
+        throw UsageError(
+            QCoreApplication::translate("Cli", "Unbekannter Grafiktyp: %1").arg(o.type));
     return o;
 }
 
@@ -139,23 +148,23 @@ void applyControls(Session &s, const PaintOptions &o)
         const auto key = ControlKey::parse(name);
         const ControlSpec *spec = key ? findControlSpec(*key) : nullptr;
         if (!spec)
-            throw UsageError(QCoreApplication::translate("Cli", "Unbekanntes Steuerelement: %1").arg(name));
+            throw UsageError(
+                QCoreApplication::translate("Cli", "Unbekanntes Steuerelement: %1").arg(name));
         if (!s.controls().set(*key, value))
-            throw UsageError(QCoreApplication::translate("Cli", "Ungültiger Wert für %1: %2").arg(name, value));
+            throw UsageError(
+                QCoreApplication::translate("Cli", "Ungültiger Wert für %1: %2").arg(name, value));
     }
     if (o.transparency)
-        s.controls().set(ControlKey{QStringLiteral("ScrollTransparence")}, QString::number(*o.transparency));
+        s.controls().set(ControlKey{QStringLiteral("ScrollTransparence")},
+                         QString::number(*o.transparency));
 }
 
 void applyColours(Session &s, const PaintOptions &o)
 {
     ColourState &c = s.colours();
-    if (o.fore)
-        c.ColorFore = *o.fore;
-    if (o.back)
-        c.ColorBack = *o.back;
-    if (o.border)
-        c.ColorBorder = *o.border;
+    if (o.fore) c.ColorFore = *o.fore;
+    if (o.back) c.ColorBack = *o.back;
+    if (o.border) c.ColorBorder = *o.border;
     // A colour given by hand is meant to be used.
     c.RandomColors = o.randomColors.value_or(!(o.fore || o.back || o.border));
     c.RandomValues = o.randomValues.value_or(true);
@@ -164,8 +173,7 @@ void applyColours(Session &s, const PaintOptions &o)
 bool save(const QImage &image, const QString &path)
 {
     QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        return false;
+    if (!file.open(QIODevice::WriteOnly)) return false;
     const QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();
     if (!image.save(&file, format.isEmpty() ? "png" : format.constData())) {
         file.cancelWriting();
@@ -192,7 +200,8 @@ int runPaint(const QStringList &args)
         QImageReader reader(o.over);
         over = reader.read();
         if (over.isNull()) {
-            printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht gelesen werden.").arg(o.over));
+            printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht gelesen werden.")
+                           .arg(o.over));
             return ExitFailed;
         }
     }
@@ -200,16 +209,14 @@ int runPaint(const QStringList &args)
     // Undo images of large pictures go to files: a folder of this run's own keeps them away
     // from those of a running desktop program.
     QTemporaryDir temp;
-    if (temp.isValid())
-        s.workspace().setTempDir(temp.path());
+    if (temp.isValid()) s.workspace().setTempDir(temp.path());
     InterruptYield interrupt;
     s.setYieldHook(&interrupt);
 
     const QSize size = o.size.value_or(over.isNull() ? QSize(712, 712) : over.size());
     Workspace &ws = s.workspace();
     ws.New_BildSize(size.width(), size.height());
-    if (!over.isNull())
-        ws.Bild.setPicture(over);
+    if (!over.isNull()) ws.Bild.setPicture(over);
     applyColours(s, o);
 
     const TypeLocation where = *findType(o.type);
@@ -233,12 +240,12 @@ int runPaint(const QStringList &args)
     }
     const QString output = o.output.isEmpty() ? defaultOutput(o.type) : o.output;
     if (!save(ws.Bild.Image(), output)) {
-        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht geschrieben werden.").arg(output));
+        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht geschrieben werden.")
+                       .arg(output));
         return ExitFailed;
     }
     // Without a seed of its own the paint took one from the clock: the user may want it back.
-    if (!o.seed)
-        print(stderr, status.panelText(sbrState) + QLatin1Char('\n'));
+    if (!o.seed) print(stderr, status.panelText(sbrState) + QLatin1Char('\n'));
     return ExitOk;
 }
 

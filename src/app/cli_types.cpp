@@ -12,13 +12,16 @@ namespace tf::cli {
 
 namespace {
 
-QString shown(const char *title) { return QString::fromUtf8(title).replace(QLatin1String("&&"), QLatin1String("&")); }
+QString shown(const char *title)
+{
+    return QString::fromUtf8(title).replace(QLatin1String("&&"), QLatin1String("&"));
+}
 
 const char *kindName(ControlKind kind)
 {
     // Stable words for scripts, the same in both languages.
     static const std::map<ControlKind, const char *> names = {
-        {ControlKind::Text, "text"},   {ControlKind::Value, "value"},
+        {ControlKind::Text, "text"},       {ControlKind::Value, "value"},
         {ControlKind::Checked, "checked"}, {ControlKind::ListIndex, "list"},
         {ControlKind::Colour, "colour"},
     };
@@ -27,7 +30,8 @@ const char *kindName(ControlKind kind)
 
 void printPanel(const ControlPanel &panel)
 {
-    print(stdout, QStringLiteral("%1\t%2\n").arg(panel.name, QCoreApplication::translate("Controls", panel.caption)));
+    print(stdout, QStringLiteral("%1\t%2\n")
+                      .arg(panel.name, QCoreApplication::translate("Controls", panel.caption)));
     for (const ControlSpec &spec : panel.controls) {
         const QString range = spec.hasRange() ? QStringLiteral("%1..%2").arg(spec.min).arg(spec.max)
                                               : QStringLiteral("-");
@@ -50,10 +54,12 @@ void printPanel(const ControlPanel &panel)
 int runTypes(const QStringList &args)
 {
     if (!args.isEmpty())
-        throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Option: %1").arg(args.first()));
+        throw UsageError(
+            QCoreApplication::translate("Cli", "Unbekannte Option: %1").arg(args.first()));
     for (int g = 1; g <= GroupCount; ++g) {
         const CatalogueGroup &group = *catalogueGroup(g);
-        print(stdout, QStringLiteral("%1\t%2\t%3\n").arg(g).arg(shown(group.english), shown(group.german)));
+        print(stdout,
+              QStringLiteral("%1\t%2\t%3\n").arg(g).arg(shown(group.english), shown(group.german)));
         for (const CatalogueRow &row : groupRows(g))
             print(stdout, row.isSeparator()
                               ? QStringLiteral("\t-\n")
@@ -79,8 +85,7 @@ int runControls(const QStringList &args)
         throw UsageError(QCoreApplication::translate("Cli", "Unbekannter Grafiktyp: %1").arg(key));
     for (const QString &name : panelsReadBy(key))
         for (const ControlPanel *panel : controlPanels())
-            if (panel->name == name)
-                printPanel(*panel);
+            if (panel->name == name) printPanel(*panel);
     return ExitOk;
 }
 

@@ -11,7 +11,8 @@ namespace tf {
 void paintBackgroundcolor(PaintContext &ctx)
 {
     ctx.Bild_CLEAR();
-    const ColorLong colour = ctx.colours().RandomColors ? Pick_RandomColor(ctx.session) : ctx.colours().ColorBack;
+    const ColorLong colour =
+        ctx.colours().RandomColors ? Pick_RandomColor(ctx.session) : ctx.colours().ColorBack;
     PictureBox &target = ctx.XBild;
     const int w = ctx.opt.W;
     const int h = ctx.opt.H;

@@ -44,10 +44,10 @@ int toPixels(double inches, double dpi)
 
 QSize Calc_Bildformate_WH(int index, double dpi, double paperW, double paperH, Language lang)
 {
-    if (index < 0 || index >= BildformatCount)
-        return {};
+    if (index < 0 || index >= BildformatCount) return {};
     if (index == FreeFormatPixels)
-        return {int(std::max(0.0, roundHalfEven(paperW))), int(std::max(0.0, roundHalfEven(paperH)))};
+        return {int(std::max(0.0, roundHalfEven(paperW))),
+                int(std::max(0.0, roundHalfEven(paperH)))};
     if (index == FreeFormatLength) {
         const double unit = lang == Language::English ? 1.0 : CmPerInch;
         return {toPixels(paperW / unit, dpi), toPixels(paperH / unit, dpi)};

@@ -185,12 +185,15 @@ constexpr CatalogueRow group10[] = {
 const std::array<CatalogueGroup, GroupCount> &groups()
 {
     static const std::array<CatalogueGroup, GroupCount> table = {{
-        {"Boxes, Lines", QT_TRANSLATE_NOOP("Groups", "Rechtecke, Linien"), group1, std::size(group1)},
-        {"Photo && Arts", QT_TRANSLATE_NOOP("Groups", "Foto && Künstler"), group2, std::size(group2) - 2},
+        {"Boxes, Lines", QT_TRANSLATE_NOOP("Groups", "Rechtecke, Linien"), group1,
+         std::size(group1)},
+        {"Photo && Arts", QT_TRANSLATE_NOOP("Groups", "Foto && Künstler"), group2,
+         std::size(group2) - 2},
         {"Round graphs", QT_TRANSLATE_NOOP("Groups", "Runde Graphen"), group3, std::size(group3)},
         {"pOp - Art ", QT_TRANSLATE_NOOP("Groups", "pOp - Art "), group4, std::size(group4)},
         {"Gradients", QT_TRANSLATE_NOOP("Groups", "Gradienten"), group5, std::size(group5)},
-        {"Bars && Waves", QT_TRANSLATE_NOOP("Groups", "Balken && Kurven"), group6, std::size(group6)},
+        {"Bars && Waves", QT_TRANSLATE_NOOP("Groups", "Balken && Kurven"), group6,
+         std::size(group6)},
         {"Text", QT_TRANSLATE_NOOP("Groups", "Text"), group7, std::size(group7)},
         {"Borders", QT_TRANSLATE_NOOP("Groups", "Ränder"), group8, std::size(group8)},
         {"Forms", QT_TRANSLATE_NOOP("Groups", "Formen"), group9, std::size(group9)},
@@ -203,7 +206,10 @@ std::optional<bool> g_tilesOverride;
 
 } // namespace
 
-bool CatalogueRow::isSeparator() const { return std::strcmp(key, SeparatorKey) == 0; }
+bool CatalogueRow::isSeparator() const
+{
+    return std::strcmp(key, SeparatorKey) == 0;
+}
 
 QString CatalogueRow::caption(Language lang) const
 {
@@ -218,8 +224,7 @@ const CatalogueGroup *catalogueGroup(int group)
 std::span<const CatalogueRow> groupRows(int group)
 {
     const CatalogueGroup *g = catalogueGroup(group);
-    if (!g)
-        return {};
+    if (!g) return {};
     return internalTilesAvailable() ? g->allRows : g->allRows.first(g->smallRowCount);
 }
 
@@ -251,24 +256,24 @@ QString groupCaption(int group, Language lang)
 
 std::optional<TypeLocation> findType(const QString &key)
 {
-    if (key == QLatin1String(SeparatorKey))
-        return std::nullopt;
+    if (key == QLatin1String(SeparatorKey)) return std::nullopt;
     for (int group = 1; group <= GroupCount; ++group) {
         const auto rows = groupRows(group);
         for (size_t i = 0; i < rows.size(); ++i)
-            if (key == QString::fromUtf8(rows[i].key))
-                return TypeLocation{group, int(i)};
+            if (key == QString::fromUtf8(rows[i].key)) return TypeLocation{group, int(i)};
     }
     return std::nullopt;
 }
 
 bool internalTilesAvailable()
 {
-    if (g_tilesOverride)
-        return *g_tilesOverride;
+    if (g_tilesOverride) return *g_tilesOverride;
     return QFileInfo(QStringLiteral(":/tiles")).isDir();
 }
 
-void setInternalTilesAvailable(std::optional<bool> available) { g_tilesOverride = available; }
+void setInternalTilesAvailable(std::optional<bool> available)
+{
+    g_tilesOverride = available;
+}
 
 } // namespace tf

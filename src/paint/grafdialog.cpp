@@ -5,17 +5,19 @@ namespace tf {
 QString GrafDialogState::BtnPaintCaption() const
 {
     switch (m_button) {
-    case Button::Rest: return tr("Paint <F5>");
-    case Button::Running: return tr("STO&PP !");
-    case Button::Waiting: return tr("Stopped - Wait!");
+    case Button::Rest:
+        return tr("Paint <F5>");
+    case Button::Running:
+        return tr("STO&PP !");
+    case Button::Waiting:
+        return tr("Stopped - Wait!");
     }
     return QString();
 }
 
 void GrafDialogState::setButtonState(Button state)
 {
-    if (state == m_button)
-        return;
+    if (state == m_button) return;
     m_button = state;
     notify(Change::Caption);
 }
@@ -27,16 +29,14 @@ bool GrafDialogState::captionSaysStop() const
 
 void GrafDialogState::setListIndex(int index)
 {
-    if (index == m_listIndex)
-        return;
+    if (index == m_listIndex) return;
     m_listIndex = index;
     notify(Change::ListIndex);
 }
 
 void GrafDialogState::notify(Change change)
 {
-    if (m_hook)
-        m_hook(change);
+    if (m_hook) m_hook(change);
 }
 
 } // namespace tf

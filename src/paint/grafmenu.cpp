@@ -10,8 +10,10 @@ void show_GMENU(Session &s)
     PaintState &p = s.paint();
     p.dialog.notify(GrafDialogState::Change::TypeList);
     const int count = int(groupRows(p.GrafGroup).size());
-    const int remembered = p.GrafGroup >= 1 && p.GrafGroup <= GroupCount ? p.GrafTypeMem[size_t(p.GrafGroup)] : -1;
-    p.dialog.setListIndex(remembered >= 0 && remembered < count ? remembered : (count > 0 ? 0 : -1));
+    const int remembered =
+        p.GrafGroup >= 1 && p.GrafGroup <= GroupCount ? p.GrafTypeMem[size_t(p.GrafGroup)] : -1;
+    p.dialog.setListIndex(remembered >= 0 && remembered < count ? remembered
+                                                                : (count > 0 ? 0 : -1));
     p.GrafKey.clear();
 }
 
@@ -19,14 +21,12 @@ void Hole_GMENU(Session &s, int row)
 {
     PaintState &p = s.paint();
     const CatalogueRow *r = groupRow(p.GrafGroup, row - 1);
-    if (row >= 1 && r)
-        p.GrafKey = QString::fromUtf8(r->key);
+    if (row >= 1 && r) p.GrafKey = QString::fromUtf8(r->key);
 }
 
 void mn_Grafmodes(Session &s, int group)
 {
-    if (group < 1 || group > GroupCount)
-        return;
+    if (group < 1 || group > GroupCount) return;
     s.paint().GrafGroup = group;
     show_GMENU(s);
 }
@@ -36,8 +36,7 @@ void ListBoxType_Click(Session &s, int listIndex)
     PaintState &p = s.paint();
     p.dialog.setListIndex(listIndex);
     Hole_GMENU(s, listIndex + 1);
-    if (p.hooks.Handle_Formobjects)
-        p.hooks.Handle_Formobjects();
+    if (p.hooks.Handle_Formobjects) p.hooks.Handle_Formobjects();
 }
 
 } // namespace tf

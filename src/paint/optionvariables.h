@@ -11,13 +11,13 @@ namespace tf {
 class Controls;
 
 struct OptionVariables {
-    int32_t NumberValue = 0; // rounded Val(cmbNumbArr): how many figures
-    int16_t PenWidth = 1;    // rounded Val(cmbPen), at least 1
-    int16_t StepValue = 0;   // Scrollstep: a type's second quantity
-    int32_t TileSize = 0;    // side of a tile, from cmbKachelSize (see readOptionVariables)
-    bool UseBorders = false; // XBorders: outlines
-    bool UseCenter = false;  // XCenter: figures start at the centre
-    bool UseFill = false;    // XFill
+    int32_t NumberValue = 0;   // rounded Val(cmbNumbArr): how many figures
+    int16_t PenWidth = 1;      // rounded Val(cmbPen), at least 1
+    int16_t StepValue = 0;     // Scrollstep: a type's second quantity
+    int32_t TileSize = 0;      // side of a tile, from cmbKachelSize (see readOptionVariables)
+    bool UseBorders = false;   // XBorders: outlines
+    bool UseCenter = false;    // XCenter: figures start at the centre
+    bool UseFill = false;      // XFill
     bool UseFillWhite = false; // XFill_White
     bool UseDuoTable = false;  // the figures' colours come from the duo colour table
     bool UseAntiAlias = false; // XAAlias

@@ -15,7 +15,10 @@ namespace {
 
 const QLatin1String PaintWord("$PAINT");
 
-bool contains(const QString &text, const char *word) { return text.contains(QLatin1String(word)); }
+bool contains(const QString &text, const char *word)
+{
+    return text.contains(QLatin1String(word));
+}
 
 // Brings the controls of the dialog back to rest after a click.
 void restoreControls(Session &s)
@@ -31,7 +34,10 @@ uint32_t seedFromClock()
     return uint32_t(ms) ^ uint32_t(ms >> 32) ^ (++count * 0x9E3779B9u);
 }
 
-void setStatusText(Session &s, const QString &text) { s.status().setPanelText(sbrState, text); }
+void setStatusText(Session &s, const QString &text)
+{
+    s.status().setPanelText(sbrState, text);
+}
 
 // The undo image and the resets of the main window before a paint.
 void prepare(Session &s)
@@ -39,10 +45,8 @@ void prepare(Session &s)
     Workspace &ws = s.workspace();
     PaintState::Hooks &h = s.paint().hooks;
     ws.Bild.setDrawMode(13);
-    if (h.reset_imgButtons)
-        h.reset_imgButtons();
-    if (h.clr_DrawStyleButtons)
-        h.clr_DrawStyleButtons();
+    if (h.reset_imgButtons) h.reset_imgButtons();
+    if (h.clr_DrawStyleButtons) h.clr_DrawStyleButtons();
     ws.Bild_nachUndo();
     // A paint on a selection blends over the selection's own undo image.
     if (ws.PicSelect.Visible())
@@ -53,8 +57,7 @@ void prepare(Session &s)
         h.Set_Toolbarstatus(QString());
     else
         setStatusText(s, QString());
-    if (h.Set_Fixstatus)
-        h.Set_Fixstatus(false);
+    if (h.Set_Fixstatus) h.Set_Fixstatus(false);
     if (h.Set_Fontstatus)
         h.Set_Fontstatus(QString());
     else
@@ -86,22 +89,21 @@ PaintOutcome paintButton(Session &s)
 {
     PaintState &p = s.paint();
     Workspace &ws = s.workspace();
-    if (p.AutoPaintRun)
-        patch_lastactionpaint(s);
+    if (p.AutoPaintRun) patch_lastactionpaint(s);
 
     const QString kind = ws.lastaction.left(4);
     if (kind == QLatin1String("RECT"))
         ws.lastaction = ws.PicSelect.Visible() ? QStringLiteral("RECT") : QString();
     else if (kind == QLatin1String("CIRC"))
         ws.lastaction = ws.picSelectC.Visible() ? QStringLiteral("CIRC") : QString();
-    if (!ws.lastaction.contains(PaintWord))
-        ws.lastaction += PaintWord;
+    if (!ws.lastaction.contains(PaintWord)) ws.lastaction += PaintWord;
 
     if (p.dialog.captionSaysStop()) {
         p.dialog.setButtonState(GrafDialogState::Button::Waiting);
-        const Answer a = s.ask(QCoreApplication::translate(
-                                   "PaintDriver", "Die Ausgabe wurde angehalten! Bitte bestätigen."),
-                               Buttons::OkCancel, Icon::Question);
+        const Answer a =
+            s.ask(QCoreApplication::translate("PaintDriver",
+                                              "Die Ausgabe wurde angehalten! Bitte bestätigen."),
+                  Buttons::OkCancel, Icon::Question);
         if (a == Answer::Cancel) {
             p.dialog.setButtonState(GrafDialogState::Button::Running);
             p.dialog.notify(GrafDialogState::Change::FocusButton);
@@ -118,16 +120,15 @@ PaintOutcome paintButton(Session &s)
     }
     restoreControls(s);
     // A paint stopped but not yet at its next check still runs: no second one meanwhile.
-    if (p.running)
-        return PaintOutcome::Busy;
+    if (p.running) return PaintOutcome::Busy;
 
     Set_BILD(s);
-    if (p.hooks.reset_imgButtons)
-        p.hooks.reset_imgButtons();
+    if (p.hooks.reset_imgButtons) p.hooks.reset_imgButtons();
     const int listIndex = p.dialog.ListIndex();
     if (listIndex + 1 < 1) {
-        s.ask(QCoreApplication::translate("PaintDriver", "Sie haben keine Grafikoption ausgewählt!"),
-              Buttons::Ok, Icon::Information);
+        s.ask(
+            QCoreApplication::translate("PaintDriver", "Sie haben keine Grafikoption ausgewählt!"),
+            Buttons::Ok, Icon::Information);
         return PaintOutcome::NoTypeChosen;
     }
     if (p.GrafGroup >= 1 && p.GrafGroup <= GroupCount)
@@ -135,15 +136,13 @@ PaintOutcome paintButton(Session &s)
     Hole_GMENU(s, listIndex + 1);
 
     const PaintOutcome outcome = Create_Polygraphics(s);
-    if (outcome != PaintOutcome::Painted)
-        return outcome;
+    if (outcome != PaintOutcome::Painted) return outcome;
 
     // The paint becomes the persistent picture.
     ws.Bild.setPicture(ws.Bild.Image());
     ws.BildWork.setPicture(ws.BildWork.Image());
     ws.commands.save = true;
-    if (!p.AutoPaintRun)
-        ws.commands.print = true;
+    if (!p.AutoPaintRun) ws.commands.print = true;
     return PaintOutcome::Painted;
 }
 
@@ -167,17 +166,14 @@ PaintOutcome BtnPaintRoll_Click(Session &s, int index)
     }
     const auto rows = groupRows(p.GrafGroup);
     const int n = int(rows.size());
-    if (n == 0)
-        return PaintOutcome::NoTypeChosen;
+    if (n == 0) return PaintOutcome::NoTypeChosen;
     const int step = index == 0 ? -1 : 1;
     // From no row, ">>" starts at the first row and "<<" at the last.
     int i = p.dialog.ListIndex();
-    if (i < 0 || i >= n)
-        i = step > 0 ? -1 : n;
+    if (i < 0 || i >= n) i = step > 0 ? -1 : n;
     for (int tries = 0; tries < n; ++tries) {
         i = (i + step + n) % n;
-        if (!rows[size_t(i)].isSeparator())
-            break;
+        if (!rows[size_t(i)].isSeparator()) break;
     }
     ListBoxType_Click(s, i);
     return BtnPaint_Click(s);
@@ -186,8 +182,7 @@ PaintOutcome BtnPaintRoll_Click(Session &s, int index)
 void patch_lastactionpaint(Session &s)
 {
     Workspace &ws = s.workspace();
-    if (!ws.PicSelect.Visible() && !ws.picSelectC.Visible())
-        ws.lastaction.clear();
+    if (!ws.PicSelect.Visible() && !ws.picSelectC.Visible()) ws.lastaction.clear();
     ws.BildChanged = true;
     if (!ws.lastaction.contains(PaintWord) && contains(ws.lastaction, "MOVED"))
         ws.lastaction = ws.lastaction.left(4) + PaintWord;
@@ -196,16 +191,18 @@ void patch_lastactionpaint(Session &s)
 PaintOutcome Create_Polygraphics(Session &s)
 {
     PaintState &p = s.paint();
-    if (p.running)
-        return PaintOutcome::Busy;
+    if (p.running) return PaintOutcome::Busy;
     if (p.GrafKey == QLatin1String(SeparatorKey)) {
-        setStatusText(s, QCoreApplication::translate("PaintDriver", "Eine Trennlinie malt nichts."));
+        setStatusText(s,
+                      QCoreApplication::translate("PaintDriver", "Eine Trennlinie malt nichts."));
         return PaintOutcome::NotPaintable;
     }
     const PainterEntry *entry = findPainter(p.GrafKey);
     if (!entry || !entry->paint) {
-        setStatusText(s, QCoreApplication::translate("PaintDriver", "„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.")
-                             .arg(p.GrafKey));
+        setStatusText(
+            s, QCoreApplication::translate(
+                   "PaintDriver", "„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.")
+                   .arg(p.GrafKey));
         return PaintOutcome::NotPaintable;
     }
 
@@ -222,8 +219,7 @@ PaintOutcome Create_Polygraphics(Session &s)
     } finish{s};
     p.dialog.setButtonState(GrafDialogState::Button::Running);
 
-    if (entry->prepare)
-        prepare(s);
+    if (entry->prepare) prepare(s);
     TransparencyState &t = s.transparency();
     t.setPercent(s.controls().value(ControlKey{QStringLiteral("ScrollTransparence")}));
 
@@ -237,8 +233,9 @@ PaintOutcome Create_Polygraphics(Session &s)
     bool ok = true;
     if (!p.StopPaint) {
         ok = guarded(QStringLiteral("Create_Polygraphics"), [&] {
-            PaintContext ctx{s, *t.XBild, *t.XUndo, *t.XWork,
-                             readOptionVariables(s.controls(), t.XBild->Width(), t.XBild->Height())};
+            PaintContext ctx{
+                s, *t.XBild, *t.XUndo, *t.XWork,
+                readOptionVariables(s.controls(), t.XBild->Width(), t.XBild->Height())};
             entry->paint(ctx);
         });
     }
@@ -256,7 +253,8 @@ void init_Progress2(Session &s, int lValue)
 void set_Progress2(Session &s, int value)
 {
     if (s.paint().progress2Max > 0)
-        s.status().setProgress(std::clamp(value, 0, s.paint().progress2Max), s.paint().progress2Max);
+        s.status().setProgress(std::clamp(value, 0, s.paint().progress2Max),
+                               s.paint().progress2Max);
 }
 
 void exit_Progress2(Session &s)

@@ -10,11 +10,26 @@ namespace {
 std::span<const PainterEntry> g_painters;
 } // namespace
 
-Workspace &PaintContext::workspace() { return session.workspace(); }
-ColourState &PaintContext::colours() { return session.colours(); }
-Single PaintContext::Rnd() { return session.Rnd(); }
-void PaintContext::DoEvents() { session.DoEvents(); }
-bool PaintContext::stopRequested() const { return session.paint().StopPaint; }
+Workspace &PaintContext::workspace()
+{
+    return session.workspace();
+}
+ColourState &PaintContext::colours()
+{
+    return session.colours();
+}
+Single PaintContext::Rnd()
+{
+    return session.Rnd();
+}
+void PaintContext::DoEvents()
+{
+    session.DoEvents();
+}
+bool PaintContext::stopRequested() const
+{
+    return session.paint().StopPaint;
+}
 
 void PaintContext::Bild_CLEAR()
 {
@@ -31,13 +46,15 @@ std::span<const PainterEntry> installPainters(std::span<const PainterEntry> tabl
     return before;
 }
 
-std::span<const PainterEntry> installedPainters() { return g_painters; }
+std::span<const PainterEntry> installedPainters()
+{
+    return g_painters;
+}
 
 const PainterEntry *findPainter(const QString &key)
 {
     for (const PainterEntry &e : g_painters)
-        if (key == QString::fromUtf8(e.key))
-            return &e;
+        if (key == QString::fromUtf8(e.key)) return &e;
     return nullptr;
 }
 

@@ -16,16 +16,15 @@ QString colourArgument(ColorLong c)
 QStringList paintCommandArguments(const PaintRecord &r)
 {
     const auto onOff = [](bool on) { return on ? QStringLiteral("on") : QStringLiteral("off"); };
-    QStringList args{QStringLiteral("paint"), r.GrafKey,
-                     QStringLiteral("--size"), QStringLiteral("%1x%2").arg(r.width).arg(r.height),
-                     QStringLiteral("--fore"), colourArgument(r.ColorFore),
-                     QStringLiteral("--back"), colourArgument(r.ColorBack),
-                     QStringLiteral("--border"), colourArgument(r.ColorBorder),
+    QStringList args{QStringLiteral("paint"), r.GrafKey, QStringLiteral("--size"),
+                     QStringLiteral("%1x%2").arg(r.width).arg(r.height), QStringLiteral("--fore"),
+                     colourArgument(r.ColorFore), QStringLiteral("--back"),
+                     colourArgument(r.ColorBack), QStringLiteral("--border"),
+                     colourArgument(r.ColorBorder),
                      // Colours given on the command line turn random colours off unless said
                      // otherwise, so the switch is always stated.
                      QStringLiteral("--random-colors"), onOff(r.RandomColors)};
-    if (!r.RandomValues)
-        args << QStringLiteral("--random-values") << onOff(false);
+    if (!r.RandomValues) args << QStringLiteral("--random-values") << onOff(false);
     for (const auto &[key, value] : r.controls)
         args << QStringLiteral("--set") << key.toString() + QLatin1Char('=') + value;
     if (r.TranspPercent != 0)
@@ -37,8 +36,7 @@ QStringList paintCommandArguments(const PaintRecord &r)
 QString shellQuote(const QString &argument)
 {
     static const QRegularExpression safe(QStringLiteral(R"(^[A-Za-z0-9_@%+=:,./-]+$)"));
-    if (safe.match(argument).hasMatch())
-        return argument;
+    if (safe.match(argument).hasMatch()) return argument;
     QString quoted = argument;
     quoted.replace(QLatin1String("'"), QLatin1String(R"('\'')"));
     return QLatin1Char('\'') + quoted + QLatin1Char('\'');

@@ -95,8 +95,7 @@ bool targetIsSelection(const Session &s)
 void Start_Transparent(Session &s)
 {
     TransparencyState &t = s.transparency();
-    if (!t.active())
-        return;
+    if (!t.active()) return;
     Workspace &ws = s.workspace();
     ws.UndoBlt_auf_Bild(*t.XWork, 0, 0, 0, 0, 0, 0, targetIsSelection(s), false);
     ws.BildChanged = true;
@@ -105,8 +104,7 @@ void Start_Transparent(Session &s)
 void Ende_Transparent(Session &s)
 {
     TransparencyState &t = s.transparency();
-    if (!t.active())
-        return;
+    if (!t.active()) return;
     PictureBox &target = *t.XBild;
     PictureBox &work = *t.XWork;
     blendOver(work.mutableImage(), target.Image(), t.TranspFactor);

@@ -16,8 +16,7 @@ std::span<const TypePanel> typePanels()
 QString optionPanelOf(const QString &key)
 {
     for (const TypePanel &t : typePanels())
-        if (key == QString::fromUtf8(t.key))
-            return QString::fromLatin1(t.panel);
+        if (key == QString::fromUtf8(t.key)) return QString::fromLatin1(t.panel);
     return QString();
 }
 
@@ -25,8 +24,7 @@ QStringList panelsReadBy(const QString &key)
 {
     QStringList out{QString::fromLatin1(GrafDialogPanelName)};
     const QString own = optionPanelOf(key);
-    if (!own.isEmpty())
-        out << own;
+    if (!own.isEmpty()) out << own;
     return out;
 }
 

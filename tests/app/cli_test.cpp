@@ -37,10 +37,14 @@ Result runProgram(const QString &program, const QStringList &args)
     p.start(program, args);
     EXPECT_TRUE(p.waitForFinished(120000)) << program.toStdString();
     return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1,
-            QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
+            QString::fromUtf8(p.readAllStandardOutput()),
+            QString::fromUtf8(p.readAllStandardError())};
 }
 
-Result forge(const QStringList &args) { return runProgram(QStringLiteral(TF_EXE), args); }
+Result forge(const QStringList &args)
+{
+    return runProgram(QStringLiteral(TF_EXE), args);
+}
 
 QByteArray bytesOf(const QString &path)
 {
@@ -59,7 +63,8 @@ TEST_F(CliTest, HelpListsTheCommandsAndVersionAnswers)
 {
     const Result help = forge({QStringLiteral("--help")});
     EXPECT_EQ(help.code, 0);
-    for (const char *word : {"paint TYPE", "types", "controls [TYPE]", "--seed N", "--transparency P"})
+    for (const char *word :
+         {"paint TYPE", "types", "controls [TYPE]", "--seed N", "--transparency P"})
         EXPECT_TRUE(help.out.contains(QLatin1String(word))) << word;
     const Result version = forge({QStringLiteral("--version")});
     EXPECT_EQ(version.code, 0);
@@ -83,28 +88,34 @@ TEST_F(CliTest, TypesListsAllTenGroupsWithKeyEnglishAndGermanCaption)
     EXPECT_EQ(groups.first(), QStringLiteral("1\tBoxes, Lines\tRechtecke, Linien"));
     EXPECT_EQ(groups[1], QStringLiteral("2\tPhoto & Arts\tFoto & Künstler"));
     EXPECT_EQ(groups.last(), QStringLiteral("10\tPapers\tPapiermuster"));
-    EXPECT_TRUE(r.out.contains(QStringLiteral("\n\tNeon vertical\tNeon vertical\tNeon vertikal\n")));
+    EXPECT_TRUE(
+        r.out.contains(QStringLiteral("\n\tNeon vertical\tNeon vertical\tNeon vertikal\n")));
     // Without the internal tile set group 2 has its smaller dimensioning: 111 types.
     EXPECT_EQ(types, 111);
 }
 
 TEST_F(CliTest, ControlsOfATypeListTheGeneralOptionsWithKindDefaultAndRange)
 {
-    const Result r = forge({QStringLiteral("controls"), QStringLiteral("Backgroundcolor"), QStringLiteral("--lang"), QStringLiteral("en")});
+    const Result r = forge({QStringLiteral("controls"), QStringLiteral("Backgroundcolor"),
+                            QStringLiteral("--lang"), QStringLiteral("en")});
     ASSERT_EQ(r.code, 0) << r.err.toStdString();
     EXPECT_TRUE(r.out.startsWith(QStringLiteral("frmGrafDialog\tGeneral\n")));
-    EXPECT_TRUE(r.out.contains(QStringLiteral("\tScrollTransparence\tvalue\t0\t0..100\tTransparency\n")));
+    EXPECT_TRUE(
+        r.out.contains(QStringLiteral("\tScrollTransparence\tvalue\t0\t0..100\tTransparency\n")));
     EXPECT_TRUE(r.out.contains(QStringLiteral("\t\t3\tDIN-A4 horizontal\n")));
     EXPECT_EQ(forge({QStringLiteral("controls"), QStringLiteral("Nope")}).code, 2);
 }
 
 TEST_F(CliTest, TheSameSeedGivesTheSameBytes)
 {
-    const QStringList common{QStringLiteral("paint"), QStringLiteral("Backgroundcolor"), QStringLiteral("--size"),
-                             QStringLiteral("64x48")};
-    const Result a = forge(common + QStringList{QStringLiteral("--seed"), QStringLiteral("7"), QStringLiteral("-o"), file("a.png")});
-    const Result b = forge(common + QStringList{QStringLiteral("--seed"), QStringLiteral("7"), QStringLiteral("-o"), file("b.png")});
-    const Result c = forge(common + QStringList{QStringLiteral("--seed"), QStringLiteral("8"), QStringLiteral("-o"), file("c.png")});
+    const QStringList common{QStringLiteral("paint"), QStringLiteral("Backgroundcolor"),
+                             QStringLiteral("--size"), QStringLiteral("64x48")};
+    const Result a = forge(common + QStringList{QStringLiteral("--seed"), QStringLiteral("7"),
+                                                QStringLiteral("-o"), file("a.png")});
+    const Result b = forge(common + QStringList{QStringLiteral("--seed"), QStringLiteral("7"),
+                                                QStringLiteral("-o"), file("b.png")});
+    const Result c = forge(common + QStringList{QStringLiteral("--seed"), QStringLiteral("8"),
+                                                QStringLiteral("-o"), file("c.png")});
     ASSERT_EQ(a.code, 0) << a.err.toStdString();
     ASSERT_EQ(b.code, 0);
     ASSERT_EQ(c.code, 0);
@@ -120,9 +131,10 @@ TEST_F(CliTest, TransparencyOverAPictureBlendsAsTheFormulaSays)
     over.setPixel(0, 0, qRgb(0, 0, 0));
     over.setPixel(1, 0, qRgb(200, 100, 11));
     ASSERT_TRUE(over.save(file("x.png")));
-    const Result r = forge({QStringLiteral("paint"), QStringLiteral("Backgroundcolor"), QStringLiteral("--transparency"),
-                         QStringLiteral("50"), QStringLiteral("--over"), file("x.png"), QStringLiteral("--back"),
-                         QStringLiteral("#194BFA"), QStringLiteral("-o"), file("y.bmp")});
+    const Result r = forge({QStringLiteral("paint"), QStringLiteral("Backgroundcolor"),
+                            QStringLiteral("--transparency"), QStringLiteral("50"),
+                            QStringLiteral("--over"), file("x.png"), QStringLiteral("--back"),
+                            QStringLiteral("#194BFA"), QStringLiteral("-o"), file("y.bmp")});
     ASSERT_EQ(r.code, 0) << r.err.toStdString();
     EXPECT_TRUE(bytesOf(file("y.bmp")).startsWith("BM"));
     const QImage y(file("y.bmp"));
@@ -136,22 +148,31 @@ TEST_F(CliTest, TransparencyOverAPictureBlendsAsTheFormulaSays)
 TEST_F(CliTest, BadTypeControlOrValueEndWithTheirMessageAndExitCodeTwo)
 {
     const auto paint = [&](QStringList extra) {
-        return forge(QStringList{QStringLiteral("paint")} + extra + QStringList{QStringLiteral("-o"), file("no.png")});
+        return forge(QStringList{QStringLiteral("paint")} + extra +
+                     QStringList{QStringLiteral("-o"), file("no.png")});
     };
     const std::vector<std::pair<QStringList, QString>> cases = {
         {{"Nope", "--lang", "en"}, "tarvelle-forge: Unknown graphics type: Nope\n"},
         {{"-", "--lang", "en"}, "tarvelle-forge: Unknown graphics type: -\n"},
-        {{"Backgroundcolor", "--set", "Foo=1", "--lang", "en"}, "tarvelle-forge: Unknown control: Foo\n"},
-        {{"Backgroundcolor", "--set", "XFill=maybe", "--lang", "en"}, "tarvelle-forge: Invalid value for XFill: maybe\n"},
-        {{"Backgroundcolor", "--set", "XFill=maybe", "--lang", "de"}, "tarvelle-forge: Ungültiger Wert für XFill: maybe\n"},
+        {{"Backgroundcolor", "--set", "Foo=1", "--lang", "en"},
+         "tarvelle-forge: Unknown control: Foo\n"},
+        {{"Backgroundcolor", "--set", "XFill=maybe", "--lang", "en"},
+         "tarvelle-forge: Invalid value for XFill: maybe\n"},
+        {{"Backgroundcolor", "--set", "XFill=maybe", "--lang", "de"},
+         "tarvelle-forge: Ungültiger Wert für XFill: maybe\n"},
         {{"Nope", "--lang", "de"}, "tarvelle-forge: Unbekannter Grafiktyp: Nope\n"},
-        {{"Backgroundcolor", "--fore", "red", "--lang", "en"}, "tarvelle-forge: Invalid colour: red (#RRGGBB)\n"},
-        {{"Backgroundcolor", "--transparency", "101", "--lang", "en"}, "tarvelle-forge: Invalid transparency: 101 (0 to 100)\n"},
-        {{"Backgroundcolor", "--size", "0x5", "--lang", "en"}, "tarvelle-forge: Invalid size: 0x5 (WIDTHxHEIGHT, 1 to 14000)\n"},
+        {{"Backgroundcolor", "--fore", "red", "--lang", "en"},
+         "tarvelle-forge: Invalid colour: red (#RRGGBB)\n"},
+        {{"Backgroundcolor", "--transparency", "101", "--lang", "en"},
+         "tarvelle-forge: Invalid transparency: 101 (0 to 100)\n"},
+        {{"Backgroundcolor", "--size", "0x5", "--lang", "en"},
+         "tarvelle-forge: Invalid size: 0x5 (WIDTHxHEIGHT, 1 to 14000)\n"},
         {{"Backgroundcolor", "--seed", "-3", "--lang", "en"}, "tarvelle-forge: Invalid seed: -3\n"},
-        {{"Backgroundcolor", "--frobnicate", "--lang", "en"}, "tarvelle-forge: Unknown option: --frobnicate\n"},
+        {{"Backgroundcolor", "--frobnicate", "--lang", "en"},
+         "tarvelle-forge: Unknown option: --frobnicate\n"},
         {{"--lang", "en"}, "tarvelle-forge: The graphics type is missing.\n"},
-        {{"Backgroundcolor", "--lang", "fr"}, "tarvelle-forge: Unbekannte Sprache: fr (de oder en)\n"},
+        {{"Backgroundcolor", "--lang", "fr"},
+         "tarvelle-forge: Unbekannte Sprache: fr (de oder en)\n"},
     };
     for (const auto &[args, message] : cases) {
         const Result r = paint(args);
@@ -163,15 +184,20 @@ TEST_F(CliTest, BadTypeControlOrValueEndWithTheirMessageAndExitCodeTwo)
 
 TEST_F(CliTest, ATypeWithoutPainterOrAnUnreadablePictureFailWithExitCodeOne)
 {
-    const Result tunnel = forge({QStringLiteral("paint"), QStringLiteral("Tunnel"), QStringLiteral("--lang"), QStringLiteral("en"),
-                              QStringLiteral("-o"), file("t.png")});
+    const Result tunnel =
+        forge({QStringLiteral("paint"), QStringLiteral("Tunnel"), QStringLiteral("--lang"),
+               QStringLiteral("en"), QStringLiteral("-o"), file("t.png")});
     EXPECT_EQ(tunnel.code, 1);
-    EXPECT_EQ(tunnel.err, QStringLiteral("tarvelle-forge: \"Tunnel\" paints nothing yet: its painter is not built in.\n"));
+    EXPECT_EQ(tunnel.err,
+              QStringLiteral(
+                  "tarvelle-forge: \"Tunnel\" paints nothing yet: its painter is not built in.\n"));
     EXPECT_FALSE(QFile::exists(file("t.png")));
-    const Result over = forge({QStringLiteral("paint"), QStringLiteral("Backgroundcolor"), QStringLiteral("--over"),
-                            file("missing.png"), QStringLiteral("--lang"), QStringLiteral("en")});
+    const Result over =
+        forge({QStringLiteral("paint"), QStringLiteral("Backgroundcolor"), QStringLiteral("--over"),
+               file("missing.png"), QStringLiteral("--lang"), QStringLiteral("en")});
     EXPECT_EQ(over.code, 1);
-    EXPECT_EQ(over.err, QStringLiteral("tarvelle-forge: The picture %1 cannot be read.\n").arg(file("missing.png")));
+    EXPECT_EQ(over.err, QStringLiteral("tarvelle-forge: The picture %1 cannot be read.\n")
+                            .arg(file("missing.png")));
 }
 
 TEST_F(CliTest, TheCopiedCommandLineReproducesThePaintOnAClearedPicture)
@@ -192,20 +218,24 @@ TEST_F(CliTest, TheCopiedCommandLineReproducesThePaintOnAClearedPicture)
         s.colours().ColorBack = RGB(12, 200, 99);
         s.controls().set(ControlKey{QStringLiteral("XFill")}, QStringLiteral("0"));
         s.controls().set(ControlKey{QStringLiteral("txtPaperSize"), 0}, QStringLiteral("800"));
-        s.controls().set(ControlKey{QStringLiteral("ScrollTransparence")}, QString::number(setting.transparency));
+        s.controls().set(ControlKey{QStringLiteral("ScrollTransparence")},
+                         QString::number(setting.transparency));
         ASSERT_EQ(BtnPaint_Click(s), PaintOutcome::Painted);
         ASSERT_TRUE(s.paint().lastPaint);
 
         const QString line = paintCommandLine(*s.paint().lastPaint);
-        ASSERT_TRUE(line.startsWith(QLatin1String("tarvelle-forge paint Backgroundcolor --size 40x30 ")));
+        ASSERT_TRUE(
+            line.startsWith(QLatin1String("tarvelle-forge paint Backgroundcolor --size 40x30 ")));
         EXPECT_TRUE(line.contains(QLatin1String(" --set 'txtPaperSize(0)=800'")));
         const QString out = file("copied.png");
         QFile::remove(out);
-        const Result r = runProgram(QStringLiteral("/bin/sh"),
-                                    {QStringLiteral("-c"), shellQuote(QStringLiteral(TF_EXE)) +
-                                                               line.mid(int(qstrlen("tarvelle-forge"))) +
-                                                               QStringLiteral(" -o ") + shellQuote(out)});
+        const Result r =
+            runProgram(QStringLiteral("/bin/sh"),
+                       {QStringLiteral("-c"), shellQuote(QStringLiteral(TF_EXE)) +
+                                                  line.mid(int(qstrlen("tarvelle-forge"))) +
+                                                  QStringLiteral(" -o ") + shellQuote(out)});
         ASSERT_EQ(r.code, 0) << line.toStdString() << "\n" << r.err.toStdString();
-        EXPECT_EQ(QImage(out).convertToFormat(QImage::Format_RGB32), s.workspace().Bild.Image()) << line.toStdString();
+        EXPECT_EQ(QImage(out).convertToFormat(QImage::Format_RGB32), s.workspace().Bild.Image())
+            << line.toStdString();
     }
 }

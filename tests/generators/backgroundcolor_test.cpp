@@ -39,7 +39,8 @@ struct BackgroundcolorTest : ::testing::Test {
     }
     PaintOutcome paint(int percent)
     {
-        s.controls().set(ControlKey{QStringLiteral("ScrollTransparence")}, QString::number(percent));
+        s.controls().set(ControlKey{QStringLiteral("ScrollTransparence")},
+                         QString::number(percent));
         return BtnPaint_Click(s);
     }
     ColorLong at(int x, int y) { return s.workspace().Bild.Point(x, y); }

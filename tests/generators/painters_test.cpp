@@ -16,8 +16,7 @@ TEST(PainterTable, EveryKeyOfTheCatalogueIsInTheDispatchTableExactlyOnce)
     size_t catalogueKeys = 0;
     for (int g = 1; g <= GroupCount; ++g)
         for (const CatalogueRow &row : groupRows(g)) {
-            if (row.isSeparator())
-                continue;
+            if (row.isSeparator()) continue;
             ++catalogueKeys;
             EXPECT_EQ(inTable[QString::fromUtf8(row.key)], 1) << row.key;
         }
@@ -30,10 +29,10 @@ TEST(PainterTable, OnlyTheTypesThatPaintElsewhereSkipTheUndoImage)
 {
     QStringList noUndo;
     for (const PainterEntry &e : painterTable())
-        if (!e.prepare)
-            noUndo << QString::fromUtf8(e.key);
+        if (!e.prepare) noUndo << QString::fromUtf8(e.key);
     noUndo.sort();
-    EXPECT_EQ(noUndo, (QStringList{"Bitblt-Kacheln", "Bitblt-Schmieren", "PIC-DiaShow", "The Matrix"}));
+    EXPECT_EQ(noUndo,
+              (QStringList{"Bitblt-Kacheln", "Bitblt-Schmieren", "PIC-DiaShow", "The Matrix"}));
 }
 
 TEST(PainterTable, RegisteringInstallsTheTableAndTheGeneralPanel)

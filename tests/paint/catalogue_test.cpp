@@ -61,13 +61,16 @@ TEST(Catalogue, KeysAndCaptionsKeepTheirExactSpelling)
     EXPECT_EQ(row->caption(Language::German), QStringLiteral("Neon vertikal"));
     EXPECT_STREQ(groupRow(1, 1)->key, "Boxes-Kreisradius");
     EXPECT_EQ(groupRow(1, 1)->caption(Language::English), QStringLiteral("Boxes / Circumcircle"));
-    EXPECT_EQ(groupRow(3, 3)->caption(Language::German), QStringLiteral("Kreise    (konzentrisch)"));
-    EXPECT_EQ(groupRow(9, 9)->caption(Language::German), QStringLiteral("Kreisraster       (Ausschnitt)"));
+    EXPECT_EQ(groupRow(3, 3)->caption(Language::German),
+              QStringLiteral("Kreise    (konzentrisch)"));
+    EXPECT_EQ(groupRow(9, 9)->caption(Language::German),
+              QStringLiteral("Kreisraster       (Ausschnitt)"));
     EXPECT_EQ(groupRow(1, -1), nullptr);
     EXPECT_EQ(groupRow(10, 6), nullptr);
 
     setLanguage(Language::English);
-    EXPECT_EQ(typeCaptions(10), (QStringList{"Lines", "Musical notation", "-", "Diamonds", "-", "Wave grid"}));
+    EXPECT_EQ(typeCaptions(10),
+              (QStringList{"Lines", "Musical notation", "-", "Diamonds", "-", "Wave grid"}));
     setLanguage(Language::German);
     EXPECT_EQ(typeCaptions(10).first(), QStringLiteral("Linien"));
 }
@@ -104,7 +107,8 @@ TEST(Catalogue, GroupTitlesOfTheMenuTranslateToTheCataloguesEnglishTitles)
     for (const Language lang : {Language::English, Language::German}) {
         setLanguage(lang);
         for (int g = 1; g <= GroupCount; ++g)
-            EXPECT_EQ(QCoreApplication::translate("Groups", groupTitle(g)), groupCaption(g, lang)) << g;
+            EXPECT_EQ(QCoreApplication::translate("Groups", groupTitle(g)), groupCaption(g, lang))
+                << g;
     }
     setLanguage(Language::German);
     EXPECT_EQ(groupCaption(2, Language::English), QStringLiteral("Photo && Arts"));

@@ -28,21 +28,23 @@ void rows(PaintContext &ctx)
     g_probe.rnd.push_back(ctx.Rnd());
     for (int y = 0; y < g_probe.steps; ++y) {
         ctx.DoEvents();
-        if (ctx.stopRequested())
-            return;
+        if (ctx.stopRequested()) return;
         ctx.XBild.Line(0, y, ctx.opt.W - 1, y, Red, LineFlags::BF);
         ++g_probe.rows;
     }
 }
 
-void faulty(PaintContext &) { throw Fault(Fault::Overflow); }
+void faulty(PaintContext &)
+{
+    throw Fault(Fault::Overflow);
+}
 
 const PainterEntry testTable[] = {
-    {"Backgroundcolor", rows, true},   {"Boxes-Kreisradius", rows, true},
-    {"Boxes-Randomized", rows, true},  {"Squares-Randomized", rows, true},
-    {"Tunnel", nullptr, true},         {"Lines-Quarterarea", rows, true},
-    {"Lines-Polygonal", rows, true},   {"Lines-Mikado", faulty, true},
-    {"Bitblt-Kacheln", rows, false},   {"Bitblt-Schmieren", rows, false},
+    {"Backgroundcolor", rows, true},  {"Boxes-Kreisradius", rows, true},
+    {"Boxes-Randomized", rows, true}, {"Squares-Randomized", rows, true},
+    {"Tunnel", nullptr, true},        {"Lines-Quarterarea", rows, true},
+    {"Lines-Polygonal", rows, true},  {"Lines-Mikado", faulty, true},
+    {"Bitblt-Kacheln", rows, false},  {"Bitblt-Schmieren", rows, false},
 };
 
 struct PanelsFirst {
@@ -57,8 +59,7 @@ struct ClickAt : YieldHook {
     ClickAt(int n, std::function<void()> f) : at(n), click(std::move(f)) {}
     bool yield() override
     {
-        if (++calls == at)
-            click();
+        if (++calls == at) click();
         return false;
     }
 };
@@ -189,7 +190,8 @@ TEST_F(PaintDriverTest, StopWithCancelGoesOnPainting)
     EXPECT_EQ(BtnPaint_Click(s), PaintOutcome::Painted);
     EXPECT_EQ(stop, PaintOutcome::StopCancelled);
     ASSERT_EQ(prompter.asked().size(), 1u);
-    EXPECT_EQ(prompter.lastText(), QStringLiteral("Die Ausgabe wurde angehalten! Bitte bestätigen."));
+    EXPECT_EQ(prompter.lastText(),
+              QStringLiteral("Die Ausgabe wurde angehalten! Bitte bestätigen."));
     EXPECT_EQ(prompter.asked().back().buttons, Buttons::OkCancel);
     EXPECT_EQ(g_probe.rows, 6);
     EXPECT_FALSE(s.paint().StopPaint);
@@ -266,11 +268,13 @@ TEST_F(PaintDriverTest, SeparatorsAndTypesWithoutPainterPaintNothingAndSaySo)
     EXPECT_EQ(status.panelText(sbrState), QStringLiteral("Eine Trennlinie malt nichts."));
     choose(1, 5);
     EXPECT_EQ(BtnPaint_Click(s), PaintOutcome::NotPaintable);
-    EXPECT_EQ(status.panelText(sbrState), QStringLiteral("„Tunnel“ malt noch nichts: sein Maler ist noch nicht eingebaut."));
+    EXPECT_EQ(status.panelText(sbrState),
+              QStringLiteral("„Tunnel“ malt noch nichts: sein Maler ist noch nicht eingebaut."));
     setLanguage(Language::English);
     choose(1, 4); // "Kacheln" is not in the test's table at all.
     EXPECT_EQ(BtnPaint_Click(s), PaintOutcome::NotPaintable);
-    EXPECT_EQ(status.panelText(sbrState), QStringLiteral("\"Kacheln\" paints nothing yet: its painter is not built in."));
+    EXPECT_EQ(status.panelText(sbrState),
+              QStringLiteral("\"Kacheln\" paints nothing yet: its painter is not built in."));
     choose(1, 10);
     BtnPaint_Click(s);
     EXPECT_EQ(status.panelText(sbrState), QStringLiteral("A separator paints nothing."));

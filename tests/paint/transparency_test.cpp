@@ -8,7 +8,10 @@ using namespace tf;
 
 namespace {
 
-void fill(PictureBox &p, ColorLong c) { p.Line(0, 0, p.Width() - 1, p.Height() - 1, c, LineFlags::BF); }
+void fill(PictureBox &p, ColorLong c)
+{
+    p.Line(0, 0, p.Width() - 1, p.Height() - 1, c, LineFlags::BF);
+}
 
 // A paint of `paint` over a picture of `old` at `percent`, bracketed as every painter is;
 // answers a pixel of the result.
@@ -32,13 +35,13 @@ ColorLong paintOver(int percent, ColorLong old, ColorLong paint)
 
 TEST(Transparency, TheBlendRoundsNewMinusFactorTimesTheDifferenceHalfToEven)
 {
-    EXPECT_EQ(blendChannel(255, 0, 0.5), 128); // 127.5
-    EXPECT_EQ(blendChannel(253, 0, 0.5), 126); // 126.5
+    EXPECT_EQ(blendChannel(255, 0, 0.5), 128);  // 127.5
+    EXPECT_EQ(blendChannel(253, 0, 0.5), 126);  // 126.5
     EXPECT_EQ(blendChannel(200, 11, 0.5), 106); // 105.5
-    EXPECT_EQ(blendChannel(25, 0, 0.02), 24);  // 24.5
-    EXPECT_EQ(blendChannel(75, 0, 0.02), 74);  // 73.5
-    EXPECT_EQ(blendChannel(0, 25, 0.98), 24);  // 24.5
-    EXPECT_EQ(blendChannel(0, 75, 0.98), 74);  // 73.5
+    EXPECT_EQ(blendChannel(25, 0, 0.02), 24);   // 24.5
+    EXPECT_EQ(blendChannel(75, 0, 0.02), 74);   // 73.5
+    EXPECT_EQ(blendChannel(0, 25, 0.98), 24);   // 24.5
+    EXPECT_EQ(blendChannel(0, 75, 0.98), 74);   // 73.5
     EXPECT_EQ(blendChannel(17, 230, 0.0), 17);
     EXPECT_EQ(blendChannel(17, 230, 1.0), 230);
 }
