@@ -25,16 +25,6 @@ TEST(PainterTable, EveryKeyOfTheCatalogueIsInTheDispatchTableExactlyOnce)
     EXPECT_EQ(inTable.count(QStringLiteral("-")), 0u);
 }
 
-TEST(PainterTable, OnlyTheTypesThatPaintElsewhereSkipTheUndoImage)
-{
-    QStringList noUndo;
-    for (const PainterEntry &e : painterTable())
-        if (!e.prepare) noUndo << QString::fromUtf8(e.key);
-    noUndo.sort();
-    EXPECT_EQ(noUndo,
-              (QStringList{"Bitblt-Kacheln", "Bitblt-Schmieren", "PIC-DiaShow", "The Matrix"}));
-}
-
 TEST(PainterTable, RegisteringInstallsTheTableAndTheGeneralPanel)
 {
     registerAllPanels();
