@@ -402,50 +402,50 @@
     <name>tf::ui::FeatDialogDock</name>
     <message>
         <source>Optionen</source>
-        <translation type="unfinished" />
+        <translation>Options</translation>
     </message>
     <message>
         <source>Dieser Grafiktyp liest nur die allgemeinen Optionen des Maldialogs.</source>
-        <translation type="unfinished" />
+        <translation>This graphics type reads only the general options of the paint dialog.</translation>
     </message>
 </context>
 <context>
     <name>tf::ui::GrafDialogDock</name>
     <message>
         <source>(keine Vorschau)</source>
-        <translation type="unfinished" />
+        <translation>(no preview)</translation>
     </message>
     <message>
         <source>Bildformat: %1</source>
-        <translation type="unfinished" />
+        <translation>Picture format: %1</translation>
     </message>
     <message>
         <source>Malen &lt;F5&gt;</source>
-        <translation type="unfinished" />
+        <translation>Paint &lt;F5&gt;</translation>
     </message>
     <message>
         <source>Vorheriger Typ der Gruppe, dann malen</source>
-        <translation type="unfinished" />
+        <translation>Previous type of the group, then paint</translation>
     </message>
     <message>
         <source>Nächster Typ der Gruppe, dann malen</source>
-        <translation type="unfinished" />
+        <translation>Next type of the group, then paint</translation>
     </message>
     <message>
         <source>Fixieren</source>
-        <translation type="unfinished">Fix</translation>
+        <translation>Fix</translation>
     </message>
     <message>
         <source>Restaurieren</source>
-        <translation type="unfinished">Restore</translation>
+        <translation>Restore</translation>
     </message>
     <message>
         <source>Clip</source>
-        <translation type="unfinished" />
+        <translation>Clip</translation>
     </message>
     <message>
         <source>Das Bild in die Zwischenablage kopieren</source>
-        <translation type="unfinished" />
+        <translation>Copy the picture to the clipboard</translation>
     </message>
 </context>
 <context>
@@ -556,27 +556,27 @@
     </message>
     <message>
         <source>Malen</source>
-        <translation type="unfinished" />
+        <translation>Paint</translation>
     </message>
     <message>
         <source>Als Befehlszeile kopieren</source>
-        <translation type="unfinished" />
+        <translation>Copy as command line</translation>
     </message>
     <message>
         <source>Den Befehl, der das letzte Bild wieder malt, in die Zwischenablage kopieren</source>
-        <translation type="unfinished" />
+        <translation>Copy the command that paints the last picture again to the clipboard</translation>
     </message>
     <message>
         <source>&amp;Ansicht</source>
-        <translation type="unfinished" />
+        <translation>&amp;View</translation>
     </message>
     <message>
         <source>Es wurde noch nichts gemalt.</source>
-        <translation type="unfinished" />
+        <translation>Nothing has been painted yet.</translation>
     </message>
     <message>
         <source>Befehlszeile in die Zwischenablage kopiert.</source>
-        <translation type="unfinished" />
+        <translation>Command line copied to the clipboard.</translation>
     </message>
 </context>
 <context>

@@ -68,7 +68,9 @@ public:
     // The full path of a temp file in TempDir.
     QString tempPath(const QString &fileName) const;
 
+    // Read `commands`, change them through setCommands so the hook sees the change.
     CommandState commands;
+    void setCommands(const CommandState &c);
     // Called whenever `commands` changes.
     void setCommandsHook(std::function<void()> hook) { m_commandsHook = std::move(hook); }
     // Called by New_BildSize after the pictures took their size, for the frame's layout.
@@ -114,7 +116,6 @@ private:
     QImage undoImage(bool usemasks, bool usefile);
     void saveToFile(const QImage &image, const QString &path);
     void enableUndo();
-    void setCommands(const CommandState &c);
 
     QString m_tempDir;
     // Where the undo image of Bild was last put: true on disk.

@@ -141,8 +141,10 @@ PaintOutcome paintButton(Session &s)
     // The paint becomes the persistent picture.
     ws.Bild.setPicture(ws.Bild.Image());
     ws.BildWork.setPicture(ws.BildWork.Image());
-    ws.commands.save = true;
-    if (!p.AutoPaintRun) ws.commands.print = true;
+    CommandState commands = ws.commands;
+    commands.save = true;
+    if (!p.AutoPaintRun) commands.print = true;
+    ws.setCommands(commands);
     return PaintOutcome::Painted;
 }
 

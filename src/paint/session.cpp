@@ -7,15 +7,22 @@ Session::Session() : m_workspace(std::make_unique<Workspace>())
     m_transparency.XBild = &m_workspace->Bild;
     m_transparency.XUndo = &m_workspace->BildUndo;
     m_transparency.XWork = &m_workspace->BildWork;
-    m_prompterBefore = installPrompter(m_prompter);
 }
 
-Session::~Session() { installPrompter(m_prompterBefore); }
+Session::~Session()
+{
+    if (m_installedPrompter)
+        installPrompter(m_prompterBefore);
+}
 
 void Session::setPrompter(Prompter *p)
 {
     m_prompter = p ? p : &m_defaultPrompter;
-    installPrompter(m_prompter);
+    Prompter *before = installPrompter(m_prompter);
+    if (!m_installedPrompter) {
+        m_prompterBefore = before;
+        m_installedPrompter = true;
+    }
 }
 
 Answer Session::ask(const QString &text, Buttons buttons, Icon icon, const QString &title)

@@ -5,8 +5,9 @@
 // It holds the workspace of named pictures with its undo, the option controls, the paint
 // state, the random generator and the clock, and the three doors to the user: the prompter
 // (questions and messages), the status sink (status bar, progress) and the yield hook (giving
-// way in long loops). A session installs its prompter as the process's current prompter while
-// it lives, so that faults reported deep in the engine reach the same door.
+// way in long loops). A session given a prompter (setPrompter) installs it as the process's
+// current prompter until the session ends, so that faults reported deep in the engine reach
+// the same door; a session without one (a preview's) leaves the installed prompter alone.
 
 #include "core/clock.h"
 #include "core/prompter.h"
@@ -117,6 +118,7 @@ private:
     StatusSink *m_status = &m_defaultStatus;
     YieldHook *m_yield = &m_noYield;
     Prompter *m_prompterBefore = nullptr;
+    bool m_installedPrompter = false; // setPrompter made this session's prompter the process's
 };
 
 } // namespace tf

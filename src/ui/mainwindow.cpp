@@ -317,8 +317,7 @@ void MainWindow::newPicture(int formatIndex)
     CommandState c = ws.commands;
     c.undo = false;
     c.print = false;
-    ws.commands = c;
-    updateCommands();
+    ws.setCommands(c);
     m_fileName.clear();
     Set_MDI_Caption();
 }
