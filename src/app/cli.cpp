@@ -8,6 +8,7 @@
 #include <QGuiApplication>
 #include <QString>
 #include <QStringList>
+#include <cstdio>
 #include <functional>
 #include <map>
 
@@ -83,6 +84,12 @@ int run(int argc, char **argv)
     // The engine draws text and pictures through Qt's painter, which needs a GUI application;
     // the command line needs no screen.
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Stderr carries the command's own messages; Qt's notes about the desktop it runs without
+    // (no runtime folder, no screen) are no news to a script.
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &msg) {
+        if (type == QtCriticalMsg || type == QtFatalMsg)
+            std::fprintf(stderr, "%s\n", msg.toLocal8Bit().constData());
+    });
     QGuiApplication app(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("tarvelle-forge"));
     QGuiApplication::setApplicationVersion(QStringLiteral(TF_VERSION));
