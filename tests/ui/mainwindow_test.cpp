@@ -1,6 +1,7 @@
 #include "core/language.h"
 #include "core/settings.h"
 #include "ui/mainwindow.h"
+#include "windowfixture.h"
 
 #include <QAction>
 #include <QFile>
@@ -12,30 +13,7 @@ using namespace tf;
 
 namespace {
 
-struct MainWindowTest : ::testing::Test {
-    QTemporaryDir dir;
-    std::unique_ptr<SettingsStore> store;
-    ScriptedPrompter prompter;
-    std::unique_ptr<ui::MainWindow> window;
-
-    void SetUp() override
-    {
-        store = std::make_unique<SettingsStore>(dir.filePath(QStringLiteral("settings.ini")));
-        store->Put_Setting(QStringLiteral("Settings"), QStringLiteral("PDirTemp"), dir.filePath(QStringLiteral("temp")));
-        store->Put_Setting(QStringLiteral("Common"), QStringLiteral("Language"), 1);
-    }
-    void TearDown() override
-    {
-        window.reset();
-        setLanguage(Language::German);
-    }
-    void start()
-    {
-        window = std::make_unique<ui::MainWindow>();
-        window->session().setPrompter(&prompter);
-        window->startUp(*store);
-        window->show();
-    }
+struct MainWindowTest : WindowFixture {
     QStringList menuTitles() const
     {
         QStringList titles;

@@ -4,6 +4,7 @@
 #include "paint/paintdriver.h"
 #include "paint/paintrecord.h"
 #include "ui/mainwindow.h"
+#include "windowfixture.h"
 
 #include <QDockWidget>
 #include <QListWidget>
@@ -16,21 +17,11 @@ using namespace tf;
 
 namespace {
 
-struct PaintDialogTest : ::testing::Test {
-    QTemporaryDir dir;
-    std::unique_ptr<SettingsStore> store;
-    ScriptedPrompter prompter;
-    std::unique_ptr<ui::MainWindow> window;
-
+struct PaintDialogTest : WindowFixture {
     void SetUp() override
     {
-        store = std::make_unique<SettingsStore>(dir.filePath(QStringLiteral("settings.ini")));
-        store->Put_Setting(QStringLiteral("Settings"), QStringLiteral("PDirTemp"), dir.filePath(QStringLiteral("temp")));
-        store->Put_Setting(QStringLiteral("Common"), QStringLiteral("Language"), 1);
-        window = std::make_unique<ui::MainWindow>();
-        window->session().setPrompter(&prompter);
-        window->startUp(*store);
-        window->show();
+        WindowFixture::SetUp();
+        start();
     }
     QListWidget *typeList() { return window->findChild<QListWidget *>(QStringLiteral("ListBoxType")); }
     QPushButton *paintButton() { return window->findChild<QPushButton *>(QStringLiteral("BtnPaint")); }
