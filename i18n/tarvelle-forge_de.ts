@@ -307,6 +307,13 @@
     </message>
 </context>
 <context>
+    <name>Palette</name>
+    <message>
+        <source>Palette file error or not there</source>
+        <translation>Palette file error or not there</translation>
+    </message>
+</context>
+<context>
     <name>PictureFormats</name>
     <message>
         <source>Freies Format ...</source>
@@ -389,6 +396,145 @@
     <message>
         <source>Tarvelle-Forge is running soon!</source>
         <translation>Tarvelle-Forge is running soon!</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPalettes</name>
+    <message>
+        <source>Regenbogen</source>
+        <translation>Regenbogen</translation>
+    </message>
+    <message>
+        <source>Pastell</source>
+        <translation>Pastell</translation>
+    </message>
+    <message>
+        <source>Doppelter Regenbogen</source>
+        <translation>Doppelter Regenbogen</translation>
+    </message>
+    <message>
+        <source>Farbbänder</source>
+        <translation>Farbbänder</translation>
+    </message>
+    <message>
+        <source>Graustufen</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>Graue Wellen</source>
+        <translation>Graue Wellen</translation>
+    </message>
+    <message>
+        <source>Sepia</source>
+        <translation>Sepia</translation>
+    </message>
+    <message>
+        <source>Cyanotypie</source>
+        <translation>Cyanotypie</translation>
+    </message>
+    <message>
+        <source>Feuer</source>
+        <translation>Feuer</translation>
+    </message>
+    <message>
+        <source>Lava</source>
+        <translation>Lava</translation>
+    </message>
+    <message>
+        <source>Eis</source>
+        <translation>Eis</translation>
+    </message>
+    <message>
+        <source>Gletscher</source>
+        <translation>Gletscher</translation>
+    </message>
+    <message>
+        <source>Meer</source>
+        <translation>Meer</translation>
+    </message>
+    <message>
+        <source>Tiefsee</source>
+        <translation>Tiefsee</translation>
+    </message>
+    <message>
+        <source>Erde</source>
+        <translation>Erde</translation>
+    </message>
+    <message>
+        <source>Wüste</source>
+        <translation>Wüste</translation>
+    </message>
+    <message>
+        <source>Wald</source>
+        <translation>Wald</translation>
+    </message>
+    <message>
+        <source>Herbst</source>
+        <translation>Herbst</translation>
+    </message>
+    <message>
+        <source>Frühling</source>
+        <translation>Frühling</translation>
+    </message>
+    <message>
+        <source>Sonnenuntergang</source>
+        <translation>Sonnenuntergang</translation>
+    </message>
+    <message>
+        <source>Nordlicht</source>
+        <translation>Nordlicht</translation>
+    </message>
+    <message>
+        <source>Nacht</source>
+        <translation>Nacht</translation>
+    </message>
+    <message>
+        <source>Wärmebild</source>
+        <translation>Wärmebild</translation>
+    </message>
+    <message>
+        <source>Kupfer</source>
+        <translation>Kupfer</translation>
+    </message>
+    <message>
+        <source>Gold</source>
+        <translation>Gold</translation>
+    </message>
+    <message>
+        <source>Silber</source>
+        <translation>Silber</translation>
+    </message>
+    <message>
+        <source>Neon</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>Bonbon</source>
+        <translation>Bonbon</translation>
+    </message>
+    <message>
+        <source>Blau und Orange</source>
+        <translation>Blau und Orange</translation>
+    </message>
+    <message>
+        <source>Rot und Cyan</source>
+        <translation>Rot und Cyan</translation>
+    </message>
+    <message>
+        <source>Violett und Gelb</source>
+        <translation>Violett und Gelb</translation>
+    </message>
+    <message>
+        <source>Grün und Magenta</source>
+        <translation>Grün und Magenta</translation>
+    </message>
+    <message>
+        <source>Psychedelisch</source>
+        <translation>Psychedelisch</translation>
+    </message>
+    <message>
+        <source>Interferenz</source>
+        <translation>Interferenz</translation>
     </message>
 </context>
 <context>

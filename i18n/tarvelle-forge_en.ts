@@ -307,6 +307,13 @@
     </message>
 </context>
 <context>
+    <name>Palette</name>
+    <message>
+        <source>Palette file error or not there</source>
+        <translation>Palette file error or not there</translation>
+    </message>
+</context>
+<context>
     <name>PictureFormats</name>
     <message>
         <source>Freies Format ...</source>
@@ -389,6 +396,145 @@
     <message>
         <source>Tarvelle-Forge is running soon!</source>
         <translation>Tarvelle-Forge is running soon!</translation>
+    </message>
+</context>
+<context>
+    <name>SystemPalettes</name>
+    <message>
+        <source>Regenbogen</source>
+        <translation>Rainbow</translation>
+    </message>
+    <message>
+        <source>Pastell</source>
+        <translation>Pastels</translation>
+    </message>
+    <message>
+        <source>Doppelter Regenbogen</source>
+        <translation>Double rainbow</translation>
+    </message>
+    <message>
+        <source>Farbbänder</source>
+        <translation>Colour bands</translation>
+    </message>
+    <message>
+        <source>Graustufen</source>
+        <translation>Greys</translation>
+    </message>
+    <message>
+        <source>Graue Wellen</source>
+        <translation>Grey waves</translation>
+    </message>
+    <message>
+        <source>Sepia</source>
+        <translation>Sepia</translation>
+    </message>
+    <message>
+        <source>Cyanotypie</source>
+        <translation>Cyanotype</translation>
+    </message>
+    <message>
+        <source>Feuer</source>
+        <translation>Fire</translation>
+    </message>
+    <message>
+        <source>Lava</source>
+        <translation>Lava</translation>
+    </message>
+    <message>
+        <source>Eis</source>
+        <translation>Ice</translation>
+    </message>
+    <message>
+        <source>Gletscher</source>
+        <translation>Glacier</translation>
+    </message>
+    <message>
+        <source>Meer</source>
+        <translation>Sea</translation>
+    </message>
+    <message>
+        <source>Tiefsee</source>
+        <translation>Deep sea</translation>
+    </message>
+    <message>
+        <source>Erde</source>
+        <translation>Earth</translation>
+    </message>
+    <message>
+        <source>Wüste</source>
+        <translation>Desert</translation>
+    </message>
+    <message>
+        <source>Wald</source>
+        <translation>Forest</translation>
+    </message>
+    <message>
+        <source>Herbst</source>
+        <translation>Autumn</translation>
+    </message>
+    <message>
+        <source>Frühling</source>
+        <translation>Spring</translation>
+    </message>
+    <message>
+        <source>Sonnenuntergang</source>
+        <translation>Sunset</translation>
+    </message>
+    <message>
+        <source>Nordlicht</source>
+        <translation>Northern lights</translation>
+    </message>
+    <message>
+        <source>Nacht</source>
+        <translation>Night</translation>
+    </message>
+    <message>
+        <source>Wärmebild</source>
+        <translation>Thermal</translation>
+    </message>
+    <message>
+        <source>Kupfer</source>
+        <translation>Copper</translation>
+    </message>
+    <message>
+        <source>Gold</source>
+        <translation>Gold</translation>
+    </message>
+    <message>
+        <source>Silber</source>
+        <translation>Silver</translation>
+    </message>
+    <message>
+        <source>Neon</source>
+        <translation>Neon</translation>
+    </message>
+    <message>
+        <source>Bonbon</source>
+        <translation>Candy</translation>
+    </message>
+    <message>
+        <source>Blau und Orange</source>
+        <translation>Blue and orange</translation>
+    </message>
+    <message>
+        <source>Rot und Cyan</source>
+        <translation>Red and cyan</translation>
+    </message>
+    <message>
+        <source>Violett und Gelb</source>
+        <translation>Violet and yellow</translation>
+    </message>
+    <message>
+        <source>Grün und Magenta</source>
+        <translation>Green and magenta</translation>
+    </message>
+    <message>
+        <source>Psychedelisch</source>
+        <translation>Psychedelic</translation>
+    </message>
+    <message>
+        <source>Interferenz</source>
+        <translation>Interference</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,9 @@
 
 #include "core/colour.h"
 
+#include <array>
+#include <vector>
+
 namespace tf {
 
 class Session;
@@ -15,8 +18,31 @@ struct ColourState {
     ColorLong ColorFore = 0x000000;
     ColorLong ColorBack = 0xFFFFFF;
     ColorLong ColorBorder = 0x000000;
+    // The text dialog's own pair, taken over from the two fields by a right click on them.
+    ColorLong TextFore = 0x000000;
+    ColorLong TextBack = 0xFFFFFF;
     bool RandomColors = true;
     bool RandomValues = true;
+
+    // The colour dialog's switches that the colour table and the palette loads read and set:
+    // XDuotones(0) a table of a random scheme, XDuotones(1) a table from the two colours (or
+    // the palette); XLockPalette keeps the palette from being rebuilt from the two colours.
+    std::array<bool, 2> XDuotones{};
+    bool XLockPalette = false;
+
+    // The next paint takes its colours through DuoColors (the driver's use_duos).
+    bool DuoActive = false;
+    // The colour table, cells 0..cols*rows (see duocolortable.h); NoColour marks a cell that
+    // is left unpainted.
+    std::vector<ColorLong> DuoColors;
+    // The palette of 256 colour longs; a session starts with the ramp between the two colours.
+    std::vector<ColorLong> Pal256;
+    // The smoothed palette of a file, 0..511, blue in the low byte (ready for pixel writes).
+    std::vector<ColorLong> Pal512;
+    // Pal256 is used for colour tables instead of the ramp between the two colours.
+    bool PalFromFile = false;
+    // The palette was loaded or locked and is not to be rebuilt for the plasma generator.
+    bool PalFixed = false;
 };
 
 // A random colour from three draws of the session's generator, red from the first:

@@ -1,5 +1,7 @@
 #include "paint/session.h"
 
+#include "paint/palette.h"
+
 namespace tf {
 
 Session::Session() : m_workspace(std::make_unique<Workspace>())
@@ -7,6 +9,8 @@ Session::Session() : m_workspace(std::make_unique<Workspace>())
     m_transparency.XBild = &m_workspace->Bild;
     m_transparency.XUndo = &m_workspace->BildUndo;
     m_transparency.XWork = &m_workspace->BildWork;
+    // The palette stands from the start, as the colour dialog builds it when it loads.
+    Create2ColorPAL(*this);
 }
 
 Session::~Session()
