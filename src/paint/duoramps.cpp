@@ -1,6 +1,4 @@
 // The ramp schemes: one of five channel patterns falling from 255 over the whole table.
-#include "core/fault.h"
-#include "paint/duocolortable.h"
 #include "paint/duotable_p.h"
 
 namespace tf {

@@ -73,6 +73,7 @@ void drawPal512(PictureBox &picPal256, const std::vector<ColorLong> &pal512)
 QImage pal256Strip(const std::vector<ColorLong> &pal256, QSize size)
 {
     PictureBox strip(QStringLiteral("picPal256"), size.width(), size.height());
+    strip.setAutoRedraw(true);
     drawPal256(strip, pal256, strip.Width(), strip.Height());
     return strip.Image();
 }

@@ -1,9 +1,10 @@
 #pragma once
 // The palette of 256 colours built from the two colour fields, and the strip that shows it.
 //
-// The strip `picPal256` is the colour dialog's picture control; the routines here draw on it
-// when the caller passes it and leave it alone otherwise (the command line has none). Drawing
-// does not clear the strip: each call draws its lines over what is there.
+// The strip `picPal256` is the colour dialog's picture control, with AutoRedraw on so that its
+// lines persist; the routines here draw on it when the caller passes it and leave it alone
+// otherwise (the command line has none). Drawing does not clear the strip: each call draws its
+// lines over what is there.
 
 #include "core/colour.h"
 

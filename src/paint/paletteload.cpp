@@ -101,7 +101,7 @@ PaletteLoadResult Menu_LoadPalette(Session &s, const QString &path, PictureBox *
         dimensionPal512(s.colours());
         if (path.isEmpty())
             return;
-        result.folder = QFileInfo(path).absolutePath();
+        result.folder = QDir::cleanPath(QFileInfo(path).absolutePath());
         dimensionPal256(s.colours());
         result.outcome = Read_PAL(s, path, picPal256);
         if (result.outcome == PaletteLoadOutcome::Loaded)

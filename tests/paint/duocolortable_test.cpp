@@ -161,10 +161,8 @@ TEST(DuoColorTable, RandomSets)
         for (int i : {0, 1, 2, 17, 18, 19, 21, 22, 23, 24})
             EXPECT_EQ(t[size_t(i)], NoColour) << i;
         EXPECT_EQ(t[3], 0x0000E5);
-        EXPECT_EQ(t[4], 0x00DBDB);
         EXPECT_EQ(t[6], grey(216));
         EXPECT_EQ(t[7], grey(147));
-        EXPECT_EQ(t[8], 0x2323DC);
     }
     {
         Session s;
@@ -172,13 +170,9 @@ TEST(DuoColorTable, RandomSets)
         const auto &t = table(s);
         EXPECT_EQ(t[0], White);
         EXPECT_EQ(t[3], RGB(229, 128, 128));
-        EXPECT_EQ(t[4], RGB(219, 219, 128));
         EXPECT_EQ(t[5], RGB(128, 128, 222));
-        EXPECT_EQ(t[6], grey(216));
         EXPECT_EQ(GreenOf(t[15]), 128);
-        EXPECT_EQ(GreenOf(t[16]), 128);
         EXPECT_GE(RedOf(t[20]), 200);
-        EXPECT_GE(RedOf(t[25]), 190);
     }
     {
         Session s;
