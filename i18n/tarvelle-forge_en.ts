@@ -70,6 +70,10 @@
         <source>Das Bild %1 kann nicht geschrieben werden.</source>
         <translation>The picture %1 cannot be written.</translation>
     </message>
+    <message>
+        <source>Unbekannte Systempalette: %1 (1 bis %2)</source>
+        <translation>Unknown system palette: %1 (1 to %2)</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>

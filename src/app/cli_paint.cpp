@@ -6,7 +6,11 @@
 #include "generators/painters.h"
 #include "paint/catalogue.h"
 #include "paint/grafmenu.h"
+#include "paint/colourdialog.h"
 #include "paint/paintdriver.h"
+#include "paint/palette.h"
+#include "paint/paletteload.h"
+#include "paint/systempalettes.h"
 #include "paint/session.h"
 
 #include <QCoreApplication>
@@ -33,6 +37,9 @@ struct PaintOptions {
     std::optional<bool> randomColors, randomValues;
     std::optional<int> transparency;
     QString over;
+    std::optional<int> duotones;    // the duotone box to set, 0 or 1
+    QString palette;                // a JASC palette file
+    std::optional<int> systemPalette;
 };
 
 // The largest side of a picture: the largest Superformat.
@@ -115,6 +122,25 @@ PaintOptions parsePaintOptions(const QStringList &words)
                     QCoreApplication::translate("Cli", "Ungültige Transparenz: %1 (0 bis 100)")
                         .arg(v));
             o.transparency = p;
+        } else if (w == QLatin1String("--duotones")) {
+            const QString v = a.valueOf(w);
+            if (v != QLatin1String("0") && v != QLatin1String("1"))
+                throw UsageError(
+                    QCoreApplication::translate("Cli", "Ungültiger Wert für %1: %2").arg(w, v));
+            o.duotones = v.toInt();
+        } else if (w == QLatin1String("--palette")) {
+            o.palette = a.valueOf(w);
+        } else if (w == QLatin1String("--system-palette")) {
+            const QString v = a.valueOf(w);
+            bool ok = false;
+            const int n = v.toInt(&ok);
+            const int count = int(systemPalettes().size());
+            if (!ok || n < 1 || n > count)
+                throw UsageError(QCoreApplication::translate(
+                                     "Cli", "Unbekannte Systempalette: %1 (1 bis %2)")
+                                     .arg(v)
+                                     .arg(count));
+            o.systemPalette = n;
         } else if (w == QLatin1String("--over")) {
             o.over = a.valueOf(w);
         } else if (w.startsWith(QLatin1Char('-')) && w != QLatin1String("-")) {
@@ -159,15 +185,35 @@ void applyControls(Session &s, const PaintOptions &o)
                          QString::number(*o.transparency));
 }
 
-void applyColours(Session &s, const PaintOptions &o)
+// Sets the colours, the palette and the duotone table as the colour dialog would; answers
+// false after a message when the palette cannot be loaded.
+bool applyColours(Session &s, const PaintOptions &o)
 {
     ColourState &c = s.colours();
     if (o.fore) c.ColorFore = *o.fore;
     if (o.back) c.ColorBack = *o.back;
     if (o.border) c.ColorBorder = *o.border;
     // A colour given by hand is meant to be used.
-    c.RandomColors = o.randomColors.value_or(!(o.fore || o.back || o.border));
+    c.RandomColors = !(o.fore || o.back || o.border);
     c.RandomValues = o.randomValues.value_or(true);
+    if (o.fore || o.back)
+        Create2ColorPAL(s);
+    if (!o.palette.isEmpty()) {
+        const PaletteLoadResult r = Menu_LoadPalette(s, o.palette);
+        // A file without the palette's signature is passed over silently on the desktop; here
+        // the user asked for it by name and is told.
+        if (r.outcome == PaletteLoadOutcome::NotJasc)
+            printError(QCoreApplication::translate("Palette", "Palette file error or not there"));
+        if (r.outcome != PaletteLoadOutcome::Loaded)
+            return false;
+    } else if (o.systemPalette && !Lade_RESPalette(s, *o.systemPalette)) {
+        return false;
+    }
+    if (o.duotones)
+        clickDuotones(s, *o.duotones, true);
+    if (o.randomColors)
+        c.RandomColors = *o.randomColors;
+    return true;
 }
 
 bool save(const QImage &image, const QString &path)
@@ -217,7 +263,8 @@ int runPaint(const QStringList &args)
     Workspace &ws = s.workspace();
     ws.New_BildSize(size.width(), size.height());
     if (!over.isNull()) ws.Bild.setPicture(over);
-    applyColours(s, o);
+    if (!applyColours(s, o))
+        return ExitFailed;
 
     const TypeLocation where = *findType(o.type);
     mn_Grafmodes(s, where.group);

@@ -7,6 +7,7 @@
 
 #include "core/colour.h"
 
+#include <QString>
 #include <array>
 #include <vector>
 
@@ -43,6 +44,10 @@ struct ColourState {
     bool PalFromFile = false;
     // The palette was loaded or locked and is not to be rebuilt for the plasma generator.
     bool PalFixed = false;
+    // Where Pal256 came from, so that a paint can be told again: a palette file's path, or the
+    // number of a system palette (0 for none); both empty while it is the two-colour ramp.
+    QString paletteFile;
+    int systemPalette = 0;
 };
 
 // A random colour from three draws of the session's generator, red from the first:

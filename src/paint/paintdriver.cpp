@@ -78,6 +78,9 @@ PaintRecord recordOf(const Session &s, uint32_t seed)
     r.RandomColors = c.RandomColors;
     r.RandomValues = c.RandomValues;
     r.TranspPercent = t.TranspPercent;
+    r.duotones = c.XDuotones[0] ? 0 : c.XDuotones[1] ? 1 : -1;
+    r.paletteFile = c.paletteFile;
+    r.systemPalette = c.systemPalette;
     for (auto &changed : s.controls().changed())
         if (changed.first.name != QLatin1String("ScrollTransparence"))
             r.controls.push_back(std::move(changed));

@@ -25,6 +25,11 @@ QStringList paintCommandArguments(const PaintRecord &r)
                      // otherwise, so the switch is always stated.
                      QStringLiteral("--random-colors"), onOff(r.RandomColors)};
     if (!r.RandomValues) args << QStringLiteral("--random-values") << onOff(false);
+    if (!r.paletteFile.isEmpty())
+        args << QStringLiteral("--palette") << r.paletteFile;
+    else if (r.systemPalette > 0)
+        args << QStringLiteral("--system-palette") << QString::number(r.systemPalette);
+    if (r.duotones >= 0) args << QStringLiteral("--duotones") << QString::number(r.duotones);
     for (const auto &[key, value] : r.controls)
         args << QStringLiteral("--set") << key.toString() + QLatin1Char('=') + value;
     if (r.TranspPercent != 0)

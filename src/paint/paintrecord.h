@@ -27,6 +27,11 @@ struct PaintRecord {
     bool RandomColors = true;
     bool RandomValues = true;
     int TranspPercent = 0;
+    // The colour dialog's tables and palette: which duotone box was set (-1 none), and the
+    // palette file or system palette that Pal256 came from.
+    int duotones = -1;
+    QString paletteFile;
+    int systemPalette = 0;
     // The controls that differ from their defaults, the transparency scroll bar excepted.
     std::vector<std::pair<ControlKey, QString>> controls;
     uint32_t seed = 0;

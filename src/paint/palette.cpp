@@ -32,6 +32,8 @@ void Create2ColorPAL(Session &s, PictureBox *picPal256)
     const int sg = coarseSlope(g1, GreenOf(c.ColorBack));
     const int sb = coarseSlope(b1, BlueOf(c.ColorBack));
     c.Pal256.resize(256);
+    c.paletteFile.clear();
+    c.systemPalette = 0;
     for (int i = 0; i < 256; ++i)
         c.Pal256[size_t(i)] = RGB(clamp255(sr * i + r1), clamp255(sg * i + g1), clamp255(sb * i + b1));
     if (picPal256)

@@ -104,8 +104,11 @@ PaletteLoadResult Menu_LoadPalette(Session &s, const QString &path, PictureBox *
         result.folder = QDir::cleanPath(QFileInfo(path).absolutePath());
         dimensionPal256(s.colours());
         result.outcome = Read_PAL(s, path, picPal256);
-        if (result.outcome == PaletteLoadOutcome::Loaded)
+        if (result.outcome == PaletteLoadOutcome::Loaded) {
             takePalette(s, picPal256);
+            s.colours().paletteFile = QFileInfo(path).absoluteFilePath();
+            s.colours().systemPalette = 0;
+        }
     });
     if (!ran)
         result.outcome = PaletteLoadOutcome::Failed;
@@ -124,8 +127,11 @@ bool Lade_RESPalette(Session &s, int index, PictureBox *picPal256)
             throw Fault(Fault::PathFileAccessError);
         file.close();
         loaded = Read_PAL(s, file.fileName(), picPal256) == PaletteLoadOutcome::Loaded;
-        if (loaded)
+        if (loaded) {
             takePalette(s, picPal256);
+            s.colours().paletteFile.clear();
+            s.colours().systemPalette = index;
+        }
     });
     return loaded;
 }

@@ -2,7 +2,9 @@
 #include "generators/painters.h"
 #include "paint/grafmenu.h"
 #include "paint/paintdriver.h"
+#include "paint/colourdialog.h"
 #include "paint/paintrecord.h"
+#include "paint/paletteload.h"
 #include "paint/session.h"
 
 #include <QFile>
@@ -238,4 +240,54 @@ TEST_F(CliTest, TheCopiedCommandLineReproducesThePaintOnAClearedPicture)
         EXPECT_EQ(QImage(out).convertToFormat(QImage::Format_RGB32), s.workspace().Bild.Image())
             << line.toStdString();
     }
+}
+
+TEST_F(CliTest, PalettesComeFromFilesOrTheSystemLibraryAndABadFileFails)
+{
+    const QString pal = QStringLiteral(TF_TESTDATA_DIR "/palettes/");
+    const auto paint = [&](QStringList extra) {
+        return forge(QStringList{QStringLiteral("paint"), QStringLiteral("Backgroundcolor"),
+                                 QStringLiteral("--lang"), QStringLiteral("en"),
+                                 QStringLiteral("-o"), file("p.png")} +
+                     extra);
+    };
+    for (const char *bad : {"malformed/derived-pico-8-entry-out-of-range.pal",
+                            "malformed/anypalette-KDE40.colors.out-riff.pal", "no-such-file.pal"}) {
+        QFile::remove(file("p.png"));
+        const Result r = paint({QStringLiteral("--palette"), pal + QLatin1String(bad)});
+        EXPECT_EQ(r.code, 1) << bad;
+        EXPECT_TRUE(r.err.contains(QLatin1String("Palette file error or not there"))) << bad;
+        EXPECT_FALSE(QFile::exists(file("p.png"))) << bad;
+    }
+    EXPECT_EQ(paint({QStringLiteral("--palette"), pal + QLatin1String("minipixel-db32.pal"),
+                     QStringLiteral("--duotones"), QStringLiteral("1")})
+                  .code,
+              0);
+    EXPECT_EQ(paint({QStringLiteral("--system-palette"), QStringLiteral("3")}).code, 0);
+    const Result unknown = paint({QStringLiteral("--system-palette"), QStringLiteral("0")});
+    EXPECT_EQ(unknown.code, 2);
+    EXPECT_EQ(unknown.err, QStringLiteral("tarvelle-forge: Unknown system palette: 0 (1 to 34)\n"));
+    const Result duo = paint({QStringLiteral("--duotones"), QStringLiteral("2")});
+    EXPECT_EQ(duo.code, 2);
+    EXPECT_EQ(duo.err, QStringLiteral("tarvelle-forge: Invalid value for --duotones: 2\n"));
+}
+
+TEST_F(CliTest, TheCopiedCommandLineCarriesThePaletteAndTheDuotoneTable)
+{
+    registerAllPanels();
+    Session s;
+    ScriptedPrompter prompter;
+    s.setPrompter(&prompter);
+    s.workspace().New_BildSize(20, 10);
+    mn_Grafmodes(s, 1);
+    ListBoxType_Click(s, 0);
+    ASSERT_TRUE(Lade_RESPalette(s, 7));
+    clickDuotones(s, 1, true);
+    ASSERT_EQ(BtnPaint_Click(s), PaintOutcome::Painted);
+    const QStringList args = paintCommandArguments(*s.paint().lastPaint);
+    EXPECT_TRUE(args.join(' ').contains(QLatin1String("--system-palette 7 --duotones 1")))
+        << args.join(' ').toStdString();
+    const Result r = forge(args + QStringList{QStringLiteral("-o"), file("again.png")});
+    ASSERT_EQ(r.code, 0) << r.err.toStdString();
+    EXPECT_EQ(QImage(file("again.png")).convertToFormat(QImage::Format_RGB32), s.workspace().Bild.Image());
 }
