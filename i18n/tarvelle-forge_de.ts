@@ -549,6 +549,73 @@
     </message>
 </context>
 <context>
+    <name>tf::ui::ColourDialogDock</name>
+    <message>
+        <source>Farben</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Vordergrund</source>
+        <translation>Vordergrund</translation>
+    </message>
+    <message>
+        <source>Hintergrund</source>
+        <translation>Hintergrund</translation>
+    </message>
+    <message>
+        <source>Rand</source>
+        <translation>Rand</translation>
+    </message>
+    <message>
+        <source>Doppelklick: Farbe wählen; rechte Maustaste: Textfarbe</source>
+        <translation>Doppelklick: Farbe wählen; rechte Maustaste: Textfarbe</translation>
+    </message>
+    <message>
+        <source>Doppelklick: Farbe wählen; rechte Maustaste: Texthintergrund</source>
+        <translation>Doppelklick: Farbe wählen; rechte Maustaste: Texthintergrund</translation>
+    </message>
+    <message>
+        <source>Doppelklick: Randfarbe wählen</source>
+        <translation>Doppelklick: Randfarbe wählen</translation>
+    </message>
+    <message>
+        <source>Vorder- und Hintergrundfarbe tauschen</source>
+        <translation>Vorder- und Hintergrundfarbe tauschen</translation>
+    </message>
+    <message>
+        <source>Hintergrundfarbe gleich Vordergrundfarbe</source>
+        <translation>Hintergrundfarbe gleich Vordergrundfarbe</translation>
+    </message>
+    <message>
+        <source>Links: Vordergrund, mit Umschalt auch Rand, mit Strg nur Rand; rechts: Hintergrund</source>
+        <translation>Links: Vordergrund, mit Umschalt auch Rand, mit Strg nur Rand; rechts: Hintergrund</translation>
+    </message>
+    <message>
+        <source>Zufallsfarben</source>
+        <translation>Zufallsfarben</translation>
+    </message>
+    <message>
+        <source>Zufallswerte</source>
+        <translation>Zufallswerte</translation>
+    </message>
+    <message>
+        <source>Palette sperren</source>
+        <translation>Palette sperren</translation>
+    </message>
+    <message>
+        <source>Farbtabelle</source>
+        <translation>Farbtabelle</translation>
+    </message>
+    <message>
+        <source>Z.-Duotones</source>
+        <translation>Z.-Duotones</translation>
+    </message>
+    <message>
+        <source>Duo-Tones</source>
+        <translation>Duo-Tones</translation>
+    </message>
+</context>
+<context>
     <name>tf::ui::FeatDialogDock</name>
     <message>
         <source>Optionen</source>
@@ -728,6 +795,26 @@
         <source>Befehlszeile in die Zwischenablage kopiert.</source>
         <translation>Befehlszeile in die Zwischenablage kopiert.</translation>
     </message>
+    <message>
+        <source>&amp;Farben</source>
+        <translation>&amp;Farben</translation>
+    </message>
+    <message>
+        <source>&amp;Palette laden...</source>
+        <translation>&amp;Palette laden...</translation>
+    </message>
+    <message>
+        <source>Syste&amp;mpaletten...</source>
+        <translation>Syste&amp;mpaletten...</translation>
+    </message>
+    <message>
+        <source>Palette laden</source>
+        <translation>Palette laden</translation>
+    </message>
+    <message>
+        <source>JASC-Palette (*.pal)</source>
+        <translation>JASC-Palette (*.pal)</translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::OptionsDialog</name>
@@ -797,6 +884,13 @@
     <message>
         <source>Höhe:</source>
         <translation>Höhe:</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::SystemPaletteDialog</name>
+    <message>
+        <source>Systempaletten</source>
+        <translation>Systempaletten</translation>
     </message>
 </context>
 </TS>

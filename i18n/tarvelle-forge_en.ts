@@ -549,6 +549,73 @@
     </message>
 </context>
 <context>
+    <name>tf::ui::ColourDialogDock</name>
+    <message>
+        <source>Farben</source>
+        <translation>Colours</translation>
+    </message>
+    <message>
+        <source>Vordergrund</source>
+        <translation>Foreground</translation>
+    </message>
+    <message>
+        <source>Hintergrund</source>
+        <translation>Background</translation>
+    </message>
+    <message>
+        <source>Rand</source>
+        <translation>Border</translation>
+    </message>
+    <message>
+        <source>Doppelklick: Farbe wählen; rechte Maustaste: Textfarbe</source>
+        <translation>Double click: choose a colour; right button: text colour</translation>
+    </message>
+    <message>
+        <source>Doppelklick: Farbe wählen; rechte Maustaste: Texthintergrund</source>
+        <translation>Double click: choose a colour; right button: text background</translation>
+    </message>
+    <message>
+        <source>Doppelklick: Randfarbe wählen</source>
+        <translation>Double click: choose the border colour</translation>
+    </message>
+    <message>
+        <source>Vorder- und Hintergrundfarbe tauschen</source>
+        <translation>Exchange foreground and background colour</translation>
+    </message>
+    <message>
+        <source>Hintergrundfarbe gleich Vordergrundfarbe</source>
+        <translation>Background colour equal to foreground colour</translation>
+    </message>
+    <message>
+        <source>Links: Vordergrund, mit Umschalt auch Rand, mit Strg nur Rand; rechts: Hintergrund</source>
+        <translation>Left: foreground, with Shift also border, with Ctrl border only; right: background</translation>
+    </message>
+    <message>
+        <source>Zufallsfarben</source>
+        <translation>Random colors</translation>
+    </message>
+    <message>
+        <source>Zufallswerte</source>
+        <translation>Random values</translation>
+    </message>
+    <message>
+        <source>Palette sperren</source>
+        <translation>Lock palette</translation>
+    </message>
+    <message>
+        <source>Farbtabelle</source>
+        <translation>Colour table</translation>
+    </message>
+    <message>
+        <source>Z.-Duotones</source>
+        <translation>R.-Duotones</translation>
+    </message>
+    <message>
+        <source>Duo-Tones</source>
+        <translation>Duo-Tones</translation>
+    </message>
+</context>
+<context>
     <name>tf::ui::FeatDialogDock</name>
     <message>
         <source>Optionen</source>
@@ -728,6 +795,26 @@
         <source>Befehlszeile in die Zwischenablage kopiert.</source>
         <translation>Command line copied to the clipboard.</translation>
     </message>
+    <message>
+        <source>&amp;Farben</source>
+        <translation>&amp;Colours</translation>
+    </message>
+    <message>
+        <source>&amp;Palette laden...</source>
+        <translation>Load &amp;palette...</translation>
+    </message>
+    <message>
+        <source>Syste&amp;mpaletten...</source>
+        <translation>Syste&amp;m palettes...</translation>
+    </message>
+    <message>
+        <source>Palette laden</source>
+        <translation>Load palette</translation>
+    </message>
+    <message>
+        <source>JASC-Palette (*.pal)</source>
+        <translation>JASC palette (*.pal)</translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::OptionsDialog</name>
@@ -797,6 +884,13 @@
     <message>
         <source>Höhe:</source>
         <translation>Height:</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::SystemPaletteDialog</name>
+    <message>
+        <source>Systempaletten</source>
+        <translation>System palettes</translation>
     </message>
 </context>
 </TS>

@@ -1,5 +1,6 @@
 #include "paint/colourdialog.h"
 
+#include "core/blit.h"
 #include "paint/duocolortable.h"
 #include "paint/palette.h"
 #include "paint/session.h"
@@ -128,6 +129,21 @@ void clickLockPalette(Session &s, bool on, PictureBox *picPal256)
     }
     Create2ColorPAL(s, picPal256);
     Set_Duo_Colortable(s, 0, true, QStringLiteral("DuoMyPicPalette"), 5, 5);
+}
+
+void backgroundUnderSelection(Session &s)
+{
+    Workspace &ws = s.workspace();
+    if (!ws.PicSelect.Visible())
+        return;
+    PictureBox &temp = ws.PicTemp;
+    temp.resize(ws.PicSelect.Width(), ws.PicSelect.Height());
+    temp.setPicture(QImage());
+    temp.setBackColor(s.colours().ColorBack);
+    BitBlt(ws.Bild.hDC(), int(ws.PicSelect.Left()), int(ws.PicSelect.Top()), temp.Width(),
+           temp.Height(), temp.hDC(), 0, 0, SRCCOPY);
+    ws.Bild.setPicture(ws.Bild.Image());
+    ws.Bild.markChanged();
 }
 
 } // namespace tf

@@ -46,6 +46,10 @@ void chooseForeColor(Session &s, ColorLong colour, PictureBox *picPal256 = nullp
 void chooseBackColor(Session &s, ColorLong colour, PictureBox *picPal256 = nullptr);
 void chooseBorderColor(Session &s, ColorLong colour);
 
+// A new background while the rectangular selection is shown: the place under the selection on
+// Bild takes the background colour, and Bild keeps it as its picture.
+void backgroundUnderSelection(Session &s);
+
 // "picColoSwitch": exchanges foreground and background and, with XDuotones(1), renews the table.
 void switchColours(Session &s);
 // "=": the background becomes the foreground.

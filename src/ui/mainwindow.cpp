@@ -5,7 +5,10 @@
 #include "paint/grafmenu.h"
 #include "paint/paintdriver.h"
 #include "paint/paintrecord.h"
+#include "paint/paletteload.h"
+#include "ui/colourdialogdock.h"
 #include "ui/featdialogdock.h"
+#include "ui/systempalettedialog.h"
 #include "ui/grafdialogdock.h"
 #include "ui/pictureview.h"
 #include "ui/previewcache.h"
@@ -19,6 +22,7 @@
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QDockWidget>
+#include <QFileDialog>
 #include <QGuiApplication>
 #include <QEvent>
 #include <QMenuBar>
@@ -54,6 +58,11 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     m_featDialog = new FeatDialogDock(m_session, this);
     addDockWidget(Qt::RightDockWidgetArea, m_grafDialog);
     addDockWidget(Qt::RightDockWidgetArea, m_featDialog);
+    m_colourDialog = new ColourDialogDock(m_session, this);
+    // Colours and options share the place below the paint dialog, so the picture keeps its room.
+    addDockWidget(Qt::RightDockWidgetArea, m_colourDialog);
+    tabifyDockWidget(m_featDialog, m_colourDialog);
+    m_colourDialog->raise();
     connect(m_grafDialog, &GrafDialogDock::paintRequested, this, &MainWindow::paint);
     connect(m_grafDialog, &GrafDialogDock::rollRequested, this, &MainWindow::roll);
     connect(m_grafDialog, &GrafDialogDock::clipRequested, this, &MainWindow::copyPictureToClipboard);
@@ -136,6 +145,10 @@ void MainWindow::createActions()
     mn_Paint->setShortcutContext(Qt::ApplicationShortcut);
     connect(mn_Paint, &QAction::triggered, this, &MainWindow::paint);
     addAction(mn_Paint);
+    mn_LadePalette = new QAction(this);
+    connect(mn_LadePalette, &QAction::triggered, this, &MainWindow::loadPalette);
+    mn_SystemPalette = new QAction(this);
+    connect(mn_SystemPalette, &QAction::triggered, this, &MainWindow::systemPalette);
     mn_CopyCommand = new QAction(this);
     connect(mn_CopyCommand, &QAction::triggered, this, &MainWindow::copyCommandLine);
     mn_Undo = new QAction(this);
@@ -198,7 +211,12 @@ void MainWindow::createMenus()
     for (QAction *a : mn_Grafmodes)
         m_grafModesMenu->addAction(a);
 
+    m_colourMenu = menuBar()->addMenu(QString());
+    m_colourMenu->addAction(mn_LadePalette);
+    m_colourMenu->addAction(mn_SystemPalette);
+
     m_viewMenu = menuBar()->addMenu(QString());
+    m_viewMenu->addAction(m_colourDialog->toggleViewAction());
     m_viewMenu->addAction(m_grafDialog->toggleViewAction());
     m_viewMenu->addAction(m_featDialog->toggleViewAction());
 }
@@ -236,6 +254,9 @@ void MainWindow::retranslate()
     mn_CopyCommand->setText(tr("Als Befehlszeile kopieren"));
     mn_CopyCommand->setToolTip(tr("Den Befehl, der das letzte Bild wieder malt, in die Zwischenablage kopieren"));
     m_viewMenu->setTitle(tr("&Ansicht"));
+    m_colourMenu->setTitle(tr("&Farben"));
+    mn_LadePalette->setText(tr("&Palette laden..."));
+    mn_SystemPalette->setText(tr("Syste&mpaletten..."));
     mn_Ende->setText(tr("&Beenden"));
     m_editMenu->setTitle(tr("&Bearbeiten"));
     m_grafModesMenu->setTitle(tr("&Grafikmodus"));
@@ -366,6 +387,23 @@ void MainWindow::paintRunning(bool running)
     menuBar()->setEnabled(!running);
     m_toolBar->setEnabled(!running);
     m_featDialog->setEnabled(!running);
+}
+
+void MainWindow::loadPalette()
+{
+    QString folder = m_settings.PDirPalet;
+    const QString path = QFileDialog::getOpenFileName(this, tr("Palette laden"), folder,
+                                                      tr("JASC-Palette (*.pal)"));
+    const PaletteLoadResult r = Menu_LoadPalette(m_session, path, &m_colourDialog->palStrip());
+    if (!r.folder.isEmpty() && r.folder != m_settings.PDirPalet)
+        m_settings.PDirPalet = r.folder;
+    m_colourDialog->refreshFromState();
+}
+
+void MainWindow::systemPalette()
+{
+    tf::mn_SystemPalette(m_session, SystemPaletteDialog::ShowDialog(this), &m_colourDialog->palStrip());
+    m_colourDialog->refreshFromState();
 }
 
 void MainWindow::copyPictureToClipboard()

@@ -22,6 +22,7 @@ class QToolBar;
 
 namespace tf::ui {
 
+class ColourDialogDock;
 class FeatDialogDock;
 class GrafDialogDock;
 class PictureView;
@@ -76,6 +77,8 @@ private:
     void copyPictureToClipboard();
     void copyCommandLine();
     void afterPaint();
+    void loadPalette();
+    void systemPalette();
     void paintRunning(bool running);
     void showOptions();
     void openDialog();
@@ -93,6 +96,7 @@ private:
     std::unique_ptr<PreviewCache> m_previews;
     GrafDialogDock *m_grafDialog = nullptr;
     FeatDialogDock *m_featDialog = nullptr;
+    ColourDialogDock *m_colourDialog = nullptr;
     QScrollArea *m_picContainer = nullptr;
     PictureView *m_view = nullptr;
     QString m_fileName;
@@ -119,6 +123,9 @@ private:
     QAction *mn_Paint = nullptr;
     QAction *mn_CopyCommand = nullptr;
     QMenu *m_viewMenu = nullptr;
+    QMenu *m_colourMenu = nullptr;
+    QAction *mn_LadePalette = nullptr;
+    QAction *mn_SystemPalette = nullptr;
     QAction *mn_Ende = nullptr;
     std::array<QAction *, 10> mn_Grafmodes{};
     QActionGroup *m_groupActions = nullptr;

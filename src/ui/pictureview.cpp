@@ -2,6 +2,7 @@
 
 #include "core/picturebox.h"
 
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -10,6 +11,7 @@ namespace tf::ui {
 PictureView::PictureView(PictureBox &picture, QWidget *parent) : QWidget(parent), m_picture(picture)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
     m_picture.setChangedHook([this](const QRect &r) {
         if (size() != QSize(m_picture.Width(), m_picture.Height()))
             syncSize();
@@ -33,6 +35,36 @@ void PictureView::paintEvent(QPaintEvent *event)
     QPainter p(this);
     const QRect r = event->rect();
     p.drawImage(r.topLeft(), m_picture.screenImage(), r);
+}
+
+} // namespace tf::ui
+
+namespace tf::ui {
+
+void PictureView::mousePressEvent(QMouseEvent *event)
+{
+    emit mousePressed(event->button(), event->modifiers(), event->position().toPoint());
+}
+
+void PictureView::mouseMoveEvent(QMouseEvent *event)
+{
+    emit mouseMoved(event->buttons(), event->modifiers(), event->position().toPoint());
+}
+
+void PictureView::mouseReleaseEvent(QMouseEvent *event)
+{
+    emit mouseReleased(event->button(), event->modifiers(), event->position().toPoint());
+}
+
+void PictureView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    emit mouseDoubleClicked(event->button(), event->position().toPoint());
+}
+
+void PictureView::leaveEvent(QEvent *event)
+{
+    emit mouseLeft();
+    QWidget::leaveEvent(event);
 }
 
 } // namespace tf::ui
