@@ -1,5 +1,5 @@
 #pragma once
-// cDIBSection: the off-screen 24-bit picture (spec Part 1.1).
+// cDIBSection: the off-screen 24-bit picture.
 //
 // Pixel layout, which every raw-pixel routine relies on (see dibview.h for the byte view):
 // - 3 bytes a pixel, blue, green, red;

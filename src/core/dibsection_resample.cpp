@@ -1,4 +1,4 @@
-// cDIBSection::Resample (bilinear) and cDIBSection::Resize (nearest), spec Part 1.1.
+// cDIBSection::Resample (bilinear) and cDIBSection::Resize (nearest).
 //
 // Both work on raw memory rows on both sides (row 0 the bottom row as shown). With W x H the
 // source size and NW x NH the target size:

@@ -1,6 +1,5 @@
 #pragma once
-// mBitmap: the 32-bit route between a picture and a three-dimensional byte array
-// (spec Part 1.1).
+// mBitmap: the 32-bit route between a picture and a three-dimensional byte array.
 //
 // PictureBits is that array: bounds (0..3, 0..width-1, 0..height-1) = (byte, column, row),
 // 4 bytes a pixel in the order blue, green, red, unused, row 0 the top row. Its memory is

@@ -77,7 +77,7 @@ struct ControlPanel {
 // panel table here once, at start, through `registerControlPanel`.
 const std::vector<const ControlPanel *> &controlPanels();
 void registerControlPanel(const ControlPanel *panel);
-// The specification of a control, searched over all panels; null when unknown.
+// The definition of a control, searched over all panels; null when unknown.
 const ControlSpec *findControlSpec(const ControlKey &key);
 
 // Applies a spec's normalising rule (or the default clamp) to a value. Answers nullopt when the

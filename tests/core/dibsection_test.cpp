@@ -51,7 +51,7 @@ bool sameMemory(const cDIBSection &a, const cDIBSection &b)
            std::memcmp(a.DIBSectionBitsPtr(), b.DIBSectionBitsPtr(), a.view().byteCount()) == 0;
 }
 
-// The bilinear rule of the spec written out plainly, for comparison.
+// The bilinear rule written out plainly, for comparison.
 std::vector<uint8_t> referenceResample(const cDIBSection &src, int nw, int nh)
 {
     const ConstDibView s = src.view();
