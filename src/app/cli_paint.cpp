@@ -172,8 +172,8 @@ void applyControls(Session &s, const PaintOptions &o)
 {
     for (const auto &[name, value] : o.sets) {
         const auto key = ControlKey::parse(name);
-        const ControlSpec *spec = key ? findControlSpec(*key) : nullptr;
-        if (!spec)
+        const ControlSpec *def = key ? findControlSpec(*key) : nullptr;
+        if (!def)
             throw UsageError(
                 QCoreApplication::translate("Cli", "Unbekanntes Steuerelement: %1").arg(name));
         if (!s.controls().set(*key, value))

@@ -32,16 +32,16 @@ void printPanel(const ControlPanel &panel)
 {
     print(stdout, QStringLiteral("%1\t%2\n")
                       .arg(panel.name, QCoreApplication::translate("Controls", panel.caption)));
-    for (const ControlSpec &spec : panel.controls) {
-        const QString range = spec.hasRange() ? QStringLiteral("%1..%2").arg(spec.min).arg(spec.max)
+    for (const ControlSpec &def : panel.controls) {
+        const QString range = def.hasRange() ? QStringLiteral("%1..%2").arg(def.min).arg(def.max)
                                               : QStringLiteral("-");
         print(stdout, QStringLiteral("\t%1\t%2\t%3\t%4\t%5\n")
-                          .arg(spec.key.toString(), QLatin1String(kindName(spec.kind)),
-                               spec.defaultValue, range, spec.translatedCaption()));
+                          .arg(def.key.toString(), QLatin1String(kindName(def.kind)),
+                               def.defaultValue, range, def.translatedCaption()));
         // A list's value is the index of an item; an editable combo takes any text, its
         // items are suggestions.
-        const QStringList items = spec.translatedItems();
-        if (spec.kind != ControlKind::ListIndex && !items.isEmpty())
+        const QStringList items = def.translatedItems();
+        if (def.kind != ControlKind::ListIndex && !items.isEmpty())
             print(stdout, QStringLiteral("\t\t%1\n").arg(items.join(QLatin1String(", "))));
         else
             for (qsizetype i = 0; i < items.size(); ++i)

@@ -66,9 +66,9 @@ void registerControlPanel(const ControlPanel *panel)
 const ControlSpec *findControlSpec(const ControlKey &key)
 {
     for (const ControlPanel *panel : panelList())
-        for (const ControlSpec &spec : panel->controls)
-            if (spec.key == key)
-                return &spec;
+        for (const ControlSpec &def : panel->controls)
+            if (def.key == key)
+                return &def;
     return nullptr;
 }
 
@@ -80,19 +80,19 @@ double Val(const QString &text)
     return m.hasMatch() ? m.captured(1).toDouble() : 0.0;
 }
 
-std::optional<QString> normaliseValue(const ControlSpec &spec, const QString &value)
+std::optional<QString> normaliseValue(const ControlSpec &def, const QString &value)
 {
-    if (spec.normalise)
-        return spec.normalise(value);
-    switch (spec.kind) {
+    if (def.normalise)
+        return def.normalise(value);
+    switch (def.kind) {
     case ControlKind::Text: {
-        if (!spec.hasRange())
+        if (!def.hasRange())
             return value;
         const double v = Val(value);
-        if (v < spec.min)
-            return QString::number(spec.min);
-        if (v > spec.max)
-            return QString::number(spec.max);
+        if (v < def.min)
+            return QString::number(def.min);
+        if (v > def.max)
+            return QString::number(def.max);
         return value;
     }
     case ControlKind::Checked: {
@@ -107,14 +107,14 @@ std::optional<QString> normaliseValue(const ControlSpec &spec, const QString &va
         // An index, or the caption of an item in German or in the current language.
         auto n = asInteger(value);
         if (!n) {
-            const QStringList shown = spec.translatedItems();
-            for (size_t i = 0; i < spec.items.size() && !n; ++i)
-                if (value == QString::fromUtf8(spec.items[i]) || value == shown[qsizetype(i)])
+            const QStringList shown = def.translatedItems();
+            for (size_t i = 0; i < def.items.size() && !n; ++i)
+                if (value == QString::fromUtf8(def.items[i]) || value == shown[qsizetype(i)])
                     n = (long long)i;
             if (!n)
                 return std::nullopt;
         }
-        const long long count = (long long)spec.items.size();
+        const long long count = (long long)def.items.size();
         if (*n < -1 || (count > 0 && *n >= count))
             return std::nullopt;
         return QString::number(*n);
@@ -123,8 +123,8 @@ std::optional<QString> normaliseValue(const ControlSpec &spec, const QString &va
         auto n = asInteger(value);
         if (!n)
             return std::nullopt;
-        if (spec.hasRange())
-            n = std::clamp<long long>(*n, spec.min, spec.max);
+        if (def.hasRange())
+            n = std::clamp<long long>(*n, def.min, def.max);
         return QString::number(*n);
     }
     case ControlKind::Colour: {
@@ -158,16 +158,16 @@ void Controls::resetToDefaults()
 
 void Controls::addDefaults(const ControlPanel &panel)
 {
-    for (const ControlSpec &spec : panel.controls)
-        m_values.try_emplace(spec.key, spec.defaultValue);
+    for (const ControlSpec &def : panel.controls)
+        m_values.try_emplace(def.key, def.defaultValue);
 }
 
 bool Controls::set(const ControlKey &key, const QString &value)
 {
-    const ControlSpec *spec = findControlSpec(key);
-    if (!spec)
+    const ControlSpec *def = findControlSpec(key);
+    if (!def)
         return false;
-    const auto v = normaliseValue(*spec, value);
+    const auto v = normaliseValue(*def, value);
     if (!v)
         return false;
     setRaw(key, *v);
@@ -202,8 +202,8 @@ std::vector<std::pair<ControlKey, QString>> Controls::changed() const
 {
     std::vector<std::pair<ControlKey, QString>> out;
     for (const auto &[key, value] : m_values) {
-        const ControlSpec *spec = findControlSpec(key);
-        if (spec && spec->defaultValue != value)
+        const ControlSpec *def = findControlSpec(key);
+        if (def && def->defaultValue != value)
             out.emplace_back(key, value);
     }
     return out;

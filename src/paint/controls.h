@@ -80,9 +80,9 @@ void registerControlPanel(const ControlPanel *panel);
 // The definition of a control, searched over all panels; null when unknown.
 const ControlSpec *findControlSpec(const ControlKey &key);
 
-// Applies a spec's normalising rule (or the default clamp) to a value. Answers nullopt when the
+// Applies a control's normalising rule (or the default clamp) to a value. Answers nullopt when the
 // value does not fit the kind at all (text where a number belongs, an unknown list item).
-std::optional<QString> normaliseValue(const ControlSpec &spec, const QString &value);
+std::optional<QString> normaliseValue(const ControlSpec &def, const QString &value);
 
 // The live values of all controls of a session.
 class Controls {

@@ -18,9 +18,9 @@ namespace tf::ui {
 
 namespace {
 
-QString caption(const ControlSpec &spec)
+QString caption(const ControlSpec &def)
 {
-    return QCoreApplication::translate("Controls", spec.caption);
+    return QCoreApplication::translate("Controls", def.caption);
 }
 
 void setButtonColour(QPushButton *b, ColorLong c)
@@ -46,15 +46,15 @@ void ControlPanelWidget::build()
     auto *form = new QFormLayout(this);
     form->setContentsMargins(4, 4, 4, 4);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    for (const ControlSpec &spec : m_panel.controls) {
-        const ControlSpec *sp = &spec;
+    for (const ControlSpec &def : m_panel.controls) {
+        const ControlSpec *sp = &def;
         Binding b{sp, nullptr, nullptr, {}};
-        switch (spec.kind) {
+        switch (def.kind) {
         case ControlKind::Text: {
-            if (!spec.items.empty()) {
+            if (!def.items.empty()) {
                 auto *combo = new QComboBox(this);
                 combo->setEditable(true);
-                for (const char *item : spec.items)
+                for (const char *item : def.items)
                     combo->addItem(QCoreApplication::translate("Controls", item));
                 connect(combo, &QComboBox::currentTextChanged, this,
                         [this, sp](const QString &t) { commit(*sp, t); });
@@ -73,7 +73,7 @@ void ControlPanelWidget::build()
             auto *row = new QHBoxLayout(box);
             row->setContentsMargins(0, 0, 0, 0);
             auto *slider = new QSlider(Qt::Horizontal, box);
-            slider->setRange(spec.min, spec.hasRange() ? spec.max : 1000);
+            slider->setRange(def.min, def.hasRange() ? def.max : 1000);
             auto *number = new QLabel(box);
             number->setMinimumWidth(44);
             row->addWidget(slider, 1);
@@ -100,7 +100,7 @@ void ControlPanelWidget::build()
         }
         case ControlKind::ListIndex: {
             auto *combo = new QComboBox(this);
-            for (const char *item : spec.items)
+            for (const char *item : def.items)
                 combo->addItem(QCoreApplication::translate("Controls", item));
             connect(combo, &QComboBox::currentIndexChanged, this,
                     [this, sp](int i) { commit(*sp, QString::number(i)); });
@@ -120,14 +120,14 @@ void ControlPanelWidget::build()
             break;
         }
         }
-        b.widget->setObjectName(spec.key.toString());
-        if (spec.kind == ControlKind::Checked) {
+        b.widget->setObjectName(def.key.toString());
+        if (def.kind == ControlKind::Checked) {
             form->addRow(b.widget);
         } else {
             b.label = new QLabel(this);
             form->addRow(b.label, b.widget);
         }
-        m_bindings.emplace(spec.key, std::move(b));
+        m_bindings.emplace(def.key, std::move(b));
     }
     retranslate();
 }
@@ -154,17 +154,17 @@ void ControlPanelWidget::refresh(const ControlKey &key)
     m_showing = false;
 }
 
-void ControlPanelWidget::commit(const ControlSpec &spec, const QString &value)
+void ControlPanelWidget::commit(const ControlSpec &def, const QString &value)
 {
     if (m_showing)
         return;
-    if (!m_controls.set(spec.key, value)) {
-        refresh(spec.key); // an unfitting value: show the value that stands
+    if (!m_controls.set(def.key, value)) {
+        refresh(def.key); // an unfitting value: show the value that stands
         return;
     }
     // The normalising rule may have rewritten the value ("1" split becomes "2").
-    if (m_controls.text(spec.key) != value)
-        refresh(spec.key);
+    if (m_controls.text(def.key) != value)
+        refresh(def.key);
 }
 
 void ControlPanelWidget::changeEvent(QEvent *event)
@@ -177,16 +177,16 @@ void ControlPanelWidget::changeEvent(QEvent *event)
 void ControlPanelWidget::retranslate()
 {
     for (auto &[key, b] : m_bindings) {
-        const ControlSpec &spec = *b.spec;
+        const ControlSpec &def = *b.def;
         if (b.label)
-            b.label->setText(caption(spec));
+            b.label->setText(caption(def));
         if (auto *check = qobject_cast<QCheckBox *>(b.widget))
-            check->setText(caption(spec));
-        if (spec.kind == ControlKind::ListIndex || (spec.kind == ControlKind::Text && !spec.items.empty())) {
+            check->setText(caption(def));
+        if (def.kind == ControlKind::ListIndex || (def.kind == ControlKind::Text && !def.items.empty())) {
             auto *combo = static_cast<QComboBox *>(b.widget);
             m_showing = true;
-            for (int i = 0; i < combo->count() && size_t(i) < spec.items.size(); ++i)
-                combo->setItemText(i, QCoreApplication::translate("Controls", spec.items[size_t(i)]));
+            for (int i = 0; i < combo->count() && size_t(i) < def.items.size(); ++i)
+                combo->setItemText(i, QCoreApplication::translate("Controls", def.items[size_t(i)]));
             b.show();
             m_showing = false;
         }

@@ -38,14 +38,14 @@ protected:
 
 private:
     struct Binding {
-        const ControlSpec *spec;
+        const ControlSpec *def;
         QWidget *widget;
         QLabel *label;
         std::function<void()> show;      // model -> widget
     };
     void build();
     void retranslate();
-    void commit(const ControlSpec &spec, const QString &value);
+    void commit(const ControlSpec &def, const QString &value);
 
     const ControlPanel &m_panel;
     Controls &m_controls;
