@@ -1,4 +1,5 @@
 // The command line, run as the built program.
+#include "support/testdata.h"
 #include "generators/painters.h"
 #include "paint/grafmenu.h"
 #include "paint/paintdriver.h"
@@ -244,6 +245,7 @@ TEST_F(CliTest, TheCopiedCommandLineReproducesThePaintOnAClearedPicture)
 
 TEST_F(CliTest, PalettesComeFromFilesOrTheSystemLibraryAndABadFileFails)
 {
+    TF_REQUIRE_TESTDATA();
     const QString pal = QStringLiteral(TF_TESTDATA_DIR "/palettes/");
     const auto paint = [&](QStringList extra) {
         return forge(QStringList{QStringLiteral("paint"), QStringLiteral("Backgroundcolor"),

@@ -1,4 +1,5 @@
 // The JASC reader on hand-made lines and on real palette files, good and malformed.
+#include "support/testdata.h"
 #include "paint/jascpalette.h"
 
 #include <QDir>
@@ -89,6 +90,7 @@ TEST(JascPalette, HeaderAndLengthRules)
 
 TEST(JascPalette, EveryRealPaletteReads)
 {
+    TF_REQUIRE_TESTDATA();
     const QStringList files = QDir(palettes).entryList({QStringLiteral("*.pal")}, QDir::Files);
     ASSERT_FALSE(files.isEmpty());
     for (const QString &name : files) {
@@ -101,6 +103,7 @@ TEST(JascPalette, EveryRealPaletteReads)
 
 TEST(JascPalette, MalformedFilesAreRefusedOrReadByTheRules)
 {
+    TF_REQUIRE_TESTDATA();
     struct Expected {
         Outcome outcome;
         size_t entries;

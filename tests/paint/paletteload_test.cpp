@@ -1,4 +1,5 @@
 // Palette loads into the colour state: files chosen by the user and the system palettes.
+#include "support/testdata.h"
 #include "paint/paletteload.h"
 
 #include "core/picturebox.h"
@@ -41,6 +42,7 @@ struct LoadFixture : ::testing::Test {
 
 TEST_F(LoadFixture, AFileTurnsTheDialogOverToThePalette)
 {
+    TF_REQUIRE_TESTDATA();
     PictureBox strip(QStringLiteral("picPal256"), 255, 14);
     strip.setAutoRedraw(true);
     const QString path = palettes + QStringLiteral("/minipixel-pico-8.pal");
@@ -140,6 +142,7 @@ TEST_F(LoadFixture, NoPaletteIsSilentAMissingFileIsAnError)
 
 TEST_F(LoadFixture, EveryRealPaletteLoads)
 {
+    TF_REQUIRE_TESTDATA();
     for (const QString &name : QDir(palettes).entryList({QStringLiteral("*.pal")}, QDir::Files)) {
         Session fresh;
         fresh.setPrompter(&prompter);
