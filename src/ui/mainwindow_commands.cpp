@@ -1,0 +1,164 @@
+// The main window's commands: new picture, undo, the groups, Paint and its companions, the
+// palettes, the clipboard and printing.
+#include "ui/mainwindow.h"
+
+#include "core/pictureformats.h"
+#include "paint/catalogue.h"
+#include "paint/grafmenu.h"
+#include "paint/paintdriver.h"
+#include "paint/paintrecord.h"
+#include "paint/paletteload.h"
+#include "ui/colourdialogdock.h"
+#include "ui/featdialogdock.h"
+#include "ui/pictureview.h"
+#include "ui/sizedialog.h"
+#include "ui/statusbar.h"
+#include "ui/systempalettedialog.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QToolBar>
+
+namespace tf::ui {
+
+void MainWindow::newPicture(int formatIndex)
+{
+    Workspace &ws = m_session.workspace();
+    if (ws.BildChanged &&
+        m_session.ask(tr("Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert."),
+                      Buttons::YesNo, Icon::Question) != Answer::Yes)
+        return;
+    const NewPictureFormat &f = newPictureFormats()[size_t(formatIndex)];
+    int w = f.width, h = f.height;
+    if (formatIndex == 0) {
+        SizeDialog dialog(ws.NewFormatW, ws.NewFormatH, this);
+        if (dialog.exec() != QDialog::Accepted)
+            return;
+        w = dialog.pictureWidth();
+        h = dialog.pictureHeight();
+    }
+    ws.NewFormatW = w;
+    ws.NewFormatH = h;
+    ws.NewFormatMax = std::max(w, h);
+    ws.New_BildSize(w, h);
+    ws.Bild.setPicture(QImage());
+    ws.Bild_CLEAR();
+    ws.BildUndo.setPicture(QImage());
+    ws.lastaction.clear();
+    ws.BildChanged = false;
+    m_formatIndex = formatIndex;
+    CommandState c = ws.commands;
+    c.undo = false;
+    c.print = false;
+    ws.setCommands(c);
+    m_fileName.clear();
+    Set_MDI_Caption();
+}
+
+void MainWindow::undoRedo()
+{
+    m_session.workspace().Menu_UndoRedo();
+    refreshStatus();
+    Set_MDI_Caption();
+    m_view->setFocus();
+}
+
+void MainWindow::chooseGroup(int group)
+{
+    if (group < 1 || group > GroupCount)
+        return;
+    tf::mn_Grafmodes(m_session, group);
+    mn_Grafmodes[size_t(group - 1)]->setChecked(true);
+    m_toolBar->setToolTip(QCoreApplication::translate("Groups", groupTitle(group)).replace(QStringLiteral("&&"), QStringLiteral("&")));
+    m_featDialog->Handle_Formobjects();
+}
+
+void MainWindow::paint()
+{
+    BtnPaint_Click(m_session);
+    afterPaint();
+}
+
+void MainWindow::roll(int index)
+{
+    BtnPaintRoll_Click(m_session, index);
+    afterPaint();
+}
+
+void MainWindow::afterPaint()
+{
+    updateCommands();
+    refreshStatus();
+    Set_MDI_Caption();
+}
+
+void MainWindow::paintRunning(bool running)
+{
+    // While a paint runs, only the Paint button (now Stop) and the roll buttons are live: the
+    // paint gives way to input, and a menu command in between would change the picture under it.
+    menuBar()->setEnabled(!running);
+    m_toolBar->setEnabled(!running);
+    m_featDialog->setEnabled(!running);
+}
+
+void MainWindow::loadPalette()
+{
+    QString folder = m_settings.PDirPalet;
+    const QString path = QFileDialog::getOpenFileName(this, tr("Palette laden"), folder,
+                                                      tr("JASC-Palette (*.pal)"));
+    const PaletteLoadResult r = Menu_LoadPalette(m_session, path, &m_colourDialog->palStrip());
+    if (!r.folder.isEmpty() && r.folder != m_settings.PDirPalet)
+        m_settings.PDirPalet = r.folder;
+    m_colourDialog->refreshFromState();
+}
+
+void MainWindow::systemPalette()
+{
+    tf::mn_SystemPalette(m_session, SystemPaletteDialog::ShowDialog(this), &m_colourDialog->palStrip());
+    m_colourDialog->refreshFromState();
+}
+
+void MainWindow::copyPictureToClipboard()
+{
+    QGuiApplication::clipboard()->setImage(m_session.workspace().Bild.Image());
+}
+
+void MainWindow::copyCommandLine()
+{
+    const auto &last = m_session.paint().lastPaint;
+    if (!last) {
+        m_status->setPanelText(sbrState, tr("Es wurde noch nichts gemalt."));
+        return;
+    }
+    QGuiApplication::clipboard()->setText(paintCommandLine(*last));
+    m_status->setPanelText(sbrState, tr("Befehlszeile in die Zwischenablage kopiert."));
+}
+
+void MainWindow::resetDefaults() { m_session.controls().resetToDefaults(); }
+
+void MainWindow::printPicture()
+{
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintDialog dialog(&printer, this);
+    dialog.setWindowTitle(tr("Bild drucken"));
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    QPainter p(&printer);
+    const QImage &image = m_session.workspace().Bild.Image();
+    const QRect page = p.viewport();
+    QSize size = image.size();
+    size.scale(page.size(), Qt::KeepAspectRatio);
+    p.setViewport(page.x() + (page.width() - size.width()) / 2,
+                  page.y() + (page.height() - size.height()) / 2, size.width(), size.height());
+    p.setWindow(image.rect());
+    p.drawImage(0, 0, image);
+}
+
+} // namespace tf::ui
