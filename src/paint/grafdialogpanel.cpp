@@ -22,6 +22,12 @@ ControlSpec control(ControlKey key, ControlKind kind, const char *caption, const
     return s;
 }
 
+ControlSpec withUnit(ControlSpec def, const char *unit)
+{
+    def.unit = unit;
+    return def;
+}
+
 ControlKey named(const char *name, int index = -1)
 {
     return {QString::fromLatin1(name), index};
@@ -52,8 +58,9 @@ const ControlPanel &grafDialogPanel()
                      "25", "30", "40", "50"}),
             control(named("Scrollstep"), K::Value, QT_TRANSLATE_NOOP("Controls", "Schrittweite"),
                     "32", 0, 255),
-            control(named("ScrollTransparence"), K::Value,
-                    QT_TRANSLATE_NOOP("Controls", "Transparenz"), "0", 0, 100),
+            withUnit(control(named("ScrollTransparence"), K::Value,
+                             QT_TRANSLATE_NOOP("Controls", "Transparenz"), "0", 0, 100),
+                     " %"),
             control(named("XBorders"), K::Checked, QT_TRANSLATE_NOOP("Controls", "Ränder"), "1", 0,
                     1),
             control(named("XCenter"), K::Checked, QT_TRANSLATE_NOOP("Controls", "Zentrieren"), "0",
