@@ -1,6 +1,7 @@
 #pragma once
 // Pictures as text for exact pixel checks: one character per pixel, rows ended by '\n'.
-// The key maps colour longs to characters; any other colour shows as '?'.
+// The key maps colour longs to characters; any other colour shows as '?'. Also a test picture
+// whose pixels all differ.
 
 #include "core/colour.h"
 #include "core/devicecontext.h"
@@ -39,6 +40,16 @@ inline std::string art(const QImage &image, const ArtKey &key = basicKey())
     QImage copy = image;
     DeviceContext dc(&copy, false);
     return art(dc, key);
+}
+
+// An RGB32 picture whose pixels all differ (up to 6 x 5): red, green and blue grow with x, y.
+inline QImage gradient(int w, int h)
+{
+    QImage pic(w, h, QImage::Format_RGB32);
+    for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x)
+            pic.setPixel(x, y, qRgb(40 * x + 3, 50 * y + 7, 11 * x + 13 * y + 1));
+    return pic;
 }
 
 // One row of a picture.
