@@ -1,5 +1,4 @@
 #include "core/fixings.h"
-#include "core/language.h"
 #include "core/prompter.h"
 #include "core/tempfiles.h"
 
@@ -250,19 +249,6 @@ TEST_F(FixingsTest, AVisibleSelectionIsFixedAndRestoredOnItsOwn)
     fix.BtnFix_Click();
     EXPECT_EQ(fileColour(QStringLiteral("tmpfixs.bmp")), RGB(4, 4, 4));
     EXPECT_TRUE(prompter.asked().empty());
-}
-
-TEST_F(FixingsTest, TheFixStatusSpeaksTheCurrentLanguage)
-{
-    fix.Set_Fixstatus(false);
-    EXPECT_EQ(status.panelText(sbrfixed), QStringLiteral("nicht fixiert"));
-    EXPECT_FALSE(fix.pictureFixed());
-    ASSERT_TRUE(setLanguage(Language::English));
-    fix.Set_Fixstatus(true);
-    EXPECT_EQ(status.panelText(sbrfixed), QStringLiteral("fixed"));
-    fix.Set_Fixstatus(false);
-    EXPECT_EQ(status.panelText(sbrfixed), QStringLiteral("not fixed"));
-    ASSERT_TRUE(setLanguage(Language::German));
 }
 
 TEST_F(FixingsTest, AFixingThatCannotBeWrittenIsReportedAndCountsNothing)

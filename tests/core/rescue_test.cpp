@@ -1,7 +1,6 @@
 // The start and end of the program around the work folder: rescue of undo images left by a
 // crash, the cleanup at a regular end, the work folder's creation, and the single-instance lock.
 #include "core/fixings.h"
-#include "core/language.h"
 #include "core/prompter.h"
 #include "core/rescue.h"
 #include "core/singleinstance.h"
@@ -91,23 +90,6 @@ TEST_F(RescueTest, NothingIsAskedWithoutUndoFiles)
     EXPECT_TRUE(prompter.asked().empty());
 }
 
-TEST_F(RescueTest, TheInformationSpeaksEnglishWhenEnglishIsChosen)
-{
-    touch(QStringLiteral("tmpundob.bmp"));
-    touch(QStringLiteral("tmpundom.bmp"));
-    prompter.script({Answer::Yes, Answer::Ok, Answer::Yes});
-    ASSERT_TRUE(setLanguage(Language::English));
-    CheckRestore_lost_Undopics(dir.path(), QDateTime(QDate(2023, 11, 9), QTime(0, 0, 7)));
-    ASSERT_TRUE(setLanguage(Language::German));
-    ASSERT_EQ(prompter.asked().size(), 4u);
-    EXPECT_NE(prompter.asked()[0].text, kPictureQuestion);
-    EXPECT_EQ(prompter.asked()[1].text, QStringLiteral("The path/name of the saved picture is ") +
-                                            path(QStringLiteral("20231109_restp_7.bmp")));
-    EXPECT_EQ(prompter.asked()[3].text,
-              QStringLiteral("The path/name of the saved picture mask is ") +
-                  path(QStringLiteral("20231109_restm_7.bmp")));
-}
-
 TEST_F(RescueTest, ARescueThatCannotBeRenamedIsReported)
 {
     touch(QStringLiteral("tmpundob.bmp"));
@@ -152,14 +134,6 @@ TEST_F(RescueTest, AMissingWorkFolderIsMadeWithANote)
     ASSERT_EQ(prompter.asked().size(), 1u);
     EXPECT_EQ(prompter.lastText(),
               QStringLiteral("Das neue Verzeichnis ") + folder + QStringLiteral(" wurde erstellt."));
-
-    prompter.clear();
-    ASSERT_TRUE(setLanguage(Language::English));
-    const QString other = path(QStringLiteral("other"));
-    EXPECT_TRUE(Check_CreateDir(other));
-    ASSERT_TRUE(setLanguage(Language::German));
-    EXPECT_EQ(prompter.lastText(), QStringLiteral("The new directory ") + other +
-                                       QStringLiteral(" was created."));
 
     prompter.clear();
     EXPECT_TRUE(Check_CreateDir(folder)); // already there: no note

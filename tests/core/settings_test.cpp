@@ -145,15 +145,9 @@ TEST_F(SettingsTest, ValuesOfTheWrongKindGiveTheDefault)
     EXPECT_EQ(s.MainWState, 0);  // a minimized start is not restored
     EXPECT_EQ(s.SaveJPQ, 100);   // a quality is at most 100
     EXPECT_EQ(s.PDirRead, QStringLiteral("a,b"));
-}
-
-TEST_F(SettingsTest, FixNumbStaysWithinTwoDigits)
-{
-    SettingsStore store(iniPath());
-    store.Put_Setting(QStringLiteral("Settings"), QStringLiteral("FixNumb"), 250);
-    AppSettings s;
+    store.Put_Setting(S, QStringLiteral("FixNumb"), 250);
     s.load(store);
-    EXPECT_EQ(s.FixNumb, 99);
+    EXPECT_EQ(s.FixNumb, 99); // two digits at most
 }
 
 TEST(WindowPlacement, AWindowIsKeptOnTheScreen)

@@ -95,48 +95,19 @@ TEST_F(WorkspaceTest, AMissingUndoFileReportsAndKeepsThePicture)
     EXPECT_EQ(at(10, 10), RGB(4, 5, 6));
 }
 
-TEST_F(WorkspaceTest, UndoAfterAResizeTakesTheFormerSize)
+TEST_F(WorkspaceTest, UndoBltFromMemoryOrDiskWithZeroWidthCopiesTheFullUndoWidth)
 {
-    ws.New_BildSize(40, 30);
-    paintAll(RGB(50, 60, 70));
-    ws.Bild_nachUndo();
-    ws.New_BildSize(30, 40); // a quarter turn
-    ws.lastaction = QStringLiteral("$TURN90");
-    paintAll(RGB(1, 1, 1));
-    ws.Menu_UndoRedo();
-    EXPECT_EQ(ws.BildW, 40);
-    EXPECT_EQ(ws.BildH, 30);
-    EXPECT_EQ(ws.Bild.Width(), 40);
-    EXPECT_EQ(at(39, 29), RGB(50, 60, 70));
-    ws.Menu_UndoRedo();
-    EXPECT_EQ(ws.BildW, 30);
-    EXPECT_EQ(ws.BildH, 40);
-    EXPECT_EQ(at(29, 39), RGB(1, 1, 1));
-}
-
-TEST_F(WorkspaceTest, UndoBltWithZeroWidthCopiesTheFullUndoWidth)
-{
-    ws.New_BildSize(20, 10);
-    paintAll(RGB(200, 0, 0));
-    ws.Bild_nachUndo();
-    paintAll(RGB(0, 0, 0));
-    ws.UndoBlt_auf_Bild(ws.Bild, 0, 2, 0, 3, 0, 0, false, false);
-    EXPECT_EQ(at(0, 2), RGB(200, 0, 0));
-    EXPECT_EQ(at(19, 4), RGB(200, 0, 0));
-    EXPECT_EQ(at(19, 5), RGB(0, 0, 0));
-    EXPECT_EQ(at(0, 1), RGB(0, 0, 0));
-}
-
-TEST_F(WorkspaceTest, UndoBltFromDiskShrinksTheScratchBufferAgain)
-{
-    ws.New_BildSize(720, 20);
-    paintAll(RGB(0, 0, 200));
-    ws.Bild_nachUndo();
-    paintAll(RGB(0, 0, 0));
-    ws.UndoBlt_auf_Bild(ws.Bild, 0, 0, 0, 0, 0, 0, false, false);
-    EXPECT_EQ(at(719, 19), RGB(0, 0, 200));
-    EXPECT_EQ(ws.Bild_Buff.Width(), 10);
-    EXPECT_EQ(ws.Bild_Buff.Height(), 10);
+    for (const int w : {20, 720}) {
+        ws.New_BildSize(w, 10);
+        paintAll(RGB(200, 0, 0));
+        ws.Bild_nachUndo();
+        paintAll(RGB(0, 0, 0));
+        ws.UndoBlt_auf_Bild(ws.Bild, 0, 2, 0, 3, 0, 0, false, false);
+        EXPECT_EQ(at(0, 2), RGB(200, 0, 0)) << w;
+        EXPECT_EQ(at(w - 1, 4), RGB(200, 0, 0)) << w;
+        EXPECT_EQ(at(w - 1, 5), RGB(0, 0, 0)) << w;
+        EXPECT_EQ(at(0, 1), RGB(0, 0, 0)) << w;
+    }
 }
 
 TEST_F(WorkspaceTest, SelectionUndoImagesFollowTheSameRule)
