@@ -48,14 +48,6 @@ struct BackgroundcolorTest : ::testing::Test {
 
 } // namespace
 
-TEST(PickRandomColor, ChannelsComeFromThreeDrawsRedFirst)
-{
-    Session s;
-    s.random().setState(Random::StartState);
-    // 0.7055475 * 254 + 1 = 180.21; 0.533424 * 254 + 1 = 136.49; 0.5795186 * 254 + 1 = 148.20.
-    EXPECT_EQ(Pick_RandomColor(s), RGB(180, 136, 148));
-}
-
 TEST_F(BackgroundcolorTest, WithoutRandomColoursTheBackgroundColourCoversThePicture)
 {
     oldPicture(RGB(0, 0, 0), RGB(255, 255, 255));

@@ -8,43 +8,30 @@ namespace {
 
 // A panel shaped like a real one: a split count with its clamp, a list, a check box, a value
 // and a colour, one of them a control array.
+ControlSpec spec(ControlKey key, ControlKind kind, const char *defaultValue, int min = 0,
+                 int max = 0, std::vector<const char *> items = {})
+{
+    ControlSpec c;
+    c.key = std::move(key);
+    c.kind = kind;
+    c.defaultValue = QString::fromLatin1(defaultValue);
+    c.min = min;
+    c.max = max;
+    c.items = std::move(items);
+    return c;
+}
+
 const ControlPanel &samplePanel()
 {
-    static const ControlPanel panel = [] {
-        ControlPanel p{QStringLiteral("feat_Test"), "Test", {}};
-        ControlSpec splits;
-        splits.key = {QStringLiteral("txtSplits"), 0};
-        splits.kind = ControlKind::Text;
-        splits.caption = "H-Splits";
-        splits.defaultValue = QStringLiteral("2");
-        splits.min = 2;
-        splits.max = 50;
-        p.controls.push_back(splits);
-        ControlSpec format;
-        format.key = {QStringLiteral("cmbFormat"), -1};
-        format.kind = ControlKind::ListIndex;
-        format.defaultValue = QStringLiteral("0");
-        format.items = {"Quadratisch", "Vertikal"};
-        p.controls.push_back(format);
-        ControlSpec fill;
-        fill.key = {QStringLiteral("XFillTest"), -1};
-        fill.kind = ControlKind::Checked;
-        fill.defaultValue = QStringLiteral("1");
-        p.controls.push_back(fill);
-        ControlSpec step;
-        step.key = {QStringLiteral("scrollTest"), -1};
-        step.kind = ControlKind::Value;
-        step.defaultValue = QStringLiteral("10");
-        step.min = 1;
-        step.max = 100;
-        p.controls.push_back(step);
-        ControlSpec colour;
-        colour.key = {QStringLiteral("picTestColour"), -1};
-        colour.kind = ControlKind::Colour;
-        colour.defaultValue = QStringLiteral("0");
-        p.controls.push_back(colour);
-        return p;
-    }();
+    static const ControlPanel panel{
+        QStringLiteral("feat_Test"),
+        "Test",
+        {spec({QStringLiteral("txtSplits"), 0}, ControlKind::Text, "2", 2, 50),
+         spec({QStringLiteral("cmbFormat")}, ControlKind::ListIndex, "0", 0, 0,
+              {"Quadratisch", "Vertikal"}),
+         spec({QStringLiteral("XFillTest")}, ControlKind::Checked, "1"),
+         spec({QStringLiteral("scrollTest")}, ControlKind::Value, "10", 1, 100),
+         spec({QStringLiteral("picTestColour")}, ControlKind::Colour, "0")}};
     return panel;
 }
 
@@ -56,10 +43,11 @@ struct ControlsTest : ::testing::Test {
 
 TEST(ControlKeyTest, ParsesNamesAndIndices)
 {
-    EXPECT_EQ(ControlKey::parse(QStringLiteral("txtMondrian(2)"))->index, 2);
+    EXPECT_EQ(ControlKey::parse(QStringLiteral("txtMondrian(2)")),
+              (ControlKey{QStringLiteral("txtMondrian"), 2}));
     EXPECT_EQ(ControlKey::parse(QStringLiteral("XFill"))->index, -1);
-    EXPECT_EQ(ControlKey::parse(QStringLiteral("XFill"))->toString(), QStringLiteral("XFill"));
-    EXPECT_EQ(ControlKey::parse(QStringLiteral("txtMondrian(2)"))->toString(), QStringLiteral("txtMondrian(2)"));
+    EXPECT_EQ((ControlKey{QStringLiteral("txtMondrian"), 2}).toString(),
+              QStringLiteral("txtMondrian(2)"));
     EXPECT_FALSE(ControlKey::parse(QStringLiteral("txt(")));
     EXPECT_FALSE(ControlKey::parse(QStringLiteral("2abc")));
 }
