@@ -58,6 +58,13 @@ QByteArray bytesOf(const QString &path)
 struct CliTest : ::testing::Test {
     QTemporaryDir dir;
     QString file(const char *name) const { return dir.filePath(QString::fromLatin1(name)); }
+    // "paint Backgroundcolor" with further arguments, in English.
+    Result paint(const QStringList &extra) const
+    {
+        return forge(QStringList{QStringLiteral("paint"), QStringLiteral("Backgroundcolor"),
+                                 QStringLiteral("--lang"), QStringLiteral("en")} +
+                     extra);
+    }
 };
 
 } // namespace
@@ -111,17 +118,12 @@ TEST_F(CliTest, ControlsOfATypeListTheGeneralOptionsWithKindDefaultAndRange)
 
 TEST_F(CliTest, TheSameSeedGivesTheSameBytes)
 {
-    const QStringList common{QStringLiteral("paint"), QStringLiteral("Backgroundcolor"),
-                             QStringLiteral("--size"), QStringLiteral("64x48")};
-    const Result a = forge(common + QStringList{QStringLiteral("--seed"), QStringLiteral("7"),
-                                                QStringLiteral("-o"), file("a.png")});
-    const Result b = forge(common + QStringList{QStringLiteral("--seed"), QStringLiteral("7"),
-                                                QStringLiteral("-o"), file("b.png")});
-    const Result c = forge(common + QStringList{QStringLiteral("--seed"), QStringLiteral("8"),
-                                                QStringLiteral("-o"), file("c.png")});
-    ASSERT_EQ(a.code, 0) << a.err.toStdString();
-    ASSERT_EQ(b.code, 0);
-    ASSERT_EQ(c.code, 0);
+    for (const auto &[seed, name] : {std::pair{"7", "a.png"}, {"7", "b.png"}, {"8", "c.png"}}) {
+        const Result r = paint({QStringLiteral("--size"), QStringLiteral("64x48"),
+                                QStringLiteral("--seed"), QLatin1String(seed), QStringLiteral("-o"),
+                                file(name)});
+        ASSERT_EQ(r.code, 0) << r.err.toStdString();
+    }
     EXPECT_FALSE(bytesOf(file("a.png")).isEmpty());
     EXPECT_EQ(bytesOf(file("a.png")), bytesOf(file("b.png")));
     EXPECT_NE(bytesOf(file("a.png")), bytesOf(file("c.png")));
@@ -134,8 +136,7 @@ TEST_F(CliTest, TransparencyOverAPictureBlendsAsTheFormulaSays)
     over.setPixel(0, 0, qRgb(0, 0, 0));
     over.setPixel(1, 0, qRgb(200, 100, 11));
     ASSERT_TRUE(over.save(file("x.png")));
-    const Result r = forge({QStringLiteral("paint"), QStringLiteral("Backgroundcolor"),
-                            QStringLiteral("--transparency"), QStringLiteral("50"),
+    const Result r = paint({QStringLiteral("--transparency"), QStringLiteral("50"),
                             QStringLiteral("--over"), file("x.png"), QStringLiteral("--back"),
                             QStringLiteral("#194BFA"), QStringLiteral("-o"), file("y.bmp")});
     ASSERT_EQ(r.code, 0) << r.err.toStdString();
@@ -150,35 +151,29 @@ TEST_F(CliTest, TransparencyOverAPictureBlendsAsTheFormulaSays)
 
 TEST_F(CliTest, BadTypeControlOrValueEndWithTheirMessageAndExitCodeTwo)
 {
-    const auto paint = [&](QStringList extra) {
-        return forge(QStringList{QStringLiteral("paint")} + extra +
-                     QStringList{QStringLiteral("-o"), file("no.png")});
-    };
     const std::vector<std::pair<QStringList, QString>> cases = {
         {{"Nope", "--lang", "en"}, "tarvelle-forge: Unknown graphics type: Nope\n"},
         {{"-", "--lang", "en"}, "tarvelle-forge: Unknown graphics type: -\n"},
-        {{"Backgroundcolor", "--set", "Foo=1", "--lang", "en"},
-         "tarvelle-forge: Unknown control: Foo\n"},
-        {{"Backgroundcolor", "--set", "XFill=maybe", "--lang", "en"},
-         "tarvelle-forge: Invalid value for XFill: maybe\n"},
-        {{"Backgroundcolor", "--set", "XFill=maybe", "--lang", "de"},
-         "tarvelle-forge: Ungültiger Wert für XFill: maybe\n"},
         {{"Nope", "--lang", "de"}, "tarvelle-forge: Unbekannter Grafiktyp: Nope\n"},
-        {{"Backgroundcolor", "--fore", "red", "--lang", "en"},
-         "tarvelle-forge: Invalid colour: red (#RRGGBB)\n"},
-        {{"Backgroundcolor", "--transparency", "101", "--lang", "en"},
-         "tarvelle-forge: Invalid transparency: 101 (0 to 100)\n"},
-        {{"Backgroundcolor", "--size", "0x5", "--lang", "en"},
-         "tarvelle-forge: Invalid size: 0x5 (WIDTHxHEIGHT, 1 to 14000)\n"},
-        {{"Backgroundcolor", "--seed", "-3", "--lang", "en"}, "tarvelle-forge: Invalid seed: -3\n"},
-        {{"Backgroundcolor", "--frobnicate", "--lang", "en"},
-         "tarvelle-forge: Unknown option: --frobnicate\n"},
         {{"--lang", "en"}, "tarvelle-forge: The graphics type is missing.\n"},
-        {{"Backgroundcolor", "--lang", "fr"},
-         "tarvelle-forge: Unbekannte Sprache: fr (de oder en)\n"},
+        {{"Backgroundcolor", "--set", "Foo=1"}, "tarvelle-forge: Unknown control: Foo\n"},
+        {{"Backgroundcolor", "--set", "XFill=maybe"},
+         "tarvelle-forge: Invalid value for XFill: maybe\n"},
+        {{"Backgroundcolor", "--fore", "red"}, "tarvelle-forge: Invalid colour: red (#RRGGBB)\n"},
+        {{"Backgroundcolor", "--transparency", "101"},
+         "tarvelle-forge: Invalid transparency: 101 (0 to 100)\n"},
+        {{"Backgroundcolor", "--size", "0x5"},
+         "tarvelle-forge: Invalid size: 0x5 (WIDTHxHEIGHT, 1 to 14000)\n"},
+        {{"Backgroundcolor", "--seed", "-3"}, "tarvelle-forge: Invalid seed: -3\n"},
+        {{"Backgroundcolor", "--frobnicate"}, "tarvelle-forge: Unknown option: --frobnicate\n"},
+        {{"Backgroundcolor", "--lang", "fr"}, "tarvelle-forge: Unbekannte Sprache: fr (de oder en)\n"},
     };
     for (const auto &[args, message] : cases) {
-        const Result r = paint(args);
+        const QStringList english = args.contains(QStringLiteral("--lang"))
+                                        ? QStringList{}
+                                        : QStringList{QStringLiteral("--lang"), QStringLiteral("en")};
+        const Result r = forge(QStringList{QStringLiteral("paint")} + args + english +
+                               QStringList{QStringLiteral("-o"), file("no.png")});
         EXPECT_EQ(r.code, 2) << args.join(' ').toStdString();
         EXPECT_EQ(r.err, message) << args.join(' ').toStdString();
     }
@@ -195,9 +190,7 @@ TEST_F(CliTest, ATypeWithoutPainterOrAnUnreadablePictureFailWithExitCodeOne)
               QStringLiteral(
                   "tarvelle-forge: \"Tunnel\" paints nothing yet: its painter is not built in.\n"));
     EXPECT_FALSE(QFile::exists(file("t.png")));
-    const Result over =
-        forge({QStringLiteral("paint"), QStringLiteral("Backgroundcolor"), QStringLiteral("--over"),
-               file("missing.png"), QStringLiteral("--lang"), QStringLiteral("en")});
+    const Result over = paint({QStringLiteral("--over"), file("missing.png")});
     EXPECT_EQ(over.code, 1);
     EXPECT_EQ(over.err, QStringLiteral("tarvelle-forge: The picture %1 cannot be read.\n")
                             .arg(file("missing.png")));
@@ -209,8 +202,9 @@ TEST_F(CliTest, TheCopiedCommandLineReproducesThePaintOnAClearedPicture)
     struct Setting {
         bool randomColors;
         int transparency;
+        int systemPalette; // with the duotone table of the palette; 0 none
     };
-    for (const Setting setting : {Setting{true, 0}, Setting{false, 30}}) {
+    for (const Setting setting : {Setting{true, 0, 0}, Setting{false, 30, 0}, Setting{true, 0, 7}}) {
         Session s;
         ScriptedPrompter prompter;
         s.setPrompter(&prompter);
@@ -223,6 +217,10 @@ TEST_F(CliTest, TheCopiedCommandLineReproducesThePaintOnAClearedPicture)
         s.controls().set(ControlKey{QStringLiteral("txtPaperSize"), 0}, QStringLiteral("800"));
         s.controls().set(ControlKey{QStringLiteral("ScrollTransparence")},
                          QString::number(setting.transparency));
+        if (setting.systemPalette) {
+            ASSERT_TRUE(Lade_RESPalette(s, setting.systemPalette));
+            clickDuotones(s, 1, true);
+        }
         ASSERT_EQ(BtnPaint_Click(s), PaintOutcome::Painted);
         ASSERT_TRUE(s.paint().lastPaint);
 
@@ -230,6 +228,8 @@ TEST_F(CliTest, TheCopiedCommandLineReproducesThePaintOnAClearedPicture)
         ASSERT_TRUE(
             line.startsWith(QLatin1String("tarvelle-forge paint Backgroundcolor --size 40x30 ")));
         EXPECT_TRUE(line.contains(QLatin1String(" --set 'txtPaperSize(0)=800'")));
+        EXPECT_EQ(line.contains(QLatin1String("--system-palette 7 --duotones 1")),
+                  setting.systemPalette == 7);
         const QString out = file("copied.png");
         QFile::remove(out);
         const Result r =
@@ -247,49 +247,22 @@ TEST_F(CliTest, PalettesComeFromFilesOrTheSystemLibraryAndABadFileFails)
 {
     TF_REQUIRE_TESTDATA();
     const QString pal = QStringLiteral(TF_TESTDATA_DIR "/palettes/");
-    const auto paint = [&](QStringList extra) {
-        return forge(QStringList{QStringLiteral("paint"), QStringLiteral("Backgroundcolor"),
-                                 QStringLiteral("--lang"), QStringLiteral("en"),
-                                 QStringLiteral("-o"), file("p.png")} +
-                     extra);
-    };
+    const QStringList out{QStringLiteral("-o"), file("p.png")};
     for (const char *bad : {"malformed/derived-pico-8-entry-out-of-range.pal",
                             "malformed/anypalette-KDE40.colors.out-riff.pal", "no-such-file.pal"}) {
-        QFile::remove(file("p.png"));
-        const Result r = paint({QStringLiteral("--palette"), pal + QLatin1String(bad)});
+        const Result r = paint(QStringList{QStringLiteral("--palette"), pal + QLatin1String(bad)} + out);
         EXPECT_EQ(r.code, 1) << bad;
         EXPECT_TRUE(r.err.contains(QLatin1String("Palette file error or not there"))) << bad;
         EXPECT_FALSE(QFile::exists(file("p.png"))) << bad;
     }
-    EXPECT_EQ(paint({QStringLiteral("--palette"), pal + QLatin1String("minipixel-db32.pal"),
-                     QStringLiteral("--duotones"), QStringLiteral("1")})
+    EXPECT_EQ(paint(QStringList{QStringLiteral("--palette"), pal + QLatin1String("minipixel-db32.pal"),
+                                QStringLiteral("--duotones"), QStringLiteral("1")} + out)
                   .code,
               0);
-    EXPECT_EQ(paint({QStringLiteral("--system-palette"), QStringLiteral("3")}).code, 0);
     const Result unknown = paint({QStringLiteral("--system-palette"), QStringLiteral("0")});
     EXPECT_EQ(unknown.code, 2);
     EXPECT_EQ(unknown.err, QStringLiteral("tarvelle-forge: Unknown system palette: 0 (1 to 34)\n"));
     const Result duo = paint({QStringLiteral("--duotones"), QStringLiteral("2")});
     EXPECT_EQ(duo.code, 2);
     EXPECT_EQ(duo.err, QStringLiteral("tarvelle-forge: Invalid value for --duotones: 2\n"));
-}
-
-TEST_F(CliTest, TheCopiedCommandLineCarriesThePaletteAndTheDuotoneTable)
-{
-    registerAllPanels();
-    Session s;
-    ScriptedPrompter prompter;
-    s.setPrompter(&prompter);
-    s.workspace().New_BildSize(20, 10);
-    mn_Grafmodes(s, 1);
-    ListBoxType_Click(s, 0);
-    ASSERT_TRUE(Lade_RESPalette(s, 7));
-    clickDuotones(s, 1, true);
-    ASSERT_EQ(BtnPaint_Click(s), PaintOutcome::Painted);
-    const QStringList args = paintCommandArguments(*s.paint().lastPaint);
-    EXPECT_TRUE(args.join(' ').contains(QLatin1String("--system-palette 7 --duotones 1")))
-        << args.join(' ').toStdString();
-    const Result r = forge(args + QStringList{QStringLiteral("-o"), file("again.png")});
-    ASSERT_EQ(r.code, 0) << r.err.toStdString();
-    EXPECT_EQ(QImage(file("again.png")).convertToFormat(QImage::Format_RGB32), s.workspace().Bild.Image());
 }

@@ -19,20 +19,17 @@ TEST(MRUFileList, NewestFirstAtMostFourAKnownNameMovesUp)
     EXPECT_EQ(list.file(4), QStringLiteral("/p/b.png")); // a.png fell off
 
     list.AddFile(QStringLiteral("/p//c.png")); // the same file, written otherwise
-    EXPECT_EQ(list.FileCount(), 4);
-    EXPECT_EQ(list.file(1), QStringLiteral("/p/c.png"));
-    EXPECT_EQ(list.file(2), QStringLiteral("/p/e.png"));
-    EXPECT_EQ(list.file(3), QStringLiteral("/p/d.png"));
-    EXPECT_EQ(list.file(4), QStringLiteral("/p/b.png"));
-
     list.AddFile(QString());
-    EXPECT_EQ(list.file(1), QStringLiteral("/p/c.png"));
-    EXPECT_EQ(list.file(0), QString());
-    EXPECT_EQ(list.file(5), QString());
+    const auto files = [&] {
+        QStringList out;
+        for (int i = 0; i <= list.FileCount() + 1; ++i)
+            out << list.file(i);
+        return out;
+    };
+    EXPECT_EQ(files(), (QStringList{"", "/p/c.png", "/p/e.png", "/p/d.png", "/p/b.png", ""}));
 
     list.setMaxFileCount(2);
-    EXPECT_EQ(list.FileCount(), 2);
-    EXPECT_EQ(list.file(2), QStringLiteral("/p/e.png"));
+    EXPECT_EQ(files(), (QStringList{"", "/p/c.png", "/p/e.png", ""}));
 }
 
 TEST(MRUFileList, CaptionsAreNumberedAndLongPathsShortened)
@@ -96,8 +93,7 @@ TEST(MRUFileList, SavedAndLoadedThroughTheSettingsStore)
     EXPECT_EQ(list.file(1), existing);
     EXPECT_EQ(list.file(2), QStringLiteral("/gone/weg.png"));
     EXPECT_TRUE(list.FileExists(1));
-    EXPECT_FALSE(list.FileExists(2));
-    EXPECT_FALSE(list.FileExists(3));
+    EXPECT_FALSE(list.FileExists(2) || list.FileExists(3));
 
     // The list's own maximum wins over a longer stored list.
     store.Put_Setting(QStringLiteral("Common"), QStringLiteral("RecCount"), 3);

@@ -162,9 +162,7 @@ TEST_F(PaintDriverTest, PatchingLastactionMakesAMovedSelectionAPaintOnIt)
 TEST_F(PaintDriverTest, APaintEnablesSaveAndPrintAndBecomesThePersistentPicture)
 {
     EXPECT_EQ(BtnPaint_Click(s), PaintOutcome::Painted);
-    EXPECT_TRUE(ws().commands.undo);
-    EXPECT_TRUE(ws().commands.save);
-    EXPECT_TRUE(ws().commands.print);
+    EXPECT_TRUE(ws().commands.undo && ws().commands.save && ws().commands.print);
     EXPECT_EQ(ws().Bild.Picture(), ws().Bild.Image());
     EXPECT_EQ(g_probe.rows, 6);
     EXPECT_EQ(s.paint().GrafTypeMem[1], 0);
@@ -174,6 +172,12 @@ TEST_F(PaintDriverTest, APaintEnablesSaveAndPrintAndBecomesThePersistentPicture)
     s.paint().AutoPaintRun = true;
     BtnPaint_Click(s);
     EXPECT_FALSE(ws().commands.print);
+
+    // A type that needs no undo image skips the preparation.
+    ws().commands.undo = false;
+    choose(1, 11);
+    EXPECT_EQ(BtnPaint_Click(s), PaintOutcome::Painted);
+    EXPECT_FALSE(ws().commands.undo);
 }
 
 TEST_F(PaintDriverTest, StopWithCancelGoesOnPainting)
@@ -192,7 +196,6 @@ TEST_F(PaintDriverTest, StopWithCancelGoesOnPainting)
     EXPECT_EQ(g_probe.rows, 6);
     EXPECT_FALSE(s.paint().StopPaint);
     EXPECT_EQ(captions, (std::vector<B>{B::Running, B::Waiting, B::Running, B::Rest}));
-    EXPECT_EQ(s.paint().dialog.BtnPaintCaption(), QStringLiteral("Paint <F5>"));
     s.setYieldHook(nullptr);
 }
 
@@ -302,14 +305,4 @@ TEST_F(PaintDriverTest, AFaultingPainterIsReportedAndLeavesTheButtonAtRest)
     EXPECT_FALSE(s.paint().running);
     EXPECT_EQ(s.paint().dialog.buttonState(), B::Rest);
     EXPECT_FALSE(ws().commands.print);
-}
-
-TEST_F(PaintDriverTest, TypesThatNeedNoUndoSkipThePreparation)
-{
-    choose(1, 11);
-    EXPECT_EQ(BtnPaint_Click(s), PaintOutcome::Painted);
-    EXPECT_FALSE(ws().commands.undo);
-    choose(1, 0);
-    BtnPaint_Click(s);
-    EXPECT_TRUE(ws().commands.undo);
 }
