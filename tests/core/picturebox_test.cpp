@@ -18,13 +18,13 @@ struct Canvas {
     std::string pixels() const { return art(pb.Image()); }
 };
 
-// Bounding box of the pixels that are not white.
-QRect inkBox(const QImage &img)
+// Bounding box of the pixels that are not the background (white).
+QRect inkBox(const QImage &img, ColorLong background = 0xFFFFFF)
 {
     QRect box;
     for (int y = 0; y < img.height(); ++y)
         for (int x = 0; x < img.width(); ++x)
-            if (fromQRgb(img.pixel(x, y)) != 0xFFFFFF)
+            if (fromQRgb(img.pixel(x, y)) != background)
                 box |= QRect(x, y, 1, 1);
     return box;
 }
@@ -345,14 +345,7 @@ TEST(PictureBoxText, PrintMovesThePenAndPaintsOnlyInItsCell)
     c.pb.Print(QStringLiteral("Hi"));
     EXPECT_EQ(c.pb.CurrentX(), 0.0f);
     EXPECT_EQ(c.pb.CurrentY(), 3 + h);
-    const QRect ink = inkBox([&] {
-        QImage img = c.pb.Image().copy();
-        for (int y = 0; y < img.height(); ++y) // red background counts as blank
-            for (int x = 0; x < img.width(); ++x)
-                if (img.pixel(x, y) == toQRgb(0xFF))
-                    img.setPixel(x, y, 0xFFFFFFFF);
-        return img;
-    }());
+    const QRect ink = inkBox(c.pb.Image(), 0xFF);
     EXPECT_TRUE(QRect(5, 3, int(w), int(h)).contains(ink)) << ink.x() << "," << ink.y();
     EXPECT_EQ(c.pb.Point(5, 3), 0xFF); // transparent: the background stays
 
