@@ -71,7 +71,6 @@ TEST_F(MainWindowTest, RestoresTheLastPictureFormatUnlessItsIndexIsUnknown)
     store->Put_Setting(QStringLiteral("Settings"), QStringLiteral("initFormatH"), 1500);
     start();
     EXPECT_EQ(window->session().workspace().Bild.Width(), 2000);
-    EXPECT_EQ(window->session().workspace().BildMax, 2000);
     window.reset();
 
     store->Put_Setting(QStringLiteral("Settings"), QStringLiteral("initFormat"), 13);
