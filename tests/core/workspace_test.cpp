@@ -41,43 +41,24 @@ TEST_F(WorkspaceTest, NewSizeSetsThePictureAndItsFollowers)
     EXPECT_FALSE(ws.picSelectC.Visible());
 }
 
-TEST_F(WorkspaceTest, TwoUndoPressesGiveThePictureBack)
+TEST_F(WorkspaceTest, TwoUndoPressesGiveThePictureBackFromMemoryAt712AndFromDiskAt713)
 {
-    ws.New_BildSize(712, 712);
-    paintAll(RGB(255, 0, 0));
-    ws.Bild_nachUndo();
-    EXPECT_TRUE(ws.commands.undo);
-    EXPECT_TRUE(ws.commands.save);
-    EXPECT_TRUE(ws.BildChanged);
-    paintAll(RGB(0, 0, 255));
-    ws.lastaction = QStringLiteral("$PAINT");
+    for (const auto &[w, h] : {std::pair{712, 712}, {500, 713}}) {
+        ws.New_BildSize(w, h);
+        paintAll(RGB(255, 0, 0));
+        ws.Bild_nachUndo();
+        EXPECT_EQ(undoFileExists(), h > 712);
+        EXPECT_TRUE(ws.commands.undo && ws.commands.save && ws.BildChanged);
+        paintAll(RGB(0, 0, 255));
+        ws.lastaction = QStringLiteral("$PAINT");
 
-    ws.Menu_UndoRedo();
-    EXPECT_EQ(at(5, 5), RGB(255, 0, 0));
-    EXPECT_EQ(at(711, 711), RGB(255, 0, 0));
-    ws.Menu_UndoRedo();
-    EXPECT_EQ(at(5, 5), RGB(0, 0, 255));
-    EXPECT_EQ(ws.lastaction, QStringLiteral("$PAINT")); // Redo stays possible
-    EXPECT_TRUE(prompter.asked().empty());
-}
-
-TEST_F(WorkspaceTest, At712TheUndoStaysInMemoryAt713ItGoesToDisk)
-{
-    ws.New_BildSize(712, 500);
-    ws.Bild_nachUndo();
-    EXPECT_FALSE(undoFileExists());
-
-    ws.New_BildSize(500, 713);
-    paintAll(RGB(0, 255, 0));
-    ws.Bild_nachUndo();
-    EXPECT_TRUE(undoFileExists());
-    paintAll(RGB(9, 9, 9));
-
-    ws.Menu_UndoRedo();
-    EXPECT_EQ(at(0, 0), RGB(0, 255, 0));
-    EXPECT_EQ(at(499, 712), RGB(0, 255, 0));
-    ws.Menu_UndoRedo();
-    EXPECT_EQ(at(0, 0), RGB(9, 9, 9));
+        ws.Menu_UndoRedo();
+        EXPECT_EQ(at(5, 5), RGB(255, 0, 0)) << h;
+        EXPECT_EQ(at(w - 1, h - 1), RGB(255, 0, 0)) << h;
+        ws.Menu_UndoRedo();
+        EXPECT_EQ(at(5, 5), RGB(0, 0, 255)) << h;
+        EXPECT_EQ(ws.lastaction, QStringLiteral("$PAINT")); // Redo stays possible
+    }
     EXPECT_TRUE(prompter.asked().empty());
 }
 

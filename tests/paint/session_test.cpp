@@ -29,17 +29,6 @@ TEST(SessionTest, ASeedMakesRandomAndTimerReproducible)
         ASSERT_EQ(a.Rnd(), b.Rnd());
 }
 
-TEST(SessionTest, FaultsReachTheSessionsPrompter)
-{
-    Session s;
-    ScriptedPrompter p;
-    s.setPrompter(&p);
-    reportFault(QStringLiteral("Resample"), QStringLiteral("Overflow"));
-    ASSERT_EQ(p.asked().size(), 1u);
-    EXPECT_EQ(p.lastText(), QStringLiteral("Resample [Overflow]"));
-    EXPECT_EQ(s.ask(QStringLiteral("?"), Buttons::YesNo), Answer::Yes);
-}
-
 TEST(SessionTest, AStopRequestOfTheYieldHookSetsStopPaint)
 {
     Session s;
