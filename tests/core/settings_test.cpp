@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 using namespace tf;
 
 namespace {
@@ -43,13 +45,9 @@ TEST_F(SettingsTest, AMissingStoreGivesTheDefaults)
     s.FixNumb = 55; // something load must overwrite
     s.load(store);
     EXPECT_EQ(s, defaultsWithSystemLanguage());
-    EXPECT_EQ(s.FixNumb, 10);
-    EXPECT_EQ(s.FixDelete, 0);
-    EXPECT_EQ(s.ClipDelete, 1);
-    EXPECT_TRUE(s.DoSinglePic);
-    EXPECT_TRUE(s.DoSubDirs);
-    EXPECT_EQ(s.Openpreview, 1);
-    EXPECT_EQ(s.PDirTemp, QString());
+    EXPECT_EQ(std::tuple(s.FixNumb, s.FixDelete, s.ClipDelete, s.DoSinglePic, s.DoSubDirs,
+                         s.Openpreview, s.PDirTemp),
+              std::tuple(10, 0, 1, true, true, 1, QString()));
     EXPECT_FALSE(QFile::exists(iniPath())); // reading writes nothing
 }
 
