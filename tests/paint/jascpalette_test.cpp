@@ -1,9 +1,8 @@
-// The JASC reader on hand-made lines and on real palette files, good and malformed.
+// The JASC reader on hand-made lines and on the malformed real palette files.
 #include "support/testdata.h"
 #include "paint/jascpalette.h"
 
 #include <QDir>
-#include <QFile>
 #include <map>
 #include <gtest/gtest.h>
 
@@ -71,26 +70,6 @@ TEST(JascPalette, HeaderAndLengthRules)
 
     EXPECT_EQ(readJascPaletteFile(QStringLiteral("/nonexistent/x.pal")).outcome, Outcome::Failed);
     EXPECT_EQ(readJascPaletteFile(palettes).outcome, Outcome::Failed); // a folder
-}
-
-TEST(JascPalette, TheRealPalettesReadWithTheirLengthAndLastEntry)
-{
-    TF_REQUIRE_TESTDATA();
-    const std::map<QString, std::pair<size_t, ColorLong>> expected = {
-        {QStringLiteral("minipixel-arne16.pal"), {16, RGB(178, 220, 239)}},
-        {QStringLiteral("minipixel-arne32.pal"), {32, RGB(244, 185, 144)}},
-        {QStringLiteral("minipixel-db32.pal"), {256, 0}},
-        {QStringLiteral("minipixel-default.pal"), {256, RGB(255, 255, 255)}},
-        {QStringLiteral("minipixel-famicube.pal"), {64, RGB(0, 23, 125)}},
-        {QStringLiteral("minipixel-pico-8.pal"), {16, RGB(255, 204, 170)}},
-    };
-    for (const auto &[name, e] : expected) {
-        const JascPalette p = readJascPaletteFile(palettes + QLatin1Char('/') + name);
-        EXPECT_EQ(p.outcome, Outcome::Read) << name.toStdString();
-        ASSERT_EQ(p.entries.size(), e.first) << name.toStdString();
-        EXPECT_EQ(p.entries.front(), 0) << name.toStdString();
-        EXPECT_EQ(p.entries.back(), e.second) << name.toStdString();
-    }
 }
 
 TEST(JascPalette, MalformedFilesAreRefusedOrReadByTheRules)

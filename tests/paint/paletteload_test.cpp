@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QSet>
+#include <map>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -131,15 +132,32 @@ TEST_F(LoadFixture, NoPaletteIsSilentAMissingFileIsAnError)
     EXPECT_EQ(s.colours().Pal512, std::vector<ColorLong>(512, 0));
 }
 
-TEST_F(LoadFixture, EveryRealPaletteLoads)
+TEST_F(LoadFixture, EveryRealPaletteLoadsWithItsLengthAndLastEntry)
 {
     TF_REQUIRE_TESTDATA();
-    for (const QString &name : QDir(palettes).entryList({QStringLiteral("*.pal")}, QDir::Files)) {
+    const std::map<QString, std::pair<size_t, ColorLong>> known = {
+        {QStringLiteral("minipixel-arne16.pal"), {16, RGB(178, 220, 239)}},
+        {QStringLiteral("minipixel-arne32.pal"), {32, RGB(244, 185, 144)}},
+        {QStringLiteral("minipixel-db32.pal"), {256, 0}},
+        {QStringLiteral("minipixel-default.pal"), {256, RGB(255, 255, 255)}},
+        {QStringLiteral("minipixel-famicube.pal"), {64, RGB(0, 23, 125)}},
+        {QStringLiteral("minipixel-pico-8.pal"), {16, RGB(255, 204, 170)}},
+    };
+    const QStringList files = QDir(palettes).entryList({QStringLiteral("*.pal")}, QDir::Files);
+    ASSERT_GE(size_t(files.size()), known.size());
+    for (const QString &name : files) {
         Session fresh;
         fresh.setPrompter(&prompter);
         EXPECT_EQ(Menu_LoadPalette(fresh, palettes + QLatin1Char('/') + name).outcome,
                   PaletteLoadOutcome::Loaded)
             << name.toStdString();
+        const std::vector<ColorLong> &pal = fresh.colours().Pal256;
+        if (const auto it = known.find(name); it != known.end()) {
+            const auto &[count, last] = it->second;
+            EXPECT_EQ(pal[0], 0) << name.toStdString();
+            EXPECT_EQ(pal[count - 1], last) << name.toStdString();
+            EXPECT_EQ(count < 256 ? pal[count] : 0, 0) << name.toStdString();
+        }
     }
     EXPECT_TRUE(prompter.asked().empty());
 }
