@@ -119,9 +119,9 @@ TEST_F(CliTest, ControlsOfATypeListTheGeneralOptionsWithKindDefaultAndRange)
 TEST_F(CliTest, TheSameSeedGivesTheSameBytes)
 {
     for (const auto &[seed, name] : {std::pair{"7", "a.png"}, {"7", "b.png"}, {"8", "c.png"}}) {
-        const Result r = paint({QStringLiteral("--size"), QStringLiteral("64x48"),
-                                QStringLiteral("--seed"), QLatin1String(seed), QStringLiteral("-o"),
-                                file(name)});
+        const Result r =
+            paint({QStringLiteral("--size"), QStringLiteral("64x48"), QStringLiteral("--seed"),
+                   QLatin1String(seed), QStringLiteral("-o"), file(name)});
         ASSERT_EQ(r.code, 0) << r.err.toStdString();
     }
     EXPECT_FALSE(bytesOf(file("a.png")).isEmpty());
@@ -166,12 +166,14 @@ TEST_F(CliTest, BadTypeControlOrValueEndWithTheirMessageAndExitCodeTwo)
          "tarvelle-forge: Invalid size: 0x5 (WIDTHxHEIGHT, 1 to 14000)\n"},
         {{"Backgroundcolor", "--seed", "-3"}, "tarvelle-forge: Invalid seed: -3\n"},
         {{"Backgroundcolor", "--frobnicate"}, "tarvelle-forge: Unknown option: --frobnicate\n"},
-        {{"Backgroundcolor", "--lang", "fr"}, "tarvelle-forge: Unbekannte Sprache: fr (de oder en)\n"},
+        {{"Backgroundcolor", "--lang", "fr"},
+         "tarvelle-forge: Unbekannte Sprache: fr (de oder en)\n"},
     };
     for (const auto &[args, message] : cases) {
-        const QStringList english = args.contains(QStringLiteral("--lang"))
-                                        ? QStringList{}
-                                        : QStringList{QStringLiteral("--lang"), QStringLiteral("en")};
+        const QStringList english =
+            args.contains(QStringLiteral("--lang"))
+                ? QStringList{}
+                : QStringList{QStringLiteral("--lang"), QStringLiteral("en")};
         const Result r = forge(QStringList{QStringLiteral("paint")} + args + english +
                                QStringList{QStringLiteral("-o"), file("no.png")});
         EXPECT_EQ(r.code, 2) << args.join(' ').toStdString();
@@ -204,7 +206,8 @@ TEST_F(CliTest, TheCopiedCommandLineReproducesThePaintOnAClearedPicture)
         int transparency;
         int systemPalette; // with the duotone table of the palette; 0 none
     };
-    for (const Setting setting : {Setting{true, 0, 0}, Setting{false, 30, 0}, Setting{true, 0, 7}}) {
+    for (const Setting setting :
+         {Setting{true, 0, 0}, Setting{false, 30, 0}, Setting{true, 0, 7}}) {
         Session s;
         ScriptedPrompter prompter;
         s.setPrompter(&prompter);
@@ -250,15 +253,18 @@ TEST_F(CliTest, PalettesComeFromFilesOrTheSystemLibraryAndABadFileFails)
     const QStringList out{QStringLiteral("-o"), file("p.png")};
     for (const char *bad : {"malformed/derived-pico-8-entry-out-of-range.pal",
                             "malformed/anypalette-KDE40.colors.out-riff.pal", "no-such-file.pal"}) {
-        const Result r = paint(QStringList{QStringLiteral("--palette"), pal + QLatin1String(bad)} + out);
+        const Result r =
+            paint(QStringList{QStringLiteral("--palette"), pal + QLatin1String(bad)} + out);
         EXPECT_EQ(r.code, 1) << bad;
         EXPECT_TRUE(r.err.contains(QLatin1String("Palette file error or not there"))) << bad;
         EXPECT_FALSE(QFile::exists(file("p.png"))) << bad;
     }
-    EXPECT_EQ(paint(QStringList{QStringLiteral("--palette"), pal + QLatin1String("minipixel-db32.pal"),
-                                QStringLiteral("--duotones"), QStringLiteral("1")} + out)
-                  .code,
-              0);
+    EXPECT_EQ(
+        paint(QStringList{QStringLiteral("--palette"), pal + QLatin1String("minipixel-db32.pal"),
+                          QStringLiteral("--duotones"), QStringLiteral("1")} +
+              out)
+            .code,
+        0);
     const Result unknown = paint({QStringLiteral("--system-palette"), QStringLiteral("0")});
     EXPECT_EQ(unknown.code, 2);
     EXPECT_EQ(unknown.err, QStringLiteral("tarvelle-forge: Unknown system palette: 0 (1 to 34)\n"));

@@ -57,8 +57,7 @@ TEST(DIBits, GetAndSetDIBitsLayOutRowsBothWaysAndRoundTripThroughBothContexts)
                 for (int x = 0; x < 3; ++x) {
                     const QRgb c = pic.pixel(x, y);
                     std::vector<int> expected{qBlue(c), qGreen(c), qRed(c)};
-                    if (bpp == 4)
-                        expected.push_back(0);
+                    if (bpp == 4) expected.push_back(0);
                     EXPECT_EQ(std::vector<int>(row + x * bpp, row + x * bpp + bpp), expected)
                         << bitCount << " " << sign << " at " << x << "," << y;
                 }
@@ -160,7 +159,8 @@ TEST(DIBits, StretchDIBitsScalesByTheContextsMode)
     const std::vector<uint8_t> buf = dibOf(pic, bi, 32, 1);
     Target out(4, 4);
     SetStretchBltMode(out.dc, COLORONCOLOR);
-    EXPECT_EQ(StretchDIBits(out.dc, 0, 0, 4, 4, 0, 0, 2, 2, buf.data(), bi, DIB_RGB_COLORS, SRCCOPY), 2);
+    EXPECT_EQ(
+        StretchDIBits(out.dc, 0, 0, 4, 4, 0, 0, 2, 2, buf.data(), bi, DIB_RGB_COLORS, SRCCOPY), 2);
     for (int y = 0; y < 4; ++y)
         for (int x = 0; x < 4; ++x)
             EXPECT_EQ(out.image.pixel(x, y), pic.pixel(x / 2, y / 2));

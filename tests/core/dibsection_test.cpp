@@ -292,7 +292,8 @@ TEST(DIBSection, ResizeTakesTheSourcePixelAtTheFloorOfItsPosition)
         int w, h;
         std::vector<int> cols, rows;
     };
-    for (const Case &c : {Case{3, 2, {0, 1, 2}, {0, 1}}, Case{7, 4, {0, 0, 1, 1, 2, 2, 3}, {0, 0, 1, 1}}}) {
+    for (const Case &c :
+         {Case{3, 2, {0, 1, 2}, {0, 1}}, Case{7, 4, {0, 0, 1, 1, 2, 2, 3}, {0, 0, 1, 1}}}) {
         auto r = d.Resize(c.w, c.h);
         ASSERT_TRUE(r);
         for (int y = 0; y < c.h; ++y)
@@ -332,13 +333,13 @@ TEST(DIBSection, LineDIBClampsAndOrdersItsBoxInMemoryRows)
     };
     const Case cases[] = {
         {5, 4, -3, 10, 2, 1, "BF", 0, 1, 2, 3, false},
-        {6, 5, 4, 3, 1, 0, "B", 1, 0, 4, 3, true},          // reversed corners
+        {6, 5, 4, 3, 1, 0, "B", 1, 0, 4, 3, true}, // reversed corners
         {4, 3, -5, -5, 100, 100, "B", 0, 0, 3, 2, true},
-        {4, 3, 0, 0, 3, 1, "B", 0, 0, 3, 1, false},         // two rows: only the two edges
-        {5, 5, 1, 2, 3, 2, "B", 1, 2, 3, 2, false},         // one row
-        {5, 5, 7, 4, 9, 1, "B", 4, 1, 4, 4, false},         // one column, clamped
+        {4, 3, 0, 0, 3, 1, "B", 0, 0, 3, 1, false}, // two rows: only the two edges
+        {5, 5, 1, 2, 3, 2, "B", 1, 2, 3, 2, false}, // one row
+        {5, 5, 7, 4, 9, 1, "B", 4, 1, 4, 4, false}, // one column, clamped
         {3, 3, 1, 1, 1, 1, "B", 1, 1, 1, 1, false},
-        {3, 3, 0, 0, 2, 2, "", 0, 0, -1, -1, false},        // another box type: nothing
+        {3, 3, 0, 0, 2, 2, "", 0, 0, -1, -1, false}, // another box type: nothing
         {3, 3, 0, 0, 2, 2, "bf", 0, 0, -1, -1, false},
     };
     for (const Case &c : cases) {
@@ -401,7 +402,8 @@ TEST(DIBSection, SaveBmpWritesTheSystemsHeaderAndTheRows)
     EXPECT_EQ(le16(b, 26), 1);
     EXPECT_EQ(le16(b, 28), 24);
     EXPECT_EQ(b.mid(30, 24), QByteArray(24, '\0'));
-    const char rows[24] = {1, 2, 3, 4, 5, 6, 7, 8, 9, 0, 0, 0, 10, 11, 12, 13, 14, 15, 16, 17, 18, 0, 0, 0};
+    const char rows[24] = {1,  2,  3,  4,  5,  6,  7,  8,  9,  0, 0, 0,
+                           10, 11, 12, 13, 14, 15, 16, 17, 18, 0, 0, 0};
     EXPECT_EQ(b.mid(54), QByteArray(rows, 24));
 
     const QImage img(path);
@@ -485,8 +487,7 @@ Printed print(int w, int h, int pos, Single angle, ColorLong colour, int size, i
     for (int py = 0; py < h; ++py)
         for (int px = 0; px < w; ++px) {
             const ColorLong p = d.dib_hdc().pixel(px, py);
-            if (p != kRed)
-                out.box |= QRect(px, py, 1, 1);
+            if (p != kRed) out.box |= QRect(px, py, 1, 1);
             out.ink += p == colour;
             out.white += p == 0xFFFFFF;
         }

@@ -24,8 +24,7 @@ QRect inkBox(const QImage &img, ColorLong background = 0xFFFFFF)
     QRect box;
     for (int y = 0; y < img.height(); ++y)
         for (int x = 0; x < img.width(); ++x)
-            if (fromQRgb(img.pixel(x, y)) != background)
-                box |= QRect(x, y, 1, 1);
+            if (fromQRgb(img.pixel(x, y)) != background) box |= QRect(x, y, 1, 1);
     return box;
 }
 

@@ -51,7 +51,8 @@ TEST(ColorPairRule, RandomColoursBeforeDuoColoursBeforeTheFields)
 
     s.colours().RandomColors = false;
     p = colorPairRule(s, true, RGB(9, 10, 11), RGB(8, 7, 6));
-    EXPECT_EQ(std::tuple(p.start, p.end, p.g1, p.b2), std::tuple(RGB(9, 10, 11), RGB(8, 7, 6), 10, 6));
+    EXPECT_EQ(std::tuple(p.start, p.end, p.g1, p.b2),
+              std::tuple(RGB(9, 10, 11), RGB(8, 7, 6), 10, 6));
 
     p = colorPairRule(s, false, RGB(9, 9, 9), RGB(8, 8, 8));
     EXPECT_EQ(std::tuple(p.start, p.end, p.r2), std::tuple(RGB(1, 2, 3), RGB(250, 251, 252), 250));

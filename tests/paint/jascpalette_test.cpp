@@ -3,8 +3,8 @@
 #include "paint/jascpalette.h"
 
 #include <QDir>
-#include <map>
 #include <gtest/gtest.h>
+#include <map>
 
 using namespace tf;
 using Outcome = JascPalette::Outcome;

@@ -9,9 +9,9 @@
 
 #include <QDir>
 #include <QSet>
-#include <map>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <map>
 
 using namespace tf;
 
