@@ -1,11 +1,10 @@
 #include "core/workspace.h"
 
 #include "core/blit.h"
-#include "core/dibsection.h"
 #include "core/fault.h"
+#include "core/tempfiles.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QStandardPaths>
 #include <algorithm>
 
@@ -34,7 +33,7 @@ QString Workspace::tempPath(const QString &fileName) const
 
 QString Workspace::undoFile(bool usemasks) const
 {
-    return tempPath(QString::fromLatin1(usemasks ? UndoFileMask : UndoFileBild));
+    return tempPath(QString::fromLatin1(usemasks ? TempFiles::UndoMask : TempFiles::UndoBild));
 }
 
 void Workspace::setCommands(const CommandState &c)
@@ -52,24 +51,11 @@ void Workspace::enableUndo()
     setCommands(c);
 }
 
-void Workspace::saveToFile(const QImage &image, const QString &path)
-{
-    cDIBSection dib;
-    if (!dib.CreateFromPicture(image) || !cDIBSection::Save_BMP(path, dib))
-        throw Fault(Fault::PathFileAccessError);
-}
-
 QImage Workspace::undoImage(bool usemasks, bool usefile)
 {
     if (!usefile)
         return usemasks ? PicUndo.Picture() : BildUndo.Picture();
-    const QString path = undoFile(usemasks);
-    if (!QFileInfo::exists(path))
-        throw Fault(Fault::FileNotFound);
-    QImage image;
-    if (!image.load(path, "BMP"))
-        throw Fault(Fault::InvalidPicture);
-    return image;
+    return readPictureFile(undoFile(usemasks));
 }
 
 void Workspace::New_BildSize(int w, int h)
@@ -101,7 +87,7 @@ void Workspace::Bildimage_auf_Undo(PictureBox &picsrc, bool usemasks, bool usefi
     guarded(QStringLiteral("Bildimage_auf_Undo"), [&] {
         const bool toFile = undoGoesToFile(BildMax, usefile);
         if (toFile) {
-            saveToFile(picsrc.Image(), undoFile(usemasks));
+            writeBmpFile(picsrc.Image(), undoFile(usemasks));
         } else {
             PictureBox &slot = usemasks ? PicUndo : BildUndo;
             if (usemasks)
@@ -176,9 +162,9 @@ void Workspace::Bild_nachUndo()
             BildUndo.setPicture(Bild.Image());
             m_bildUndoInFile = false;
         } else {
-            saveToFile(Bild.Image(), undoFile(false));
+            writeBmpFile(Bild.Image(), undoFile(false));
             if (picSelectC.Visible())
-                saveToFile(picSelectC.Image(), undoFile(true));
+                writeBmpFile(picSelectC.Image(), undoFile(true));
             m_bildUndoInFile = true;
         }
         CommandState c = commands;
@@ -200,10 +186,7 @@ void selectionToUndo(Workspace &ws, PictureBox &selection, bool &inFile)
         ws.PicUndo.setPicture(selection.Image());
         inFile = false;
     } else {
-        cDIBSection dib;
-        if (!dib.CreateFromPicture(selection.Image()) ||
-            !cDIBSection::Save_BMP(ws.tempPath(QString::fromLatin1(Workspace::UndoFileMask)), dib))
-            throw Fault(Fault::PathFileAccessError);
+        writeBmpFile(selection.Image(), ws.tempPath(QString::fromLatin1(TempFiles::UndoMask)));
         // The slot is not needed while the image lies on disk.
         ws.PicUndo.setPicture(QImage());
         ws.PicUndo.resize(12, 12);
@@ -251,7 +234,7 @@ void Workspace::Menu_UndoRedo()
         // is put away first, so a failing write leaves the picture as it was.
         const bool currentToFile = undoGoesToFile(std::max(current.width(), current.height()), false);
         if (currentToFile)
-            saveToFile(current, undoFile(false));
+            writeBmpFile(current, undoFile(false));
 
         // After a resize or a quarter turn the undo image has the other size: the workspace
         // takes it, which for a turn exchanges width and height.

@@ -29,8 +29,6 @@ class Workspace {
 public:
     // Pictures up to this size on the longer side keep their undo image in memory.
     static constexpr int UndoInMemoryMax = 712;
-    static constexpr const char *UndoFileBild = "tmpundob.bmp";
-    static constexpr const char *UndoFileMask = "tmpundom.bmp";
 
     // A workspace of 712 x 712 pixels; TempDir is the per-user data folder.
     Workspace();
@@ -114,7 +112,6 @@ private:
     QString undoFile(bool usemasks) const;
     // The undo image of a slot as it stands (from memory or from its file); null when none.
     QImage undoImage(bool usemasks, bool usefile);
-    void saveToFile(const QImage &image, const QString &path);
     void enableUndo();
 
     QString m_tempDir;

@@ -5,7 +5,7 @@
 #include "core/rescue.h"
 #include "core/settings.h"
 #include "core/tempfiles.h"
-#include "paint/groups.h"
+#include "paint/catalogue.h"
 #include "ui/grafdialogdock.h"
 #include "ui/optionsdialog.h"
 #include "ui/pictureview.h"
