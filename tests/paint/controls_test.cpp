@@ -8,7 +8,7 @@ namespace {
 
 // A panel shaped like a real one: a split count with its clamp, a list, a check box, a value
 // and a colour, one of them a control array.
-ControlSpec spec(ControlKey key, ControlKind kind, const char *defaultValue, int min = 0,
+ControlSpec control(ControlKey key, ControlKind kind, const char *defaultValue, int min = 0,
                  int max = 0, std::vector<const char *> items = {})
 {
     ControlSpec c;
@@ -26,12 +26,12 @@ const ControlPanel &samplePanel()
     static const ControlPanel panel{
         QStringLiteral("feat_Test"),
         "Test",
-        {spec({QStringLiteral("txtSplits"), 0}, ControlKind::Text, "2", 2, 50),
-         spec({QStringLiteral("cmbFormat")}, ControlKind::ListIndex, "0", 0, 0,
+        {control({QStringLiteral("txtSplits"), 0}, ControlKind::Text, "2", 2, 50),
+         control({QStringLiteral("cmbFormat")}, ControlKind::ListIndex, "0", 0, 0,
               {"Quadratisch", "Vertikal"}),
-         spec({QStringLiteral("XFillTest")}, ControlKind::Checked, "1"),
-         spec({QStringLiteral("scrollTest")}, ControlKind::Value, "10", 1, 100),
-         spec({QStringLiteral("picTestColour")}, ControlKind::Colour, "0")}};
+         control({QStringLiteral("XFillTest")}, ControlKind::Checked, "1"),
+         control({QStringLiteral("scrollTest")}, ControlKind::Value, "10", 1, 100),
+         control({QStringLiteral("picTestColour")}, ControlKind::Colour, "0")}};
     return panel;
 }
 
