@@ -254,6 +254,11 @@ QString groupCaption(int group, Language lang)
     return g ? QString::fromUtf8(lang == Language::English ? g->english : g->german) : QString();
 }
 
+QString groupLabel(int group)
+{
+    return groupCaption(group, currentLanguage()).replace(QStringLiteral("&&"), QStringLiteral("&"));
+}
+
 std::optional<TypeLocation> findType(const QString &key)
 {
     if (key == QLatin1String(SeparatorKey)) return std::nullopt;

@@ -59,6 +59,8 @@ QStringList typeCaptions(int group);
 const char *groupTitle(int group);
 // The group's title in a language, "&&" kept.
 QString groupCaption(int group, Language lang);
+// The group's title in the current language as a label or tool tip shows it ("&&" as "&").
+QString groupLabel(int group);
 
 // Where a key stands: group 1..10 and 0-based list index in the dimensioning in force.
 struct TypeLocation {

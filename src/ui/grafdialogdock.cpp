@@ -23,11 +23,6 @@ namespace tf::ui {
 
 namespace {
 
-QString plainTitle(int group)
-{
-    return QCoreApplication::translate("Groups", groupTitle(group)).replace(QStringLiteral("&&"), QStringLiteral("&"));
-}
-
 // A small icon of a preview for the list.
 QIcon iconOf(const QImage &preview)
 {
@@ -165,7 +160,7 @@ void GrafDialogDock::loadTypeList()
     m_loading = true;
     const int group = m_session.paint().GrafGroup;
     m_groups->setCurrentIndex(group - 1);
-    setWindowTitle(plainTitle(group));
+    setWindowTitle(groupLabel(group));
     ListBoxType->clear();
     const auto rows = groupRows(group);
     for (const CatalogueRow &row : rows) {
@@ -214,7 +209,7 @@ void GrafDialogDock::retranslate()
 {
     m_loading = true;
     for (int g = 1; g <= GroupCount; ++g)
-        m_groups->setItemText(g - 1, plainTitle(g));
+        m_groups->setItemText(g - 1, groupLabel(g));
     m_loading = false;
     BtnPaint->setText(m_session.paint().dialog.BtnPaintCaption());
     BtnPaint->setToolTip(tr("Malen <F5>"));

@@ -260,7 +260,7 @@ void MainWindow::retranslate()
     tbDefault->setToolTip(tr("Alle Optionen auf ihre Vorgaben setzen"));
     tbDrucken->setText(tr("Drucken"));
     const int group = m_session.paint().GrafGroup;
-    m_toolBar->setToolTip(QCoreApplication::translate("Groups", groupTitle(group)).replace(QStringLiteral("&&"), QStringLiteral("&")));
+    m_toolBar->setToolTip(groupLabel(group));
     Set_MDI_Caption();
     refreshStatus();
 }

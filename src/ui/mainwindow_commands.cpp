@@ -76,7 +76,7 @@ void MainWindow::chooseGroup(int group)
         return;
     tf::mn_Grafmodes(m_session, group);
     mn_Grafmodes[size_t(group - 1)]->setChecked(true);
-    m_toolBar->setToolTip(QCoreApplication::translate("Groups", groupTitle(group)).replace(QStringLiteral("&&"), QStringLiteral("&")));
+    m_toolBar->setToolTip(groupLabel(group));
     m_featDialog->Handle_Formobjects();
 }
 
