@@ -134,8 +134,7 @@ GrafDialogDock::GrafDialogDock(Session &session, PreviewCache &previews, QWidget
             break;
         }
     });
-    retranslate();
-    loadTypeList();
+    retranslate(); // loads the type list too
 }
 
 GrafDialogDock::~GrafDialogDock()
