@@ -24,6 +24,12 @@ void cDIBSection::LineDIB(cDIBSection &cDibTo, int xStart, int yStart, int xEnd,
     if (y0 > y1)
         std::swap(y0, y1);
     const DibView v = cDibTo.view();
+    // The colour is split without masks and each channel clamped, so a value past white
+    // (a blue of 300) draws white and a negative one black, never a wrapped colour.
+    const int red = std::clamp(Color % 256, 0, 255);
+    const int green = std::clamp((Color / 256) % 256, 0, 255);
+    const int blue = std::clamp(Color / 65536, 0, 255);
+    Color = RGB(red, green, blue);
 
     if (filled) {
         fillBox(v, x0, y0, x1, y1, Color);

@@ -360,6 +360,19 @@ TEST(DIBSection, LineDIBClampsAndOrdersItsBoxInMemoryRows)
     cDIBSection empty;
     cDIBSection::LineDIB(empty, 0, 0, 2, 2, colour, QStringLiteral("BF"), 100);
     EXPECT_EQ(empty.hDIB(), 0u);
+
+    // Channels past their range are clamped, not wrapped: a blue of 0x1FF draws 0xFF and a
+    // negative colour long draws black.
+    const struct {
+        ColorLong colour;
+        uint32_t pixel; // 0xBBGGRR in memory order blue, green, red
+    } clamps[] = {{0x01FF8040, 0xFF8040u}, {0x7FFFFFFF, 0xFFFFFFu}, {-1, 0u}, {-0x10000, 0u}};
+    for (const auto &c : clamps) {
+        cDIBSection d;
+        ASSERT_TRUE(d.Create(2, 2, 0x00FFFFFF));
+        cDIBSection::LineDIB(d, 0, 0, 1, 1, c.colour, QStringLiteral("BF"), 0);
+        EXPECT_EQ(memPixel(d, 1, 1), c.pixel) << std::hex << c.colour;
+    }
 }
 
 namespace {
