@@ -104,7 +104,7 @@ void Workspace::Bildimage_auf_Undo(PictureBox &picsrc, bool usemasks, bool usefi
 void Workspace::Undoimage_auf_Bild(PictureBox &picdst, bool usemasks, bool usefile)
 {
     guarded(QStringLiteral("Undoimage_auf_Bild"), [&] {
-        if (undoGoesToFile(BildMax, usefile)) {
+        if (undoLiesInFile(usemasks, usefile)) {
             // On disk a selection's image is only taken while a selection is shown.
             const bool mask = usemasks && (PicSelect.Visible() || picSelectC.Visible());
             picdst.setPicture(undoImage(mask, true));
@@ -119,7 +119,7 @@ void Workspace::UndoBlt_auf_Bild(PictureBox &picdst, int xDst, int yDst, int wds
                                  int xSrc, int ySrc, bool usemasks, bool usefile)
 {
     guarded(QStringLiteral("UndoBlt_auf_Bild"), [&] {
-        const bool fromFile = undoGoesToFile(BildMax, usefile);
+        const bool fromFile = undoLiesInFile(usemasks, usefile);
         QImage undo = undoImage(usemasks, fromFile);
         if (fromFile) {
             // The file passes through the scratch buffer, which shrinks back afterwards.
@@ -145,7 +145,7 @@ void Workspace::UndoStretch_auf_Bild(PictureBox &picdst, int xDst, int yDst, int
                                      int xSrc, int ySrc, int wSrc, int hSrc, bool usemasks)
 {
     guarded(QStringLiteral("UndoStretch_auf_Bild"), [&] {
-        const bool fromFile = usemasks ? m_maskUndoInFile : m_bildUndoInFile;
+        const bool fromFile = undoLiesInFile(usemasks, false);
         QImage undo = undoImage(usemasks, fromFile).convertToFormat(QImage::Format_RGB32);
         DeviceContext src(&undo, false);
         StretchBlt(picdst.hDC(), xDst, yDst, wdst, hdst, src, xSrc, ySrc, wSrc, hSrc, SRCCOPY);
@@ -157,7 +157,7 @@ void Workspace::Bild_nachUndo()
 {
     guarded(QStringLiteral("Bild_nachUndo"), [&] {
         BildChanged = true;
-        if (BildMax <= UndoInMemoryMax) {
+        if (!undoGoesToFile(BildMax, false)) {
             BildUndo.resize(BildW, BildH);
             BildUndo.setPicture(Bild.Image());
             m_bildUndoInFile = false;
@@ -181,7 +181,7 @@ void selectionToUndo(Workspace &ws, PictureBox &selection, bool &inFile)
     ws.PicWork.resize(selection.Width(), selection.Height());
     ws.PicWork.setPicture(selection.Image());
     ws.BildChanged = true;
-    if (ws.BildMax <= Workspace::UndoInMemoryMax) {
+    if (!Workspace::undoGoesToFile(ws.BildMax, false)) {
         ws.PicUndo.resize(selection.Width(), selection.Height());
         ws.PicUndo.setPicture(selection.Image());
         inFile = false;
@@ -224,15 +224,14 @@ void Workspace::Menu_UndoRedo()
             m_selectionUndo())
             return;
 
-        const bool inFile = m_bildUndoInFile;
-        const QImage undo = undoImage(false, inFile);
+        const QImage undo = undoImage(false, undoLiesInFile(false, false));
         if (undo.isNull())
             return;
         const QImage current = Bild.Image();
 
         // The former picture becomes the undo image, in memory or on disk by its own size; it
         // is put away first, so a failing write leaves the picture as it was.
-        const bool currentToFile = undoGoesToFile(std::max(current.width(), current.height()), false);
+        const bool currentToFile = undoGoesToFile(BildMax, false);
         if (currentToFile)
             writeBmpFile(current, undoFile(false));
 

@@ -105,8 +105,15 @@ public:
     // Handles Undo while lastaction begins with "RECT" or "CIRC"; answers true when it did.
     void setSelectionUndo(std::function<bool()> handler) { m_selectionUndo = std::move(handler); }
 
-    // True when an undo image of the given size goes to disk.
+    // The one rule of the undo's place. An undo image is taken to disk when asked (usefile) or
+    // when the picture's longer side is above 712; every routine that reads it back looks where
+    // it was put (so a picture resized since, or a slot taken by another routine, still finds
+    // it), or on disk when asked.
     static bool undoGoesToFile(int maxSide, bool usefile) { return usefile || maxSide > UndoInMemoryMax; }
+    bool undoLiesInFile(bool usemasks, bool usefile) const
+    {
+        return usefile || (usemasks ? m_maskUndoInFile : m_bildUndoInFile);
+    }
 
 private:
     QString undoFile(bool usemasks) const;

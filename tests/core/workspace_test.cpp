@@ -127,3 +127,29 @@ TEST_F(WorkspaceTest, AnUndoneLargePictureGoesToDiskNotToMemory)
     EXPECT_EQ(at(799, 0), RGB(40, 50, 60));
     EXPECT_TRUE(prompter.asked().empty());
 }
+
+TEST_F(WorkspaceTest, EveryUndoReaderLooksWhereTheUndoImageWasPut)
+{
+    // Taken on disk at 800 pixels, then the picture shrinks below 712 without a new undo image:
+    // each reader still finds the image in its file, not in the memory slot.
+    ws.New_BildSize(800, 20);
+    paintAll(RGB(90, 80, 70));
+    ws.Bild_nachUndo();
+    ws.New_BildSize(40, 20);
+    paintAll(RGB(0, 0, 0));
+
+    ws.UndoBlt_auf_Bild(ws.Bild, 0, 0, 10, 10, 0, 0, false, false);
+    EXPECT_EQ(at(9, 9), RGB(90, 80, 70));
+    paintAll(RGB(0, 0, 0));
+    ws.UndoStretch_auf_Bild(ws.Bild, 0, 0, 40, 20, 0, 0, 800, 20, false);
+    EXPECT_EQ(at(39, 19), RGB(90, 80, 70));
+    ws.Undoimage_auf_Bild(ws.PicTemp, false, false);
+    EXPECT_EQ(ws.PicTemp.Picture().width(), 800);
+
+    paintAll(RGB(1, 1, 1));
+    ws.lastaction = QStringLiteral("BILDRESIZED");
+    ws.Menu_UndoRedo();
+    EXPECT_EQ(ws.BildW, 800);
+    EXPECT_EQ(at(799, 19), RGB(90, 80, 70));
+    EXPECT_TRUE(prompter.asked().empty());
+}
