@@ -27,7 +27,7 @@ void cDIBSection::ClearUp()
 bool cDIBSection::CreateDIB(int lWidth, int lHeight)
 {
     bool made = false;
-    guarded(QStringLiteral("CreateDIB"), [&] {
+    guardedSurface(QStringLiteral("CreateDIB"), [&] {
         ClearUp();
         if (lWidth < 1 || lHeight < 1)
             return;
@@ -65,7 +65,7 @@ bool cDIBSection::Create(int lWidth, int lHeight, ColorLong BackColor)
 bool cDIBSection::CreateFromPicture(const QImage &picThis)
 {
     bool made = false;
-    guarded(QStringLiteral("CreateFromPicture"), [&] {
+    guardedSurface(QStringLiteral("CreateFromPicture"), [&] {
         if (picThis.isNull()) {
             ClearUp();
             return;
@@ -83,7 +83,7 @@ bool cDIBSection::LoadPictureBlt(const DeviceContext &src, int lSrcLeft, int lSr
                                  int lSrcWidth, int lSrcHeight, uint32_t eRop)
 {
     bool done = false;
-    guarded(QStringLiteral("LoadPictureBlt"), [&] {
+    guardedSurface(QStringLiteral("LoadPictureBlt"), [&] {
         const int w = lSrcWidth < 0 ? dib_width() : lSrcWidth;
         const int h = lSrcHeight < 0 ? dib_height() : lSrcHeight;
         done = BitBlt(m_dc, 0, 0, w, h, src, lSrcLeft, lSrcTop, eRop);
@@ -95,7 +95,7 @@ bool cDIBSection::PaintPicture(DeviceContext &dst, int lDestLeft, int lDestTop, 
                                int lDestHeight, int lSrcLeft, int lSrcTop, uint32_t eRop)
 {
     bool done = false;
-    guarded(QStringLiteral("PaintPictureBlt"), [&] {
+    guardedSurface(QStringLiteral("PaintPictureBlt"), [&] {
         const int w = lDestWidth < 0 ? dib_width() : lDestWidth;
         const int h = lDestHeight < 0 ? dib_height() : lDestHeight;
         done = BitBlt(dst, lDestLeft, lDestTop, w, h, m_dc, lSrcLeft, lSrcTop, eRop);

@@ -77,7 +77,7 @@ void resampleBand(ConstDibView src, DibView dst, const std::vector<Tap> &taps, S
 // The worker of Resample: fills dst from src. False after a reported fault.
 bool ResampleDIB(ConstDibView src, DibView dst, Single xScale, Single yScale)
 {
-    return guarded(QStringLiteral("ResampleDIB"), [&] {
+    return guardedSurface(QStringLiteral("ResampleDIB"), [&] {
         const int lastCol = src.width - 1;
         std::vector<Tap> taps(size_t(dst.width));
         for (int x = 0; x < dst.width; ++x) {
@@ -95,7 +95,7 @@ bool ResampleDIB(ConstDibView src, DibView dst, Single xScale, Single yScale)
 // The worker of Resize: fills dst from src. False after a reported fault.
 bool ResizeDIB(ConstDibView src, DibView dst, double xScale, double yScale)
 {
-    return guarded(QStringLiteral("ResizeDIB"), [&] {
+    return guardedSurface(QStringLiteral("ResizeDIB"), [&] {
         std::vector<int> cols(size_t(dst.width));
         for (int x = 0; x < dst.width; ++x)
             cols[size_t(x)] = std::min(int(Int(xScale * x)), src.width - 1) * 3;
@@ -138,7 +138,7 @@ std::unique_ptr<cDIBSection> copyOf(const cDIBSection &src)
 std::unique_ptr<cDIBSection> cDIBSection::Resample(int lNewWidth, int lNewHeight) const
 {
     std::unique_ptr<cDIBSection> result;
-    guarded(QStringLiteral("Resample"), [&] {
+    guardedSurface(QStringLiteral("Resample"), [&] {
         if (!hDIB())
             throw Fault(Fault::InvalidCall);
         if (lNewWidth == dib_width() && lNewHeight == dib_height()) {
@@ -157,7 +157,7 @@ std::unique_ptr<cDIBSection> cDIBSection::Resample(int lNewWidth, int lNewHeight
 std::unique_ptr<cDIBSection> cDIBSection::Resize(int lNewWidth, int lNewHeight) const
 {
     std::unique_ptr<cDIBSection> result;
-    guarded(QStringLiteral("Resize"), [&] {
+    guardedSurface(QStringLiteral("Resize"), [&] {
         if (!hDIB())
             throw Fault(Fault::InvalidCall);
         if (lNewWidth == dib_width() && lNewHeight == dib_height()) {

@@ -49,27 +49,28 @@ QString describeCurrentException(std::exception_ptr e)
     }
 }
 
-QString faultMessage(const QString &tag, const QString &description)
+QString faultMessage(const QString &tag, const QString &description, FaultBox box)
 {
-    return tag + QStringLiteral(" [") + description + QStringLiteral("]");
+    const QLatin1String open(box == FaultBox::Reporter ? "  [" : " [");
+    return tag + open + description + QStringLiteral("]");
 }
 
-void reportFault(const QString &tag, const QString &description)
+void reportFault(const QString &tag, const QString &description, FaultBox box)
 {
     Prompt p;
-    p.text = faultMessage(tag, description);
+    p.text = faultMessage(tag, description, box);
     p.buttons = Buttons::Ok;
-    p.icon = Icon::Exclamation;
+    p.icon = box == FaultBox::Reporter ? Icon::Critical : Icon::Exclamation;
     currentPrompter().ask(p);
 }
 
-bool guarded(const QString &tag, const std::function<void()> &body)
+bool guarded(const QString &tag, const std::function<void()> &body, FaultBox box)
 {
     try {
         body();
         return true;
     } catch (...) {
-        reportFault(tag, describeCurrentException(std::current_exception()));
+        reportFault(tag, describeCurrentException(std::current_exception()), box);
         return false;
     }
 }

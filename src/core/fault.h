@@ -1,10 +1,13 @@
 #pragma once
 // Run-time faults of the engine and the one way they are reported.
 //
-// Every public routine of the engine catches the faults of its body and reports them as
-// "<tag> [<description>]" through the installed prompter, with the exclamation icon, then
-// returns its default. The picture stays as far as the routine had got. `Fault` carries the
-// classic error number as well, for the routines whose message shows the number instead.
+// Every public routine of the engine catches the faults of its body and reports them, then
+// returns its default. The picture stays as far as the routine had got. There are two boxes:
+// - the general reporter, which every command, paint, fixing and undo routine uses:
+//   "<tag>  [<description>]" (two blanks before the bracket) with the stop icon;
+// - the off-screen surface's own box: "<tag> [<description>]" with the exclamation icon.
+// `Fault` carries the classic error number as well, for the routines whose message shows the
+// number instead.
 
 #include <QString>
 #include <exception>
@@ -50,13 +53,25 @@ private:
 // what() for other standard exceptions.
 QString describeCurrentException(std::exception_ptr e);
 
-// "<tag> [<description>]": the text of a fault message.
-QString faultMessage(const QString &tag, const QString &description);
+enum class FaultBox {
+    Reporter, // "<tag>  [<description>]", stop icon
+    Surface,  // "<tag> [<description>]", exclamation icon
+};
 
+// The text of a fault message in the given box.
+QString faultMessage(const QString &tag, const QString &description,
+                     FaultBox box = FaultBox::Reporter);
 // Reports a fault through the installed prompter (see prompter.h).
-void reportFault(const QString &tag, const QString &description);
+void reportFault(const QString &tag, const QString &description,
+                 FaultBox box = FaultBox::Reporter);
 
 // Runs `body`; a fault is reported under `tag` and the call answers false.
-bool guarded(const QString &tag, const std::function<void()> &body);
+bool guarded(const QString &tag, const std::function<void()> &body,
+             FaultBox box = FaultBox::Reporter);
+// The same in the surface's own box.
+inline bool guardedSurface(const QString &tag, const std::function<void()> &body)
+{
+    return guarded(tag, body, FaultBox::Surface);
+}
 
 } // namespace tf

@@ -244,7 +244,9 @@ TEST_F(FixingsTest, AFixingThatCannotBeWrittenIsReportedAndCountsNothing)
     ASSERT_TRUE(QDir().mkpath(path(fixingFileName(1))));
     fixIn(colourOf(1));
     ASSERT_EQ(prompter.asked().size(), 1u);
-    EXPECT_EQ(prompter.lastText(), QStringLiteral("DoFixButton [Path/File access error]"));
+    // The general reporter's box: the error in "  [" and "]", with the stop icon.
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("DoFixButton  [Path/File access error]"));
+    EXPECT_EQ(prompter.asked().back().icon, Icon::Critical);
     EXPECT_EQ(fix.FixLast, 0);
     EXPECT_EQ(fix.FixCount, 0);
 }

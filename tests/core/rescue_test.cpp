@@ -96,7 +96,7 @@ TEST_F(RescueTest, ARescueThatCannotBeRenamedIsReported)
     ASSERT_TRUE(QDir().mkpath(path(QStringLiteral("20240305_restp_45296.bmp")) + "/inside"));
     prompter.script({Answer::Yes});
     EXPECT_TRUE(CheckRestore_lost_Undopics(dir.path(), crashNight).isEmpty());
-    EXPECT_EQ(prompter.lastText(), QStringLiteral("CheckRestore_lost_Undopics [Path/File access error]"));
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("CheckRestore_lost_Undopics  [Path/File access error]"));
     EXPECT_TRUE(QFile::exists(path(QStringLiteral("tmpundob.bmp"))));
 }
 
@@ -139,7 +139,7 @@ TEST_F(RescueTest, AMissingWorkFolderIsMadeWithANote)
     EXPECT_TRUE(Check_CreateDir(folder)); // already there: no note
     touch(QStringLiteral("datei"));
     EXPECT_FALSE(Check_CreateDir(path(QStringLiteral("datei/unter"))));
-    EXPECT_EQ(prompter.lastText(), QStringLiteral("Check_CreateDir [Path not found]"));
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("Check_CreateDir  [Path not found]"));
 }
 
 TEST_F(RescueTest, ASecondLockOnTheSameFileIsRefused)

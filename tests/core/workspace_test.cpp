@@ -71,8 +71,8 @@ TEST_F(WorkspaceTest, AMissingUndoFileReportsAndKeepsThePicture)
     paintAll(RGB(4, 5, 6));
     ws.Menu_UndoRedo();
     ASSERT_EQ(prompter.asked().size(), 1u);
-    EXPECT_EQ(prompter.lastText(), QStringLiteral("Menu_UndoRedo [File not found]"));
-    EXPECT_EQ(prompter.asked().back().icon, Icon::Exclamation);
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("Menu_UndoRedo  [File not found]"));
+    EXPECT_EQ(prompter.asked().back().icon, Icon::Critical); // the general reporter: stop icon
     EXPECT_EQ(at(10, 10), RGB(4, 5, 6));
 }
 

@@ -269,11 +269,11 @@ TEST(DuoColorTable, FaultsAreReportedUnderTheTag)
     ScriptedPrompter p;
     s.setPrompter(&p);
     Set_Duo_Colortable(s, 0, true, QStringLiteral("MondrianColors"), 2, 2);
-    EXPECT_EQ(p.lastText(), QStringLiteral("Set_Duo_Colortable [Subscript out of range]"));
+    EXPECT_EQ(p.lastText(), QStringLiteral("Set_Duo_Colortable  [Subscript out of range]"));
     EXPECT_EQ(table(s)[0], White); // as far as it was written
 
     Set_Duo_Colortable(s, 0, true, QStringLiteral("Spirale"), 200, 200);
-    EXPECT_EQ(p.lastText(), QStringLiteral("Set_Duo_Colortable [Overflow]"));
+    EXPECT_EQ(p.lastText(), QStringLiteral("Set_Duo_Colortable  [Overflow]"));
     EXPECT_EQ(p.asked().size(), 2u);
 
     Set_Duo_Colortable(s, 0, true, QStringLiteral("NoSuchScheme"), 3, 3);

@@ -301,7 +301,7 @@ TEST_F(PaintDriverTest, AFaultingPainterIsReportedAndLeavesTheButtonAtRest)
 {
     choose(1, 9);
     EXPECT_EQ(BtnPaint_Click(s), PaintOutcome::Failed);
-    EXPECT_EQ(prompter.lastText(), QStringLiteral("Create_Polygraphics [Overflow]"));
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("Create_Polygraphics  [Overflow]"));
     EXPECT_FALSE(s.paint().running);
     EXPECT_EQ(s.paint().dialog.buttonState(), B::Rest);
     EXPECT_FALSE(ws().commands.print);

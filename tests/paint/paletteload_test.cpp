@@ -193,5 +193,5 @@ TEST_F(LoadFixture, SystemPalettes)
     EXPECT_FALSE(mn_SystemPalette(s, 0));
     EXPECT_TRUE(prompter.asked().empty());
     EXPECT_FALSE(Lade_RESPalette(s, int(library.size()) + 1));
-    EXPECT_EQ(prompter.lastText(), QStringLiteral("Lade_RESPalette [Subscript out of range]"));
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("Lade_RESPalette  [Subscript out of range]"));
 }
