@@ -633,10 +633,6 @@
         <translation>(keine Vorschau)</translation>
     </message>
     <message>
-        <source>Bildformat: %1</source>
-        <translation>Bildformat: %1</translation>
-    </message>
-    <message>
         <source>Malen &lt;F5&gt;</source>
         <translation>Malen &lt;F5&gt;</translation>
     </message>
@@ -815,13 +811,29 @@
         <source>JASC-Palette (*.pal)</source>
         <translation>JASC-Palette (*.pal)</translation>
     </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Gemaltes löschen</source>
+        <translation>&amp;Gemaltes löschen</translation>
+    </message>
+    <message>
+        <source>Was auf der gezeigten Auswahl gemalt wurde, wieder löschen</source>
+        <translation>Was auf der gezeigten Auswahl gemalt wurde, wieder löschen</translation>
+    </message>
+    <message>
+        <source>Bild &amp;leeren</source>
+        <translation>Bild &amp;leeren</translation>
+    </message>
+    <message>
+        <source>Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert. Wollen Sie das aktuelle Bild verwerfen?</source>
+        <translation>Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert. Wollen Sie das aktuelle Bild verwerfen?</translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::OptionsDialog</name>
-    <message>
-        <source>Ordner suchen</source>
-        <translation>Ordner suchen</translation>
-    </message>
     <message>
         <source>Systemoptionen</source>
         <translation>Systemoptionen</translation>
@@ -884,6 +896,42 @@
     <message>
         <source>Höhe:</source>
         <translation>Höhe:</translation>
+    </message>
+    <message>
+        <source>frei</source>
+        <translation>frei</translation>
+    </message>
+    <message>
+        <source>quadratisch 1:1</source>
+        <translation>quadratisch 1:1</translation>
+    </message>
+    <message>
+        <source>quer 4:3</source>
+        <translation>quer 4:3</translation>
+    </message>
+    <message>
+        <source>quer 3:2</source>
+        <translation>quer 3:2</translation>
+    </message>
+    <message>
+        <source>quer 16:9</source>
+        <translation>quer 16:9</translation>
+    </message>
+    <message>
+        <source>hoch 3:4</source>
+        <translation>hoch 3:4</translation>
+    </message>
+    <message>
+        <source>hoch 2:3</source>
+        <translation>hoch 2:3</translation>
+    </message>
+    <message>
+        <source>hoch DIN (1:1,414)</source>
+        <translation>hoch DIN (1:1,414)</translation>
+    </message>
+    <message>
+        <source>Seitenverhältnis:</source>
+        <translation>Seitenverhältnis:</translation>
     </message>
 </context>
 <context>

@@ -633,10 +633,6 @@
         <translation>(no preview)</translation>
     </message>
     <message>
-        <source>Bildformat: %1</source>
-        <translation>Picture format: %1</translation>
-    </message>
-    <message>
         <source>Malen &lt;F5&gt;</source>
         <translation>Paint &lt;F5&gt;</translation>
     </message>
@@ -815,13 +811,29 @@
         <source>JASC-Palette (*.pal)</source>
         <translation>JASC palette (*.pal)</translation>
     </message>
+    <message>
+        <source>Speichern</source>
+        <translation>Save</translation>
+    </message>
+    <message>
+        <source>&amp;Gemaltes löschen</source>
+        <translation>&amp;Clear painting</translation>
+    </message>
+    <message>
+        <source>Was auf der gezeigten Auswahl gemalt wurde, wieder löschen</source>
+        <translation>Clear what was painted on the shown selection</translation>
+    </message>
+    <message>
+        <source>Bild &amp;leeren</source>
+        <translation>Clear &amp;picture</translation>
+    </message>
+    <message>
+        <source>Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert. Wollen Sie das aktuelle Bild verwerfen?</source>
+        <translation>The picture was changed and the current state has not been saved. Do you want to discard the current picture?</translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::OptionsDialog</name>
-    <message>
-        <source>Ordner suchen</source>
-        <translation>Browse for Folder</translation>
-    </message>
     <message>
         <source>Systemoptionen</source>
         <translation>Preferences</translation>
@@ -884,6 +896,42 @@
     <message>
         <source>Höhe:</source>
         <translation>Height:</translation>
+    </message>
+    <message>
+        <source>frei</source>
+        <translation>free</translation>
+    </message>
+    <message>
+        <source>quadratisch 1:1</source>
+        <translation>square 1:1</translation>
+    </message>
+    <message>
+        <source>quer 4:3</source>
+        <translation>landscape 4:3</translation>
+    </message>
+    <message>
+        <source>quer 3:2</source>
+        <translation>landscape 3:2</translation>
+    </message>
+    <message>
+        <source>quer 16:9</source>
+        <translation>landscape 16:9</translation>
+    </message>
+    <message>
+        <source>hoch 3:4</source>
+        <translation>portrait 3:4</translation>
+    </message>
+    <message>
+        <source>hoch 2:3</source>
+        <translation>portrait 2:3</translation>
+    </message>
+    <message>
+        <source>hoch DIN (1:1,414)</source>
+        <translation>portrait ISO (1:1.414)</translation>
+    </message>
+    <message>
+        <source>Seitenverhältnis:</source>
+        <translation>Proportion:</translation>
     </message>
 </context>
 <context>

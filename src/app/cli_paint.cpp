@@ -237,6 +237,7 @@ int runPaint(const QStringList &args)
     TerminalStatus status;
     registerAllPanels();
     Session s;
+    s.setPainters(painterTable());
     s.setPrompter(&prompter);
     s.setStatus(&status);
     applyControls(s, o);

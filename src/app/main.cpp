@@ -1,4 +1,5 @@
 #include "app/cli.h"
+#include "core/appsettings.h"
 #include "core/language.h"
 #include "core/settings.h"
 #include "core/singleinstance.h"
@@ -29,9 +30,13 @@ int main(int argc, char **argv)
         tf::SingleInstance::showAlreadyRunning();
         return 0;
     }
-    if (!tf::setLanguage(tf::systemLanguage())) {
+    // The user's language, as the settings keep it (the system's on a first start).
+    tf::SettingsStore &store = tf::programSettings();
+    tf::AppSettings settings;
+    settings.load(store);
+    if (!tf::setLanguage(settings.language)) {
         tf::Prompt p;
-        p.text = QStringLiteral("Probleme beim Programmstart!\nProblems on starting the program!");
+        p.text = tf::startFailureText(settings.language);
         p.icon = tf::Icon::Critical;
         startPrompter.ask(p);
         return 1;
@@ -39,7 +44,7 @@ int main(int argc, char **argv)
 
     tf::registerAllPanels();
     tf::ui::MainWindow window;
-    window.startUp(tf::programSettings());
+    window.startUp(store);
     window.show();
     return app.exec();
 }

@@ -55,6 +55,9 @@ void AppSettings::load(const SettingsStore &s)
     initFormat = s.Get_Setting(S, QStringLiteral("initFormat"), d.initFormat);
     initFormatW = s.Get_Setting(S, QStringLiteral("initFormatW"), d.initFormatW);
     initFormatH = s.Get_Setting(S, QStringLiteral("initFormatH"), d.initFormatH);
+    imgFormat = s.Get_Setting(S, QStringLiteral("imgFormat"), d.imgFormat);
+    imgFormatW = s.Get_Setting(S, QStringLiteral("imgFormatW"), d.imgFormatW);
+    imgFormatH = s.Get_Setting(S, QStringLiteral("imgFormatH"), d.imgFormatH);
 
     for (int g = 1; g <= GroupCount; ++g)
         GrafMenu[size_t(g)] = s.Get_Setting(G, grafMenuName(g), d.GrafMenu[size_t(g)]);
@@ -91,6 +94,9 @@ void AppSettings::save(SettingsStore &s) const
     s.Put_Setting(S, QStringLiteral("initFormat"), initFormat);
     s.Put_Setting(S, QStringLiteral("initFormatW"), initFormatW);
     s.Put_Setting(S, QStringLiteral("initFormatH"), initFormatH);
+    s.Put_Setting(S, QStringLiteral("imgFormat"), imgFormat);
+    s.Put_Setting(S, QStringLiteral("imgFormatW"), imgFormatW);
+    s.Put_Setting(S, QStringLiteral("imgFormatH"), imgFormatH);
 
     for (int g = 1; g <= GroupCount; ++g)
         s.Put_Setting(G, grafMenuName(g), GrafMenu[size_t(g)]);

@@ -45,6 +45,8 @@ struct AppSettings {
     int Openpreview = 1;
     // The picture format of the last session: index of the "Neu" menu, width and height.
     int initFormat = 4, initFormatW = 712, initFormatH = 712;
+    // The free size of "Neu": the proportion chosen in the size dialog (0 free) and the size.
+    int imgFormat = 0, imgFormatW = 712, imgFormatH = 712;
 
     // ---- Grafic ---------------------------------------------------------------------------
     // "GrafMenu" n "bk": per group the state of its option panel (the panel's page); index 0

@@ -10,7 +10,10 @@
 
 namespace tf {
 
-Fixings::Fixings(Workspace &workspace, StatusSink &status) : m_ws(workspace), m_status(status) {}
+Fixings::Fixings(Workspace &workspace, StatusSink &status, const RunState &run)
+    : m_ws(workspace), m_status(status), m_run(run)
+{
+}
 
 int Fixings::ringSize() const { return std::min(FixNumb, TempFiles::FixNumberMax); }
 
@@ -54,13 +57,11 @@ void Fixings::Set_Fixstatus(bool fixed)
     }
 }
 
-void Fixings::BtnFix_Click()
+bool Fixings::BtnFix_Click()
 {
+    if (m_run.busy())
+        return false;
     guarded(QStringLiteral("DoFixButton"), [&] {
-        if (m_paintRunning && m_paintRunning())
-            return;
-        if (m_beforeFix)
-            m_beforeFix();
         PictureBox *selection = visibleSelection();
         PictureBox &target = selection ? *selection : m_ws.Bild;
         // What was drawn becomes the persistent picture, the state a later restore brings back.
@@ -82,10 +83,13 @@ void Fixings::BtnFix_Click()
         }
         Set_Fixstatus(true);
     });
+    return true;
 }
 
 void Fixings::BtnRestore_Click()
 {
+    if (m_run.busy())
+        return;
     guarded(QStringLiteral("DoRestoreButton"), [&] {
         PictureBox *selection = visibleSelection();
         if (selection && QFileInfo::exists(selectionFixingPath())) {

@@ -12,11 +12,11 @@
 // round; a Fix starts the walk anew. A restore takes the undo image first, so one Undo takes
 // it back. The files outlive the program unless FixDelete is set.
 
+#include "core/runstate.h"
 #include "core/status.h"
 #include "core/workspace.h"
 
 #include <QCoreApplication>
-#include <functional>
 
 namespace tf {
 
@@ -24,8 +24,8 @@ class Fixings {
     Q_DECLARE_TR_FUNCTIONS(Fixings)
 
 public:
-    // Borrows both for its lifetime.
-    Fixings(Workspace &workspace, StatusSink &status);
+    // Borrows all three for its lifetime. Fix and Restore do nothing while `run` is busy.
+    Fixings(Workspace &workspace, StatusSink &status, const RunState &run);
 
     int FixNumb = 10;   // fixings to keep; below 2 the single file
     int FixDelete = 0;  // non-zero: all fixings are deleted at the end
@@ -33,23 +33,18 @@ public:
     int FixCount = 0;   // the highest number in use
     int FixWalk = 0;    // the number last restored, 0 after a Fix
 
-    // Answers true while a paint runs; Fix does nothing then.
-    void setPaintRunning(std::function<bool()> running) { m_paintRunning = std::move(running); }
-    // Runs at the start of every Fix that goes ahead, before anything is written (the paint
-    // dialog disables its roll button there when the mask background is set).
-    void setBeforeFix(std::function<void()> hook) { m_beforeFix = std::move(hook); }
-
     // The start of the program: FixLast and FixCount from the files on disk
     // (Get_Max_TempPicNR), FixWalk 0.
     void initFromDisk();
 
     // Fix: writes the visible selection, or the picture, as a fixing and shows "fixiert".
-    // Faults are reported under "DoFixButton".
-    void BtnFix_Click();
+    // Faults are reported under "DoFixButton". Answers false when it did not go ahead (a paint
+    // or filter runs).
+    bool BtnFix_Click();
     // Restore: loads the selection's fixing into the visible selection, or the next fixing of
     // the walk into Bild (the workspace taking the file's size). Nothing happens when there is
     // nothing to restore; a ring file that is missing is passed over silently. Faults are
-    // reported under "DoRestoreButton".
+    // reported under "DoRestoreButton"; nothing happens either while a paint or filter runs.
     void BtnRestore_Click();
     // Shows "fixiert" / "nicht fixiert" in the panel sbrSFixed while a selection is visible,
     // else in sbrfixed.
@@ -79,8 +74,7 @@ private:
 
     Workspace &m_ws;
     StatusSink &m_status;
-    std::function<bool()> m_paintRunning;
-    std::function<void()> m_beforeFix;
+    const RunState &m_run;
     bool m_pictureFixed = false;
 };
 

@@ -41,4 +41,10 @@ Language languageFromSettingValue(int value)
     return value == 2 ? Language::English : Language::German;
 }
 
+QString startFailureText(Language lang)
+{
+    return lang == Language::German ? QStringLiteral("Probleme beim Programmstart!")
+                                    : QStringLiteral("Problems on starting the program!");
+}
+
 } // namespace tf

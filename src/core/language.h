@@ -20,6 +20,10 @@ bool setLanguage(Language lang);
 // The language of the system's locale: German for a German locale, else English.
 Language systemLanguage();
 
+// The message when the catalogues cannot be loaded at start, in the user's language only. It is
+// written out here, since no catalogue is there to translate it.
+QString startFailureText(Language lang);
+
 // The value stored in the settings for a language, and back (1 German, 2 English).
 int languageSettingValue(Language lang);
 Language languageFromSettingValue(int value);

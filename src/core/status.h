@@ -43,4 +43,18 @@ private:
     int m_max = 0;
 };
 
+// Passes everything on to another sink, which can be changed: what a session lends to the
+// objects that keep its status door for their whole life.
+class StatusDoor : public StatusSink {
+public:
+    explicit StatusDoor(StatusSink &target) : m_target(&target) {}
+    void setTarget(StatusSink &target) { m_target = &target; }
+    StatusSink &target() const { return *m_target; }
+    void setPanelText(int panel, const QString &text) override { m_target->setPanelText(panel, text); }
+    void setProgress(int value, int max) override { m_target->setProgress(value, max); }
+
+private:
+    StatusSink *m_target;
+};
+
 } // namespace tf

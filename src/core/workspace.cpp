@@ -40,8 +40,8 @@ void Workspace::setCommands(const CommandState &c)
 {
     const bool differs = c.undo != commands.undo || c.save != commands.save || c.print != commands.print;
     commands = c;
-    if (differs && m_commandsHook)
-        m_commandsHook();
+    if (differs)
+        m_view->commandsChanged();
 }
 
 void Workspace::enableUndo()
@@ -77,8 +77,7 @@ void Workspace::New_BildSize(int w, int h)
             p->setVisible(false);
             p->Move(10, 10);
         }
-        if (m_layoutHook)
-            m_layoutHook();
+        m_view->layoutChanged();
     });
 }
 
@@ -221,7 +220,7 @@ void Workspace::Menu_UndoRedo()
     guarded(QStringLiteral("Menu_UndoRedo"), [&] {
         const QString kind = lastaction.left(4);
         if ((kind == QLatin1String("RECT") || kind == QLatin1String("CIRC")) && m_selectionUndo &&
-            m_selectionUndo())
+            m_selectionUndo->undoSelection(*this))
             return;
 
         const QImage undo = undoImage(false, undoLiesInFile(false, false));

@@ -14,9 +14,28 @@
 #include "core/picturebox.h"
 
 #include <QString>
-#include <functional>
 
 namespace tf {
+
+class Workspace;
+
+// What the workspace tells the window that shows it.
+class WorkspaceView {
+public:
+    virtual ~WorkspaceView() = default;
+    // `commands` changed: the menu entries and toolbar keys follow.
+    virtual void commandsChanged() {}
+    // New_BildSize laid the workspace out: the frame follows the picture's size.
+    virtual void layoutChanged() {}
+};
+
+// The Undo of a selection, which the selection tools provide.
+class SelectionUndo {
+public:
+    virtual ~SelectionUndo() = default;
+    // Handles Undo while lastaction begins with "RECT" or "CIRC"; answers true when it did.
+    virtual bool undoSelection(Workspace &ws) = 0;
+};
 
 // The commands whose enabled state follows the workspace (menu entries and toolbar keys).
 struct CommandState {
@@ -66,13 +85,11 @@ public:
     // The full path of a temp file in TempDir.
     QString tempPath(const QString &fileName) const;
 
-    // Read `commands`, change them through setCommands so the hook sees the change.
+    // Read `commands`, change them through setCommands so the view sees the change.
     CommandState commands;
     void setCommands(const CommandState &c);
-    // Called whenever `commands` changes.
-    void setCommandsHook(std::function<void()> hook) { m_commandsHook = std::move(hook); }
-    // Called by New_BildSize after the pictures took their size, for the frame's layout.
-    void setLayoutHook(std::function<void()> hook) { m_layoutHook = std::move(hook); }
+    // The window that shows the workspace (borrowed; null: none).
+    void setView(WorkspaceView *view) { m_view = view ? view : &m_noView; }
 
     // ---- Operations -----------------------------------------------------------------------
     // Sets the size of the workspace: Bild and the pictures that follow it take w x h,
@@ -100,10 +117,9 @@ public:
     void Bild_CLEAR();
 
     // Undo / Redo: swaps the picture and its undo image (the picture branches; the selection
-    // branches are installed by the selection tools through `setSelectionUndo`).
+    // branches belong to the selection tools, given through `setSelectionUndo`).
     void Menu_UndoRedo();
-    // Handles Undo while lastaction begins with "RECT" or "CIRC"; answers true when it did.
-    void setSelectionUndo(std::function<bool()> handler) { m_selectionUndo = std::move(handler); }
+    void setSelectionUndo(SelectionUndo *undo) { m_selectionUndo = undo; }
 
     // The one rule of the undo's place. An undo image is taken to disk when asked (usefile) or
     // when the picture's longer side is above 712; every routine that reads it back looks where
@@ -125,9 +141,9 @@ private:
     // Where the undo image of Bild was last put: true on disk.
     bool m_bildUndoInFile = false;
     bool m_maskUndoInFile = false;
-    std::function<void()> m_commandsHook;
-    std::function<void()> m_layoutHook;
-    std::function<bool()> m_selectionUndo;
+    WorkspaceView m_noView;
+    WorkspaceView *m_view = &m_noView;
+    SelectionUndo *m_selectionUndo = nullptr;
 };
 
 } // namespace tf

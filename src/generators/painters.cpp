@@ -146,7 +146,6 @@ void registerAllPanels()
 {
     static const bool once = [] {
         registerPaintPanels();
-        installPainters(painterTable());
         return true;
     }();
     (void)once;

@@ -180,8 +180,8 @@ void Controls::setRaw(const ControlKey &key, const QString &value)
     if (slot == value)
         return;
     slot = value;
-    if (m_hook)
-        m_hook(key);
+    if (m_view)
+        m_view->controlChanged(key);
 }
 
 QString Controls::text(const ControlKey &key) const

@@ -84,6 +84,14 @@ const ControlSpec *findControlSpec(const ControlKey &key);
 // value does not fit the kind at all (text where a number belongs, an unknown list item).
 std::optional<QString> normaliseValue(const ControlSpec &def, const QString &value);
 
+// What the panels that show the controls are told.
+class ControlsView {
+public:
+    virtual ~ControlsView() = default;
+    // A control's value changed.
+    virtual void controlChanged(const ControlKey &) {}
+};
+
 // The live values of all controls of a session.
 class Controls {
 public:
@@ -117,12 +125,12 @@ public:
     // The controls whose value differs from their default (for presets and command lines).
     std::vector<std::pair<ControlKey, QString>> changed() const;
 
-    // Called after every change, with the key that changed (the GUI keeps its widgets in step).
-    void setChangedHook(std::function<void(const ControlKey &)> hook) { m_hook = std::move(hook); }
+    // The panels that show the values (borrowed; null: none), told after every change.
+    void setView(ControlsView *view) { m_view = view; }
 
 private:
     std::map<ControlKey, QString> m_values;
-    std::function<void(const ControlKey &)> m_hook;
+    ControlsView *m_view = nullptr;
 };
 
 // The classic Val(): the leading number of a text, 0 when there is none.

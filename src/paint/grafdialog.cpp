@@ -36,7 +36,7 @@ void GrafDialogState::setListIndex(int index)
 
 void GrafDialogState::notify(Change change)
 {
-    if (m_hook) m_hook(change);
+    if (m_view) m_view->grafDialogChanged(change);
 }
 
 } // namespace tf

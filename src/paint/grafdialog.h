@@ -9,9 +9,10 @@
 
 #include <QCoreApplication>
 #include <QString>
-#include <functional>
 
 namespace tf {
+
+class GrafDialogView;
 
 class GrafDialogState {
     Q_DECLARE_TR_FUNCTIONS(GrafDialog)
@@ -39,12 +40,20 @@ public:
     void setListIndex(int index);
 
     void notify(Change change);
-    void setChangedHook(std::function<void(Change)> hook) { m_hook = std::move(hook); }
+    // The dialog that shows this state (borrowed; null: none).
+    void setView(GrafDialogView *view) { m_view = view; }
 
 private:
     Button m_button = Button::Rest;
     int m_listIndex = -1;
-    std::function<void(Change)> m_hook;
+    GrafDialogView *m_view = nullptr;
+};
+
+// What the paint dialog is told when the engine changes its state.
+class GrafDialogView {
+public:
+    virtual ~GrafDialogView() = default;
+    virtual void grafDialogChanged(GrafDialogState::Change) {}
 };
 
 } // namespace tf

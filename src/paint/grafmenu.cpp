@@ -26,17 +26,22 @@ void Hole_GMENU(Session &s, int row)
 
 void mn_Grafmodes(Session &s, int group)
 {
-    if (group < 1 || group > GroupCount) return;
+    if (s.runState().busy() || group < 1 || group > GroupCount) return;
     s.paint().GrafGroup = group;
     show_GMENU(s);
 }
 
 void ListBoxType_Click(Session &s, int listIndex)
 {
+    if (s.runState().busy()) {
+        // The list shows the row of the running paint again.
+        s.paint().dialog.notify(GrafDialogState::Change::ListIndex);
+        return;
+    }
     PaintState &p = s.paint();
     p.dialog.setListIndex(listIndex);
     Hole_GMENU(s, listIndex + 1);
-    if (p.hooks.Handle_Formobjects) p.hooks.Handle_Formobjects();
+    s.view().Handle_Formobjects();
 }
 
 } // namespace tf

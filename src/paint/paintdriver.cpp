@@ -43,25 +43,19 @@ void setStatusText(Session &s, const QString &text)
 void prepare(Session &s)
 {
     Workspace &ws = s.workspace();
-    PaintState::Hooks &h = s.paint().hooks;
     ws.Bild.setDrawMode(13);
-    if (h.reset_imgButtons) h.reset_imgButtons();
-    if (h.clr_DrawStyleButtons) h.clr_DrawStyleButtons();
+    s.view().reset_imgButtons();
+    s.view().clr_DrawStyleButtons();
     ws.Bild_nachUndo();
     // A paint on a selection blends over the selection's own undo image.
     if (ws.PicSelect.Visible())
         ws.PicSelect_nachUndo();
     else if (ws.picSelectC.Visible())
         ws.PicSelectC_nachUndo();
-    if (h.Set_Toolbarstatus)
-        h.Set_Toolbarstatus(QString());
-    else
-        setStatusText(s, QString());
-    if (h.Set_Fixstatus) h.Set_Fixstatus(false);
-    if (h.Set_Fontstatus)
-        h.Set_Fontstatus(QString());
-    else
-        s.status().setPanelText(sbrFont, QString());
+    // Set_Toolbarstatus, Set_Fixstatus and Set_Fontstatus: the status panels start anew.
+    setStatusText(s, QString());
+    s.fixings().Set_Fixstatus(false);
+    s.status().setPanelText(sbrFont, QString());
 }
 
 PaintRecord recordOf(const Session &s, uint32_t seed)
@@ -123,10 +117,10 @@ PaintOutcome paintButton(Session &s)
     }
     restoreControls(s);
     // A paint stopped but not yet at its next check still runs: no second one meanwhile.
-    if (p.running) return PaintOutcome::Busy;
+    if (s.runState().busy()) return PaintOutcome::Busy;
 
     Set_BILD(s);
-    if (p.hooks.reset_imgButtons) p.hooks.reset_imgButtons();
+    s.view().reset_imgButtons();
     const int listIndex = p.dialog.ListIndex();
     if (listIndex + 1 < 1) {
         s.ask(
@@ -196,13 +190,13 @@ void patch_lastactionpaint(Session &s)
 PaintOutcome Create_Polygraphics(Session &s)
 {
     PaintState &p = s.paint();
-    if (p.running) return PaintOutcome::Busy;
+    if (s.runState().busy()) return PaintOutcome::Busy;
     if (p.GrafKey == QLatin1String(SeparatorKey)) {
         setStatusText(s,
                       QCoreApplication::translate("PaintDriver", "Eine Trennlinie malt nichts."));
         return PaintOutcome::NotPaintable;
     }
-    const PainterEntry *entry = findPainter(p.GrafKey);
+    const PainterEntry *entry = findPainter(s.painters(), p.GrafKey);
     if (!entry || !entry->paint) {
         setStatusText(
             s, QCoreApplication::translate(
@@ -211,14 +205,14 @@ PaintOutcome Create_Polygraphics(Session &s)
         return PaintOutcome::NotPaintable;
     }
 
-    p.running = true;
+    s.runState().setPainting(true);
     p.StopPaint = false;
     struct Finish {
         Session &s;
         ~Finish()
         {
             s.unseed();
-            s.paint().running = false;
+            s.runState().setPainting(false);
             restoreControls(s);
         }
     } finish{s};

@@ -6,10 +6,6 @@
 
 namespace tf {
 
-namespace {
-std::span<const PainterEntry> g_painters;
-} // namespace
-
 Workspace &PaintContext::workspace()
 {
     return session.workspace();
@@ -39,21 +35,9 @@ void PaintContext::Bild_CLEAR()
         XBild.Cls();
 }
 
-std::span<const PainterEntry> installPainters(std::span<const PainterEntry> table)
+const PainterEntry *findPainter(std::span<const PainterEntry> table, const QString &key)
 {
-    const auto before = g_painters;
-    g_painters = table;
-    return before;
-}
-
-std::span<const PainterEntry> installedPainters()
-{
-    return g_painters;
-}
-
-const PainterEntry *findPainter(const QString &key)
-{
-    for (const PainterEntry &e : g_painters)
+    for (const PainterEntry &e : table)
         if (key == QString::fromUtf8(e.key)) return &e;
     return nullptr;
 }

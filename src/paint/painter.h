@@ -9,8 +9,9 @@
 // dispatcher, which reports them under "Create_Polygraphics".
 //
 // The dispatch table lists every key of the catalogue exactly once; a painter that has not
-// landed yet is a null entry. The generators install the table at start (the paint layer lies
-// below them and cannot name them itself); tests may install a table of their own.
+// landed yet is a null entry. The generators hold the table (the paint layer lies below them
+// and cannot name them itself); whoever makes a session gives it the table it paints with,
+// and a test may give one of its own.
 
 #include "core/numeric.h"
 #include "paint/optionvariables.h"
@@ -51,11 +52,7 @@ struct PainterEntry {
     bool prepare = true;
 };
 
-// Installs the dispatch table (borrowed; it must outlive its use) and answers the one
-// installed before.
-std::span<const PainterEntry> installPainters(std::span<const PainterEntry> table);
-std::span<const PainterEntry> installedPainters();
-// The entry of a key; null when the key is not in the table.
-const PainterEntry *findPainter(const QString &key);
+// The entry of a key in a table; null when the key is not in it.
+const PainterEntry *findPainter(std::span<const PainterEntry> table, const QString &key);
 
 } // namespace tf

@@ -4,7 +4,9 @@
 
 namespace tf {
 
-Session::Session() : m_workspace(std::make_unique<Workspace>())
+Session::Session()
+    : m_workspace(std::make_unique<Workspace>()),
+      m_fixings(std::make_unique<Fixings>(*m_workspace, m_statusDoor, m_run))
 {
     m_transparency.XBild = &m_workspace->Bild;
     m_transparency.XUndo = &m_workspace->BildUndo;
@@ -27,6 +29,14 @@ void Session::setPrompter(Prompter *p)
         m_prompterBefore = before;
         m_installedPrompter = true;
     }
+}
+
+void Session::setView(SessionView *view)
+{
+    m_view = view ? view : &m_noView;
+    m_workspace->setView(m_view);
+    m_paint.dialog.setView(m_view);
+    m_controls.setView(m_view);
 }
 
 Answer Session::ask(const QString &text, Buttons buttons, Icon icon, const QString &title)

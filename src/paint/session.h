@@ -2,30 +2,39 @@
 // The session: everything the main window owns, in plain objects, so that painters, filters,
 // the command line and tests work without a window.
 //
-// It holds the workspace of named pictures with its undo, the option controls, the paint
-// state, the random generator and the clock, and the three doors to the user: the prompter
-// (questions and messages), the status sink (status bar, progress) and the yield hook (giving
-// way in long loops). A session given a prompter (setPrompter) installs it as the process's
-// current prompter until the session ends, so that faults reported deep in the engine reach
-// the same door; a session without one (a preview's) leaves the installed prompter alone.
+// It holds the workspace of named pictures with its undo and fixings, the option controls, the
+// paint state with the table of painters it paints with, what runs at the moment (RunState),
+// the random generator and the clock, and its doors: the prompter (questions and messages), the
+// status sink (status bar, progress), the yield hook (giving way in long loops) and the view
+// (the window that shows it, with the main window's routines the engine calls).
+//
+// What stays process-wide, in one place each: the installed prompter (core/prompter.h), which
+// the routines below the session report their faults through — a session given a prompter
+// (setPrompter) installs it until the session ends, a session without one (a preview's) leaves
+// it alone; the control panel tables (paint/controls.h), constant data registered once at
+// start; the catalogue and the settings store of the desktop program (core/settings.h).
 
 #include "core/clock.h"
+#include "core/fixings.h"
 #include "core/prompter.h"
 #include "core/random.h"
+#include "core/runstate.h"
 #include "core/status.h"
 #include "core/workspace.h"
 #include "core/yield.h"
 #include "paint/colourstate.h"
 #include "paint/controls.h"
 #include "paint/grafdialog.h"
+#include "paint/painter.h"
 #include "paint/paintrecord.h"
+#include "paint/sessionview.h"
 #include "paint/transparency.h"
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 
 namespace tf {
 
@@ -37,7 +46,6 @@ struct PaintState {
     std::array<int, 11> GrafTypeMem{};  // per group, the list index of the type last painted
     bool StopPaint = false;
     bool AutoPaintRun = false;
-    bool running = false;               // a paint is under way
     bool Timer1 = false;                // the main window's animation timer runs
     GrafDialogState dialog;             // the Paint button's caption, the type list's row
     int progress2Max = 0;               // the second progress bar's range, 0 while hidden
@@ -46,17 +54,12 @@ struct PaintState {
     std::optional<uint32_t> nextSeed;
     // The last paint that ran (see paintrecord.h).
     std::optional<PaintRecord> lastPaint;
+};
 
-    // The main window's routines that a paint calls; each may be left empty. Set_Toolbarstatus
-    // and Set_Fontstatus write their status panels when empty.
-    struct Hooks {
-        std::function<void()> reset_imgButtons;     // release the mouse tools
-        std::function<void()> clr_DrawStyleButtons; // clear the draw-style toggles
-        std::function<void(const QString &)> Set_Toolbarstatus;
-        std::function<void(const QString &)> Set_Fontstatus;
-        std::function<void(bool)> Set_Fixstatus;
-        std::function<void()> Handle_Formobjects;   // the option panels follow GrafKey
-    } hooks;
+// Values that the start of the program sets for the painters that read them later.
+struct StartValues {
+    int TextBlockStep = 80; // the line step of the text blocks
+    int DisplayTime = 3000; // how long a picture of a show stays, in milliseconds
 };
 
 class Session {
@@ -68,6 +71,13 @@ public:
 
     Workspace &workspace() { return *m_workspace; }
     const Workspace &workspace() const { return *m_workspace; }
+    Fixings &fixings() { return *m_fixings; }
+    const Fixings &fixings() const { return *m_fixings; }
+    // What runs at the moment; handlers the event loop reaches during a paint ask it first.
+    RunState &runState() { return m_run; }
+    const RunState &runState() const { return m_run; }
+    StartValues &startValues() { return m_startValues; }
+    const StartValues &startValues() const { return m_startValues; }
     Controls &controls() { return m_controls; }
     const Controls &controls() const { return m_controls; }
     PaintState &paint() { return m_paint; }
@@ -78,12 +88,19 @@ public:
     TransparencyState &transparency() { return m_transparency; }
     const TransparencyState &transparency() const { return m_transparency; }
 
+    // The painters this session paints with, one entry per type key (borrowed; it must outlive
+    // the session). A new session has none: every type says that its painter is not built in.
+    void setPainters(std::span<const PainterEntry> table) { m_painters = table; }
+    std::span<const PainterEntry> painters() const { return m_painters; }
+
     // The doors. Each setter takes a borrowed object (null restores the default).
     Prompter &prompter() { return *m_prompter; }
     void setPrompter(Prompter *p);
-    StatusSink &status() { return *m_status; }
-    void setStatus(StatusSink *s) { m_status = s ? s : &m_defaultStatus; }
+    StatusSink &status() { return m_statusDoor; }
+    void setStatus(StatusSink *s) { m_statusDoor.setTarget(s ? *s : m_defaultStatus); }
     void setYieldHook(YieldHook *y) { m_yield = y ? y : &m_noYield; }
+    SessionView &view() { return *m_view; }
+    void setView(SessionView *view);
 
     // Asks a question through the prompter.
     Answer ask(const QString &text, Buttons buttons = Buttons::Ok, Icon icon = Icon::None,
@@ -104,6 +121,12 @@ public:
 
 private:
     std::unique_ptr<Workspace> m_workspace;
+    RecordingStatus m_defaultStatus;
+    StatusDoor m_statusDoor{m_defaultStatus};
+    RunState m_run;
+    std::unique_ptr<Fixings> m_fixings;
+    StartValues m_startValues;
+    std::span<const PainterEntry> m_painters;
     Controls m_controls;
     PaintState m_paint;
     ColourState m_colours;
@@ -112,11 +135,11 @@ private:
     SessionClock m_clock;
 
     StderrPrompter m_defaultPrompter;
-    RecordingStatus m_defaultStatus;
     NoYield m_noYield;
+    SessionView m_noView;
     Prompter *m_prompter = &m_defaultPrompter;
-    StatusSink *m_status = &m_defaultStatus;
     YieldHook *m_yield = &m_noYield;
+    SessionView *m_view = &m_noView;
     Prompter *m_prompterBefore = nullptr;
     bool m_installedPrompter = false; // setPrompter made this session's prompter the process's
 };

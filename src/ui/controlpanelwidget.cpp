@@ -158,7 +158,7 @@ void ControlPanelWidget::commit(const ControlSpec &def, const QString &value)
 {
     if (m_showing)
         return;
-    if (!m_controls.set(def.key, value)) {
+    if ((m_run && m_run->busy()) || !m_controls.set(def.key, value)) {
         refresh(def.key); // an unfitting value: show the value that stands
         return;
     }

@@ -8,6 +8,7 @@
 // edit; a Value control a slider with its number (and unit) beside it; Checked a check box;
 // ListIndex a combo box; Colour a colour button.
 
+#include "core/runstate.h"
 #include "paint/controls.h"
 
 #include <QWidget>
@@ -32,6 +33,8 @@ public:
     void refresh();
     // Shows one control's value.
     void refresh(const ControlKey &key);
+    // Changes are refused (the widget shows the value that stands) while `run` is busy.
+    void setRunState(const RunState *run) { m_run = run; }
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -51,6 +54,7 @@ private:
     Controls &m_controls;
     std::map<ControlKey, Binding> m_bindings;
     bool m_showing = false;
+    const RunState *m_run = nullptr;
 };
 
 } // namespace tf::ui

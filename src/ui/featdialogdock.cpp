@@ -29,6 +29,7 @@ FeatDialogDock::FeatDialogDock(Session &session, QWidget *parent)
             continue; // the general options stand in the paint dialog
         auto *scroll = new QScrollArea(m_stack);
         auto *widget = new ControlPanelWidget(*panel, session.controls(), scroll);
+        widget->setRunState(&session.runState());
         scroll->setWidget(widget);
         scroll->setWidgetResizable(true);
         m_stack->addWidget(scroll);

@@ -84,6 +84,7 @@ GrafDialogDock::GrafDialogDock(Session &session, PreviewCache &previews, QWidget
     layout->addLayout(buttons);
 
     m_general = new ControlPanelWidget(grafDialogPanel(), session.controls(), content);
+    m_general->setRunState(&session.runState());
     auto *scroll = new QScrollArea(content);
     scroll->setWidget(m_general);
     scroll->setWidgetResizable(true);
@@ -103,14 +104,28 @@ GrafDialogDock::GrafDialogDock(Session &session, PreviewCache &previews, QWidget
         if (!m_loading && i >= 0)
             emit groupChosen(i + 1);
     });
+    // The engine's click refuses while a paint runs and shows the paint's row again.
     connect(ListBoxType, &QListWidget::currentRowChanged, this, [this](int row) {
         if (m_loading)
             return;
         ListBoxType_Click(m_session, row);
         showPreview();
     });
+    retranslate(); // loads the type list too
+}
 
-    m_session.paint().dialog.setChangedHook([this](GrafDialogState::Change c) {
+GrafDialogDock::~GrafDialogDock() = default;
+
+void GrafDialogDock::setPaintRunning(bool running)
+{
+    // Only the Paint button (Stop) and the roll buttons stay live while a paint runs.
+    for (QWidget *w : std::initializer_list<QWidget *>{m_groups, ListBoxType, m_general, BtnClip,
+                                                        BtnFix, BtnRestore})
+        w->setEnabled(!running);
+}
+
+void GrafDialogDock::engineChanged(GrafDialogState::Change c)
+{
         switch (c) {
         case GrafDialogState::Change::Caption:
             BtnPaint->setText(m_session.paint().dialog.BtnPaintCaption());
@@ -133,13 +148,6 @@ GrafDialogDock::GrafDialogDock(Session &session, PreviewCache &previews, QWidget
             BtnPaint->setFocus();
             break;
         }
-    });
-    retranslate(); // loads the type list too
-}
-
-GrafDialogDock::~GrafDialogDock()
-{
-    m_session.paint().dialog.setChangedHook({});
 }
 
 void GrafDialogDock::controlChanged(const ControlKey &key)
@@ -194,7 +202,8 @@ void GrafDialogDock::showPreview()
 
 void GrafDialogDock::updatePixelSize()
 {
-    lblPixelSize->setText(tr("Bildformat: %1").arg(pixelSizeLabel(Calc_Bildformate_WH(m_session.controls()))));
+    // The pixel size of the chosen format, with " px" behind it.
+    lblPixelSize->setText(pixelSizeLabel(Calc_Bildformate_WH(m_session.controls())));
 }
 
 void GrafDialogDock::changeEvent(QEvent *event)

@@ -14,6 +14,8 @@ class QLabel;
 class QListWidget;
 class QPushButton;
 
+#include "paint/grafdialog.h"
+
 namespace tf {
 class Session;
 struct ControlKey;
@@ -35,6 +37,10 @@ public:
     void syncFromEngine();
     // Shows a control's new value (the model changed it).
     void controlChanged(const ControlKey &key);
+    // Shows what the engine changed: the Paint button's caption, the chosen row, the list.
+    void engineChanged(GrafDialogState::Change change);
+    // While a paint runs the dialog's other controls are disabled.
+    void setPaintRunning(bool running);
 
 signals:
     void paintRequested();                 // BtnPaint

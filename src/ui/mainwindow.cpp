@@ -1,11 +1,13 @@
 #include "ui/mainwindow.h"
 
 #include "core/pictureformats.h"
+#include "generators/painters.h"
 #include "paint/catalogue.h"
 #include "paint/grafmenu.h"
 #include "ui/colourdialogdock.h"
 #include "ui/featdialogdock.h"
 #include "ui/grafdialogdock.h"
+#include "ui/idleguard.h"
 #include "ui/pictureview.h"
 #include "ui/previewcache.h"
 #include "ui/statusbar.h"
@@ -29,11 +31,10 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
 {
     setObjectName(QStringLiteral("frmMain"));
     m_status = std::make_unique<StatusBarSink>(statusBar());
+    m_session.setPainters(painterTable());
     m_session.setPrompter(&m_prompter);
     m_session.setStatus(m_status.get());
     m_session.setYieldHook(&m_yield);
-    m_fixings = std::make_unique<Fixings>(m_session.workspace(), *m_status);
-    m_fixings->setPaintRunning([this] { return m_session.paint().running; });
 
     m_picContainer = new QScrollArea(this);
     m_picContainer->setObjectName(QStringLiteral("picContainer"));
@@ -53,18 +54,16 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     addDockWidget(Qt::RightDockWidgetArea, m_colourDialog);
     tabifyDockWidget(m_featDialog, m_colourDialog);
     m_colourDialog->raise();
+    // Paint and the roll buttons are Stop while a paint runs: they need no guard.
     connect(m_grafDialog, &GrafDialogDock::paintRequested, this, &MainWindow::paint);
     connect(m_grafDialog, &GrafDialogDock::rollRequested, this, &MainWindow::roll);
-    connect(m_grafDialog, &GrafDialogDock::clipRequested, this, &MainWindow::copyPictureToClipboard);
-    connect(m_grafDialog, &GrafDialogDock::groupChosen, this, &MainWindow::chooseGroup);
+    connect(m_grafDialog, &GrafDialogDock::clipRequested, this,
+            whenIdle(m_session, [this] { copyPictureToClipboard(); }));
+    connect(m_grafDialog, &GrafDialogDock::groupChosen, this,
+            whenIdle(m_session, [this](int group) { chooseGroup(group); },
+                     [this] { m_grafDialog->syncFromEngine(); }));
     connect(m_grafDialog, &GrafDialogDock::paintRunningChanged, this, &MainWindow::paintRunning);
-    m_session.controls().setChangedHook([this](const ControlKey &key) {
-        m_grafDialog->controlChanged(key);
-        m_featDialog->controlChanged(key);
-    });
-    PaintState::Hooks &hooks = m_session.paint().hooks;
-    hooks.Set_Fixstatus = [this](bool fixed) { m_fixings->Set_Fixstatus(fixed); };
-    hooks.Handle_Formobjects = [this] { m_featDialog->Handle_Formobjects(); };
+    m_session.setView(this);
 
     createActions();
     createMenus();
@@ -73,11 +72,6 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     connect(m_grafDialog, &GrafDialogDock::restoreRequested, mn_Restaurieren, &QAction::trigger);
 
     Workspace &ws = m_session.workspace();
-    ws.setCommandsHook([this] { updateCommands(); });
-    ws.setLayoutHook([this] {
-        m_view->syncSize();
-        refreshStatus();
-    });
     ws.Bild.setAutoRedraw(true);
     ws.Bild.Cls();
 
@@ -89,22 +83,52 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
 
 MainWindow::~MainWindow()
 {
-    m_session.workspace().setCommandsHook({});
-    m_session.workspace().setLayoutHook({});
-    m_session.controls().setChangedHook({});
-    m_session.paint().hooks = {};
+    // The window's widgets go before the session they show: the picture view and the docks
+    // hold on to its pictures and state.
+    m_session.setView(nullptr);
+    delete takeCentralWidget();
+    delete m_colourDialog;
+    delete m_featDialog;
+    delete m_grafDialog;
+}
+
+void MainWindow::commandsChanged() { updateCommands(); }
+
+void MainWindow::layoutChanged()
+{
+    m_view->syncSize();
+    refreshStatus();
+}
+
+void MainWindow::grafDialogChanged(GrafDialogState::Change change)
+{
+    m_grafDialog->engineChanged(change);
+}
+
+void MainWindow::controlChanged(const ControlKey &key)
+{
+    m_grafDialog->controlChanged(key);
+    m_featDialog->controlChanged(key);
+}
+
+void MainWindow::Handle_Formobjects() { m_featDialog->Handle_Formobjects(); }
+
+template <typename Handler>
+void MainWindow::onTriggered(QAction *action, Handler handler)
+{
+    connect(action, &QAction::triggered, this, whenIdle(m_session, std::move(handler)));
 }
 
 void MainWindow::createActions()
 {
     for (int i = 0; i < NewPictureFormatCount; ++i) {
         auto *a = new QAction(this);
-        connect(a, &QAction::triggered, this, [this, i] { newPicture(i); });
+        onTriggered(a, [this, i] { newPicture(i); });
         mn_New_Picformat.push_back(a);
     }
     for (size_t i = 0; i < mn_File.size(); ++i) {
         auto *a = new QAction(this);
-        connect(a, &QAction::triggered, this, [this, i] {
+        onTriggered(a, [this, i] {
             const QString path = m_mru.file(int(i) + 1);
             if (!path.isEmpty())
                 openPicture(path);
@@ -113,37 +137,45 @@ void MainWindow::createActions()
     }
     mn_Oeffnen = new QAction(this);
     mn_Oeffnen->setShortcut(QKeySequence::Open);
-    connect(mn_Oeffnen, &QAction::triggered, this, &MainWindow::openDialog);
+    onTriggered(mn_Oeffnen, [this] { openDialog(); });
     mn_Speichern = new QAction(this);
     mn_Speichern->setShortcut(QKeySequence::Save);
-    connect(mn_Speichern, &QAction::triggered, this, &MainWindow::saveAsDialog);
+    onTriggered(mn_Speichern, [this] { saveAsDialog(); });
+    // The caption "Fixieren  <F4>" names its key itself: the key is bound beside the entry, so
+    // that the menu does not show it a second time.
     mn_Fixieren = new QAction(this);
-    mn_Fixieren->setShortcut(QKeySequence(Qt::Key_F4));
-    connect(mn_Fixieren, &QAction::triggered, this, [this] {
-        m_fixings->BtnFix_Click();
-    });
+    onTriggered(mn_Fixieren, [this] { fixings().BtnFix_Click(); });
+    auto *fixKey = new QAction(this);
+    fixKey->setShortcut(QKeySequence(Qt::Key_F4));
+    connect(fixKey, &QAction::triggered, mn_Fixieren, &QAction::trigger);
+    addAction(fixKey);
     mn_Restaurieren = new QAction(this);
-    connect(mn_Restaurieren, &QAction::triggered, this, [this] {
-        m_fixings->BtnRestore_Click();
+    onTriggered(mn_Restaurieren, [this] {
+        fixings().BtnRestore_Click();
         refreshStatus();
         Set_MDI_Caption();
     });
     mn_Optionen = new QAction(this);
-    connect(mn_Optionen, &QAction::triggered, this, &MainWindow::showOptions);
+    onTriggered(mn_Optionen, [this] { showOptions(); });
+    // F5 is Paint at rest and Stop while a paint runs, like the button.
     mn_Paint = new QAction(this);
     mn_Paint->setShortcut(QKeySequence(Qt::Key_F5));
     mn_Paint->setShortcutContext(Qt::ApplicationShortcut);
     connect(mn_Paint, &QAction::triggered, this, &MainWindow::paint);
     addAction(mn_Paint);
     mn_LadePalette = new QAction(this);
-    connect(mn_LadePalette, &QAction::triggered, this, &MainWindow::loadPalette);
+    onTriggered(mn_LadePalette, [this] { loadPalette(); });
     mn_SystemPalette = new QAction(this);
-    connect(mn_SystemPalette, &QAction::triggered, this, &MainWindow::systemPalette);
+    onTriggered(mn_SystemPalette, [this] { systemPalette(); });
     mn_CopyCommand = new QAction(this);
-    connect(mn_CopyCommand, &QAction::triggered, this, &MainWindow::copyCommandLine);
+    onTriggered(mn_CopyCommand, [this] { copyCommandLine(); });
     mn_Undo = new QAction(this);
     mn_Undo->setShortcut(QKeySequence::Undo);
-    connect(mn_Undo, &QAction::triggered, this, &MainWindow::undoRedo);
+    onTriggered(mn_Undo, [this] { undoRedo(); });
+    mn_ClrPaintAction = new QAction(this);
+    onTriggered(mn_ClrPaintAction, [this] { mn_ClrPaint(); });
+    mn_ClrPicAction = new QAction(this);
+    onTriggered(mn_ClrPicAction, [this] { mn_ClrPic(); });
     mn_Ende = new QAction(this);
     mn_Ende->setShortcut(QKeySequence::Quit);
     connect(mn_Ende, &QAction::triggered, this, &QWidget::close);
@@ -155,16 +187,20 @@ void MainWindow::createActions()
         // The ten groups answer to the keys 1 to 9 and A with the control key.
         a->setShortcut(QKeySequence(Qt::CTRL | (g < 10 ? Qt::Key(Qt::Key_0 + g) : Qt::Key_A)));
         m_groupActions->addAction(a);
-        connect(a, &QAction::triggered, this, [this, g] { chooseGroup(g); });
+        connect(a, &QAction::triggered, this,
+                whenIdle(m_session, [this, g] { chooseGroup(g); }, [this] {
+                    // The check mark stays with the group of the running paint.
+                    mn_Grafmodes[size_t(m_session.paint().GrafGroup - 1)]->setChecked(true);
+                }));
         mn_Grafmodes[size_t(g - 1)] = a;
     }
     mn_Grafmodes[0]->setChecked(true);
 
     tbDefault = new QAction(this);
-    connect(tbDefault, &QAction::triggered, this, &MainWindow::resetDefaults);
+    onTriggered(tbDefault, [this] { resetDefaults(); });
     tbDrucken = new QAction(this);
     tbDrucken->setShortcut(QKeySequence::Print);
-    connect(tbDrucken, &QAction::triggered, this, &MainWindow::printPicture);
+    onTriggered(tbDrucken, [this] { printPicture(); });
 }
 
 void MainWindow::createMenus()
@@ -193,6 +229,9 @@ void MainWindow::createMenus()
     m_editMenu = menuBar()->addMenu(QString());
     m_editMenu->addAction(mn_Undo);
     m_editMenu->addSeparator();
+    m_editMenu->addAction(mn_ClrPaintAction);
+    m_editMenu->addAction(mn_ClrPicAction);
+    m_editMenu->addSeparator();
     m_editMenu->addAction(mn_CopyCommand);
     m_editMenu->addSeparator();
     m_editMenu->addAction(tbDefault);
@@ -217,6 +256,9 @@ void MainWindow::createToolBar()
     m_toolBar->setObjectName(QStringLiteral("Toolbar1"));
     m_toolBar->setMovable(false);
     m_toolBar->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    // The save key is the menu's entry itself: whatever enables the one enables the other.
+    m_toolBar->addAction(mn_Speichern);
+    m_toolBar->addSeparator();
     m_toolBar->addAction(mn_Fixieren);
     m_toolBar->addAction(mn_Restaurieren);
     m_toolBar->addSeparator();
@@ -233,13 +275,17 @@ void MainWindow::retranslate()
             QCoreApplication::translate("PictureFormats", newPictureFormats()[size_t(i)].caption));
     mn_Oeffnen->setText(tr("Ö&ffnen ..."));
     mn_Speichern->setText(tr("&Speichern unter ..."));
+    mn_Speichern->setIconText(tr("Speichern"));
     mn_Fixieren->setText(tr("Fixieren  <F4>"));
     mn_Fixieren->setIconText(tr("Fixieren"));
     mn_Restaurieren->setText(tr("Restaurieren"));
     mn_Optionen->setText(tr("&Optionen ..."));
     updateRecentMenu();
-    m_fixings->Set_Fixstatus(m_fixings->pictureFixed());
+    fixings().Set_Fixstatus(fixings().pictureFixed());
     mn_Undo->setText(tr("&Undo / Redo"));
+    mn_ClrPaintAction->setText(tr("&Gemaltes löschen"));
+    mn_ClrPaintAction->setToolTip(tr("Was auf der gezeigten Auswahl gemalt wurde, wieder löschen"));
+    mn_ClrPicAction->setText(tr("Bild &leeren"));
     mn_Paint->setText(tr("Malen"));
     mn_CopyCommand->setText(tr("Als Befehlszeile kopieren"));
     mn_CopyCommand->setToolTip(tr("Den Befehl, der das letzte Bild wieder malt, in die Zwischenablage kopieren"));
@@ -301,6 +347,13 @@ void MainWindow::New_BildSize(int w, int h) { m_session.workspace().New_BildSize
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
+    if (isBusy(m_session)) {
+        // The running paint is stopped first; the window closes when it has given up.
+        m_session.paint().StopPaint = true;
+        m_closeAfterPaint = true;
+        event->ignore();
+        return;
+    }
     if (m_session.workspace().BildChanged &&
         m_session.ask(tr("Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert. "
                          "Wollen Sie trotzdem beenden?"),

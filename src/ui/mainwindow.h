@@ -1,7 +1,11 @@
 #pragma once
 // The main window `frmMain`: menu, toolbar, status bar and the picture frame `picContainer`
 // that shows `Bild` pixel for pixel, scrolled when it is larger than the frame. It owns the
-// session, and through it the workspace of named pictures.
+// session, and through it the workspace of named pictures and the fixings; it is the session's
+// view (what the engine tells the window, and the window's routines the engine calls).
+//
+// Every handler of the window and its docks runs through the one guard of ui/idleguard.h, so
+// that nothing but Stop acts while a paint gives way to the event loop.
 
 #include "core/appsettings.h"
 #include "core/fixings.h"
@@ -30,14 +34,14 @@ class PreviewCache;
 struct SystemOptions;
 class StatusBarSink;
 
-class MainWindow : public QMainWindow {
+class MainWindow : public QMainWindow, private SessionView {
     Q_OBJECT
 public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
     Session &session() { return m_session; }
-    Fixings &fixings() { return *m_fixings; }
+    Fixings &fixings() { return m_session.fixings(); }
     const cMRUFileList &recentFiles() const { return m_mru; }
 
     // The start of the program after the window is made: settings, window place, fixings,
@@ -61,6 +65,13 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    // The session's view.
+    void commandsChanged() override;
+    void layoutChanged() override;
+    void grafDialogChanged(GrafDialogState::Change change) override;
+    void controlChanged(const ControlKey &key) override;
+    void Handle_Formobjects() override;
+
     void createActions();
     void createMenus();
     void createToolBar();
@@ -68,6 +79,11 @@ private:
     void updateCommands();
 
     void newPicture(int formatIndex);
+    // mn_ClrPaint: the drawing on a shown selection is cleared; without one the brushes take
+    // the picture anew and an unfixed picture shows so.
+    void mn_ClrPaint();
+    // mn_ClrPic: clears Bild, after asking when it holds unsaved changes.
+    void mn_ClrPic();
     void undoRedo();
     void chooseGroup(int group);
     void resetDefaults();
@@ -87,6 +103,9 @@ private:
     void applyOptions(const SystemOptions &options);
     // The unload steps: settings, temp files, clipboard, last files.
     void shutDown();
+    // Connects an action's trigger to a handler through the guard.
+    template <typename Handler>
+    void onTriggered(QAction *action, Handler handler);
 
     Session m_session;
     MessageBoxPrompter m_prompter{this};
@@ -100,12 +119,12 @@ private:
     QScrollArea *m_picContainer = nullptr;
     PictureView *m_view = nullptr;
     QString m_fileName;
-    std::unique_ptr<Fixings> m_fixings;
     cMRUFileList m_mru;
     AppSettings m_settings;
     SettingsStore *m_store = nullptr;
     int m_formatIndex = 4; // the "Neu" entry of the picture (712 x 712)
     bool m_shutDown = false;
+    bool m_closeAfterPaint = false; // the window was closed during a paint: close at its end
 
     QMenu *m_fileMenu = nullptr;
     QMenu *m_newMenu = nullptr;
@@ -120,6 +139,8 @@ private:
     QAction *mn_Restaurieren = nullptr;
     QAction *mn_Optionen = nullptr;
     QAction *mn_Undo = nullptr;
+    QAction *mn_ClrPaintAction = nullptr;
+    QAction *mn_ClrPicAction = nullptr;
     QAction *mn_Paint = nullptr;
     QAction *mn_CopyCommand = nullptr;
     QMenu *m_viewMenu = nullptr;

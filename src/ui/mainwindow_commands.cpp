@@ -3,6 +3,7 @@
 #include "ui/mainwindow.h"
 
 #include "core/pictureformats.h"
+#include "core/settings.h"
 #include "paint/catalogue.h"
 #include "paint/grafmenu.h"
 #include "paint/paintdriver.h"
@@ -10,6 +11,8 @@
 #include "paint/paletteload.h"
 #include "ui/colourdialogdock.h"
 #include "ui/featdialogdock.h"
+#include "ui/grafdialogdock.h"
+#include "ui/idleguard.h"
 #include "ui/pictureview.h"
 #include "ui/sizedialog.h"
 #include "ui/statusbar.h"
@@ -24,6 +27,7 @@
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QTimer>
 #include <QToolBar>
 
 namespace tf::ui {
@@ -38,11 +42,22 @@ void MainWindow::newPicture(int formatIndex)
     const NewPictureFormat &f = newPictureFormats()[size_t(formatIndex)];
     int w = f.width, h = f.height;
     if (formatIndex == 0) {
-        SizeDialog dialog(ws.NewFormatW, ws.NewFormatH, this);
+        // The free size is remembered across sessions, proportion and all.
+        SizeDialog dialog(m_settings.imgFormat, m_settings.imgFormatW, m_settings.imgFormatH, this);
         if (dialog.exec() != QDialog::Accepted)
             return;
         w = dialog.pictureWidth();
         h = dialog.pictureHeight();
+        m_settings.imgFormat = dialog.proportion();
+        m_settings.imgFormatW = w;
+        m_settings.imgFormatH = h;
+        if (m_store) {
+            const QString S = QString::fromLatin1(SubKey::Settings);
+            m_store->Put_Setting(S, QStringLiteral("imgFormat"), m_settings.imgFormat);
+            m_store->Put_Setting(S, QStringLiteral("imgFormatW"), w);
+            m_store->Put_Setting(S, QStringLiteral("imgFormatH"), h);
+            m_store->sync();
+        }
     }
     ws.NewFormatW = w;
     ws.NewFormatH = h;
@@ -59,6 +74,42 @@ void MainWindow::newPicture(int formatIndex)
     c.print = false;
     ws.setCommands(c);
     m_fileName.clear();
+    Set_MDI_Caption();
+}
+
+void MainWindow::mn_ClrPaint()
+{
+    Workspace &ws = m_session.workspace();
+    PictureBox *selection = ws.PicSelect.Visible()    ? &ws.PicSelect
+                            : ws.picSelectC.Visible() ? &ws.picSelectC
+                                                      : nullptr;
+    if (selection) {
+        // Cls reaches the persistent image only with AutoRedraw on.
+        const bool autoRedraw = selection->AutoRedraw();
+        selection->setAutoRedraw(true);
+        selection->Cls();
+        selection->setAutoRedraw(autoRedraw);
+        return;
+    }
+    m_session.view().Refresh_BrushImage();
+    if (!fixings().pictureFixed())
+        fixings().Set_Fixstatus(false);
+}
+
+void MainWindow::mn_ClrPic()
+{
+    Workspace &ws = m_session.workspace();
+    if (ws.BildChanged &&
+        m_session.ask(tr("Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert. "
+                         "Wollen Sie das aktuelle Bild verwerfen?"),
+                      Buttons::YesNo, Icon::Question) != Answer::Yes)
+        return;
+    // One Undo brings the cleared picture back.
+    ws.Bild_nachUndo();
+    ws.Bild.setPicture(QImage());
+    ws.Bild_CLEAR();
+    ws.lastaction.clear();
+    refreshStatus();
     Set_MDI_Caption();
 }
 
@@ -97,6 +148,11 @@ void MainWindow::afterPaint()
     updateCommands();
     refreshStatus();
     Set_MDI_Caption();
+    // The window was closed during the paint: it closes now that the paint has stopped.
+    if (m_closeAfterPaint && !isBusy(m_session)) {
+        m_closeAfterPaint = false;
+        QTimer::singleShot(0, this, &QWidget::close);
+    }
 }
 
 void MainWindow::paintRunning(bool running)
@@ -106,6 +162,7 @@ void MainWindow::paintRunning(bool running)
     menuBar()->setEnabled(!running);
     m_toolBar->setEnabled(!running);
     m_featDialog->setEnabled(!running);
+    m_grafDialog->setPaintRunning(running);
 }
 
 void MainWindow::loadPalette()

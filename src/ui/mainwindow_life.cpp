@@ -61,9 +61,9 @@ void MainWindow::startUp(SettingsStore &store)
     Workspace &ws = m_session.workspace();
     if (!m_settings.PDirTemp.isEmpty())
         ws.setTempDir(m_settings.PDirTemp);
-    m_fixings->FixNumb = m_settings.FixNumb;
-    m_fixings->FixDelete = m_settings.FixDelete;
-    m_fixings->initFromDisk();
+    fixings().FixNumb = m_settings.FixNumb;
+    fixings().FixDelete = m_settings.FixDelete;
+    fixings().initFromDisk();
 
     m_mru.setMaxFileCount(4);
     m_mru.Load(store);
@@ -83,7 +83,7 @@ void MainWindow::startUp(SettingsStore &store)
         mn_Grafmodes[size_t(group - 1)]->setChecked(true);
 
     ws.lastaction.clear();
-    m_fixings->Set_Fixstatus(false);
+    fixings().Set_Fixstatus(false);
     retranslate();
     CheckRestore_lost_Undopics(ws.TempDir());
 }
@@ -106,7 +106,7 @@ void MainWindow::shutDown()
         m_mru.Save(*m_store);
         m_store->sync();
     }
-    removeTempFilesAtEnd(ws.TempDir(), m_fixings->FixDelete != 0);
+    removeTempFilesAtEnd(ws.TempDir(), fixings().FixDelete != 0);
     if (m_settings.ClipDelete != 0)
         QGuiApplication::clipboard()->clear();
 }
@@ -136,17 +136,17 @@ void MainWindow::applyOptions(const SystemOptions &o)
 {
     m_settings.ClipDelete = o.killClipboard ? 1 : 0;
     m_settings.FixDelete = o.killFixings ? 1 : 0;
-    m_fixings->FixDelete = m_settings.FixDelete;
+    fixings().FixDelete = m_settings.FixDelete;
     Workspace &ws = m_session.workspace();
     if (QDir::cleanPath(o.tempPath) != ws.TempDir() && !o.tempPath.isEmpty()) {
         m_settings.PDirTemp = QDir::cleanPath(o.tempPath);
         ws.setTempDir(m_settings.PDirTemp);
-        m_fixings->initFromDisk();
+        fixings().initFromDisk();
     }
     if (o.fixNumber != m_settings.FixNumb) {
         m_settings.FixNumb = o.fixNumber;
-        m_fixings->FixNumb = o.fixNumber;
-        m_fixings->initFromDisk();
+        fixings().FixNumb = o.fixNumber;
+        fixings().initFromDisk();
     }
     if (o.language != currentLanguage())
         setLanguage(o.language); // widgets retranslate on the language change event

@@ -112,7 +112,9 @@ bool OptionsDialog::applyOptions()
 
 void OptionsDialog::browse()
 {
-    const QString dir = QFileDialog::getExistingDirectory(this, tr("Ordner suchen"), txtPfad->text());
+    // The folder chooser keeps its own title in both languages.
+    const QString dir = QFileDialog::getExistingDirectory(this, QStringLiteral("Browse for Folder"),
+                                                          txtPfad->text());
     if (!dir.isEmpty())
         txtPfad->setText(QDir::toNativeSeparators(dir));
 }

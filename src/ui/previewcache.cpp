@@ -1,5 +1,6 @@
 #include "ui/previewcache.h"
 
+#include "generators/painters.h"
 #include "paint/painter.h"
 #include "paint/paintdriver.h"
 #include "paint/session.h"
@@ -8,6 +9,7 @@ namespace tf::ui {
 
 PreviewCache::PreviewCache() : m_session(std::make_unique<Session>())
 {
+    m_session->setPainters(painterTable());
     m_session->workspace().New_BildSize(Side, Side);
 }
 
@@ -19,7 +21,7 @@ QImage PreviewCache::preview(const QString &key)
     if (it != m_cache.end())
         return *it;
     QImage image;
-    const PainterEntry *entry = findPainter(key);
+    const PainterEntry *entry = findPainter(m_session->painters(), key);
     if (entry && entry->paint) {
         Session &s = *m_session;
         Workspace &ws = s.workspace();

@@ -209,6 +209,7 @@ TEST_F(CliTest, TheCopiedCommandLineReproducesThePaintOnAClearedPicture)
     for (const Setting setting :
          {Setting{true, 0, 0}, Setting{false, 30, 0}, Setting{true, 0, 7}}) {
         Session s;
+        s.setPainters(painterTable());
         ScriptedPrompter prompter;
         s.setPrompter(&prompter);
         s.workspace().New_BildSize(40, 30);

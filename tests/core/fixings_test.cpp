@@ -17,7 +17,8 @@ struct FixingsTest : ::testing::Test {
     RecordingStatus status;
     ScriptedPrompter prompter;
     PrompterScope scope{prompter};
-    Fixings fix{ws, status};
+    RunState run;
+    Fixings fix{ws, status, run};
 
     void SetUp() override
     {
@@ -163,10 +164,10 @@ TEST_F(FixingsTest, GapsOnDiskCloseDownwardsAtStart)
     EXPECT_EQ(shown(), colourOf(5));
 
     // Only the numbers of the ring count; with a single file there is no ring at all.
-    Fixings single(ws, status);
+    Fixings single(ws, status, run);
     single.FixNumb = 1;
     EXPECT_EQ(single.Get_Max_TempPicNR(), 0);
-    Fixings two(ws, status);
+    Fixings two(ws, status, run);
     two.FixNumb = 2;
     EXPECT_EQ(two.Get_Max_TempPicNR(), 2);
     EXPECT_TRUE(exists(3));
@@ -188,21 +189,21 @@ TEST_F(FixingsTest, AMissingRingFileIsPassedOverSilently)
     EXPECT_TRUE(prompter.asked().empty());
 }
 
-TEST_F(FixingsTest, NothingIsFixedWhileAPaintRuns)
+TEST_F(FixingsTest, NothingIsFixedOrRestoredWhileAPaintOrFilterRuns)
 {
-    bool running = true;
-    int hookCalls = 0;
-    fix.setPaintRunning([&] { return running; });
-    fix.setBeforeFix([&] { ++hookCalls; });
     fixIn(colourOf(1));
-    EXPECT_FALSE(exists(1));
-    EXPECT_EQ(fix.FixLast, 0);
-    EXPECT_EQ(hookCalls, 0);
-    EXPECT_EQ(status.panelText(sbrfixed), QString());
-    running = false;
-    fixIn(colourOf(1));
-    EXPECT_TRUE(exists(1));
-    EXPECT_EQ(hookCalls, 1);
+    for (auto busy : {&RunState::setPainting, &RunState::setFiltering}) {
+        (run.*busy)(true);
+        fixIn(colourOf(2));
+        EXPECT_FALSE(exists(2));
+        EXPECT_EQ(fix.FixLast, 1);
+        fix.BtnRestore_Click();
+        EXPECT_EQ(shown(), colourOf(2)); // the picture under the running work stays
+        EXPECT_EQ(fix.FixWalk, 0);
+        (run.*busy)(false);
+    }
+    fixIn(colourOf(2));
+    EXPECT_TRUE(exists(2));
 }
 
 TEST_F(FixingsTest, AVisibleSelectionIsFixedAndRestoredOnItsOwn)

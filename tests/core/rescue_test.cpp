@@ -115,7 +115,8 @@ TEST_F(RescueTest, ARegularEndLeavesNoUndoFilesAndFixingsOnlyWithoutFixDelete)
         touch(QString::fromLatin1(name));
 
     RecordingStatus status;
-    Fixings fix(ws, status);
+    RunState run;
+    Fixings fix(ws, status, run);
     fix.removeFilesAtEnd(); // FixDelete 0: the fixings stay
     EXPECT_EQ(files(), (QStringList{QStringLiteral("20240305_restp_45296.bmp"),
                                     QStringLiteral("tmpfixm.bmp"), QStringLiteral("tmpfixm01.bmp"),

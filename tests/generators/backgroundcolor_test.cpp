@@ -23,6 +23,7 @@ struct BackgroundcolorTest : ::testing::Test {
 
     void SetUp() override
     {
+        s.setPainters(painterTable());
         s.setPrompter(&prompter);
         s.workspace().New_BildSize(5, 4);
         mn_Grafmodes(s, 1);

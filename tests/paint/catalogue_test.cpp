@@ -102,8 +102,12 @@ TEST(GrafMenu, ShowingAGroupRestoresItsLastTypeAndClearsTheKey)
 {
     Session s;
     PaintState &p = s.paint();
-    std::vector<GrafDialogState::Change> changes;
-    p.dialog.setChangedHook([&](GrafDialogState::Change c) { changes.push_back(c); });
+    struct Changes : SessionView {
+        std::vector<GrafDialogState::Change> seen;
+        void grafDialogChanged(GrafDialogState::Change c) override { seen.push_back(c); }
+    } view;
+    s.setView(&view);
+    const std::vector<GrafDialogState::Change> &changes = view.seen;
     p.GrafTypeMem[5] = 11;
     p.GrafKey = QStringLiteral("Backgroundcolor");
     mn_Grafmodes(s, 5);

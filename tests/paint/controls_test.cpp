@@ -93,11 +93,15 @@ TEST_F(ControlsTest, DefaultsAndNormalisingRules)
     EXPECT_FALSE(c.set({QStringLiteral("nope")}, QStringLiteral("1")));
 }
 
-TEST_F(ControlsTest, ChangedListsOnlyWhatDiffersAndTheHookSeesEachChange)
+TEST_F(ControlsTest, ChangedListsOnlyWhatDiffersAndTheViewSeesEachChange)
 {
     Controls c;
-    std::vector<QString> seen;
-    c.setChangedHook([&](const ControlKey &k) { seen.push_back(k.toString()); });
+    struct Seen : ControlsView {
+        std::vector<QString> keys;
+        void controlChanged(const ControlKey &k) override { keys.push_back(k.toString()); }
+    } view;
+    std::vector<QString> &seen = view.keys;
+    c.setView(&view);
     c.set({QStringLiteral("scrollTest")}, QStringLiteral("10")); // the default: no change
     c.set({QStringLiteral("scrollTest")}, QStringLiteral("11"));
     c.set({QStringLiteral("txtSplits"), 0}, QStringLiteral("4"));

@@ -64,32 +64,37 @@ struct ClickAt : YieldHook {
     }
 };
 
+// Keeps every state the Paint button shows.
+struct CaptionLog : SessionView {
+    Session *s = nullptr;
+    std::vector<GrafDialogState::Button> captions;
+    void grafDialogChanged(GrafDialogState::Change c) override
+    {
+        if (c == GrafDialogState::Change::Caption)
+            captions.push_back(s->paint().dialog.buttonState());
+    }
+};
+
 struct PaintDriverTest : ::testing::Test {
     PanelsFirst panels;
     Session s;
     ScriptedPrompter prompter;
     RecordingStatus status;
-    std::span<const PainterEntry> tableBefore;
-    std::vector<GrafDialogState::Button> captions;
+    CaptionLog log;
+    std::vector<GrafDialogState::Button> &captions = log.captions;
 
     void SetUp() override
     {
-        tableBefore = installPainters(testTable);
+        s.setPainters(testTable);
         g_probe = Probe{};
         s.setPrompter(&prompter);
         s.setStatus(&status);
         s.workspace().New_BildSize(8, 10);
-        s.paint().dialog.setChangedHook([this](GrafDialogState::Change c) {
-            if (c == GrafDialogState::Change::Caption)
-                captions.push_back(s.paint().dialog.buttonState());
-        });
+        log.s = &s;
+        s.setView(&log);
         choose(1, 0);
     }
-    void TearDown() override
-    {
-        installPainters(tableBefore);
-        setLanguage(Language::German);
-    }
+    void TearDown() override { setLanguage(Language::German); }
     void choose(int group, int listIndex)
     {
         mn_Grafmodes(s, group);
@@ -218,7 +223,7 @@ TEST_F(PaintDriverTest, StopWithOkEndsThePaintAtItsNextCheckAndRefusesASecondPai
     EXPECT_EQ(second, PaintOutcome::Busy);
     EXPECT_EQ(g_probe.rows, 2);
     EXPECT_TRUE(s.paint().StopPaint);
-    EXPECT_FALSE(s.paint().running);
+    EXPECT_FALSE(s.runState().painting());
     EXPECT_EQ(s.paint().dialog.BtnPaintCaption(), QStringLiteral("Paint <F5>"));
     s.setYieldHook(nullptr);
 
@@ -302,7 +307,7 @@ TEST_F(PaintDriverTest, AFaultingPainterIsReportedAndLeavesTheButtonAtRest)
     choose(1, 9);
     EXPECT_EQ(BtnPaint_Click(s), PaintOutcome::Failed);
     EXPECT_EQ(prompter.lastText(), QStringLiteral("Create_Polygraphics  [Overflow]"));
-    EXPECT_FALSE(s.paint().running);
+    EXPECT_FALSE(s.runState().painting());
     EXPECT_EQ(s.paint().dialog.buttonState(), B::Rest);
     EXPECT_FALSE(ws().commands.print);
 }
