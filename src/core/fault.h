@@ -62,8 +62,7 @@ enum class FaultBox {
 QString faultMessage(const QString &tag, const QString &description,
                      FaultBox box = FaultBox::Reporter);
 // Reports a fault through the installed prompter (see prompter.h).
-void reportFault(const QString &tag, const QString &description,
-                 FaultBox box = FaultBox::Reporter);
+void reportFault(const QString &tag, const QString &description, FaultBox box = FaultBox::Reporter);
 
 // Runs `body`; a fault is reported under `tag` and the call answers false.
 bool guarded(const QString &tag, const std::function<void()> &body,

@@ -59,8 +59,7 @@ void Fixings::Set_Fixstatus(bool fixed)
 
 bool Fixings::BtnFix_Click()
 {
-    if (m_run.busy())
-        return false;
+    if (m_run.busy()) return false;
     guarded(QStringLiteral("DoFixButton"), [&] {
         PictureBox *selection = visibleSelection();
         PictureBox &target = selection ? *selection : m_ws.Bild;
@@ -88,8 +87,7 @@ bool Fixings::BtnFix_Click()
 
 void Fixings::BtnRestore_Click()
 {
-    if (m_run.busy())
-        return;
+    if (m_run.busy()) return;
     guarded(QStringLiteral("DoRestoreButton"), [&] {
         PictureBox *selection = visibleSelection();
         if (selection && QFileInfo::exists(selectionFixingPath())) {

@@ -50,7 +50,10 @@ public:
     explicit StatusDoor(StatusSink &target) : m_target(&target) {}
     void setTarget(StatusSink &target) { m_target = &target; }
     StatusSink &target() const { return *m_target; }
-    void setPanelText(int panel, const QString &text) override { m_target->setPanelText(panel, text); }
+    void setPanelText(int panel, const QString &text) override
+    {
+        m_target->setPanelText(panel, text);
+    }
     void setProgress(int value, int max) override { m_target->setProgress(value, max); }
 
 private:

@@ -40,8 +40,7 @@ void Workspace::setCommands(const CommandState &c)
 {
     const bool differs = c.undo != commands.undo || c.save != commands.save || c.print != commands.print;
     commands = c;
-    if (differs)
-        m_view->commandsChanged();
+    if (differs) m_view->commandsChanged();
 }
 
 void Workspace::enableUndo()

@@ -180,8 +180,7 @@ void Controls::setRaw(const ControlKey &key, const QString &value)
     if (slot == value)
         return;
     slot = value;
-    if (m_view)
-        m_view->controlChanged(key);
+    if (m_view) m_view->controlChanged(key);
 }
 
 QString Controls::text(const ControlKey &key) const

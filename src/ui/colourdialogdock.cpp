@@ -173,34 +173,36 @@ ColourDialogDock::ColourDialogDock(Session &session, QWidget *parent)
     connect(picForeColor, &ColourField::doubleClicked, this, idle([this] { chooseColour(0); }));
     connect(picBackColor, &ColourField::doubleClicked, this, idle([this] { chooseColour(1); }));
     connect(clkBorderColor, &ColourField::doubleClicked, this, idle([this] { chooseColour(2); }));
-    connect(picForeColor, &ColourField::rightClicked, this, idle([this] { takeTextFore(m_session); }));
-    connect(picBackColor, &ColourField::rightClicked, this, idle([this] { takeTextBack(m_session); }));
+    connect(picForeColor, &ColourField::rightClicked, this,
+            idle([this] { takeTextFore(m_session); }));
+    connect(picBackColor, &ColourField::rightClicked, this,
+            idle([this] { takeTextBack(m_session); }));
     connect(picColoSwitch, &QToolButton::clicked, this, idle([this] {
-        switchColours(m_session);
-        Create2ColorPAL(m_session, &m_picPal256);
-        foregroundChanged();
-    }));
+                switchColours(m_session);
+                Create2ColorPAL(m_session, &m_picPal256);
+                foregroundChanged();
+            }));
     connect(picColoIdent, &QToolButton::clicked, this, idle([this] {
-        identColours(m_session);
-        refreshFromState();
-    }));
+                identColours(m_session);
+                refreshFromState();
+            }));
     connect(XRandomColors, &QCheckBox::clicked, this, idle([this](bool on) {
-        clickRandomColors(m_session, on);
-        refreshFromState();
-    }));
+                clickRandomColors(m_session, on);
+                refreshFromState();
+            }));
     connect(XRandomValues, &QCheckBox::clicked, this, idle([this](bool on) {
-        clickRandomValues(m_session, on);
-        refreshFromState();
-    }));
+                clickRandomValues(m_session, on);
+                refreshFromState();
+            }));
     connect(XLockPalette, &QCheckBox::clicked, this, idle([this](bool on) {
-        clickLockPalette(m_session, on, &m_picPal256);
-        refreshFromState();
-    }));
+                clickLockPalette(m_session, on, &m_picPal256);
+                refreshFromState();
+            }));
     for (int i = 0; i < 2; ++i)
         connect(XDuotones[i], &QCheckBox::clicked, this, idle([this, i](bool on) {
-            clickDuotones(m_session, i, on);
-            refreshFromState();
-        }));
+                    clickDuotones(m_session, i, on);
+                    refreshFromState();
+                }));
     ColorDialog_Load(m_session, &m_picPal256);
     clearColourUnderMouse();
     retranslate();
@@ -213,14 +215,14 @@ void ColourDialogDock::connectChart(PictureView *view, PaletteChart chart)
 {
     PictureBox &picture = view->picture();
     connect(view, &PictureView::mousePressed, this,
-            whenIdle(m_session, [this, chart, &picture](Qt::MouseButton b, Qt::KeyboardModifiers m,
-                                                      QPoint at) { pick(chart, picture, b, m, at); }));
+            whenIdle(m_session,
+                     [this, chart, &picture](Qt::MouseButton b, Qt::KeyboardModifiers m,
+                                             QPoint at) { pick(chart, picture, b, m, at); }));
     connect(view, &PictureView::mouseMoved, this,
             [this, chart, &picture](Qt::MouseButtons held, Qt::KeyboardModifiers m, QPoint at) {
                 showColourUnderMouse(picture, at);
                 // Dragging with a button held picks as a press does.
-                if (isBusy(m_session))
-                    return;
+                if (isBusy(m_session)) return;
                 if (held & Qt::LeftButton)
                     pick(chart, picture, Qt::LeftButton, m, at);
                 else if (held & Qt::RightButton)
@@ -229,8 +231,7 @@ void ColourDialogDock::connectChart(PictureView *view, PaletteChart chart)
     connect(view, &PictureView::mouseReleased, this,
             [this, chart](Qt::MouseButton, Qt::KeyboardModifiers, QPoint) {
                 clearColourUnderMouse();
-                if (isBusy(m_session))
-                    return;
+                if (isBusy(m_session)) return;
                 releaseChart(m_session, chart);
                 refreshFromState();
             });

@@ -48,6 +48,7 @@ GrafDialogDock::GrafDialogDock(Session &session, PreviewCache &previews, QWidget
     layout->setContentsMargins(4, 4, 4, 4);
 
     m_groups = new QComboBox(content);
+    m_groups->setObjectName(QStringLiteral("cmbGroup"));
     for (int g = 1; g <= GroupCount; ++g)
         m_groups->addItem(QString());
     layout->addWidget(m_groups);
@@ -77,6 +78,11 @@ GrafDialogDock::GrafDialogDock(Session &session, PreviewCache &previews, QWidget
     BtnFix = new QPushButton(content);
     BtnRestore = new QPushButton(content);
     BtnClip = new QPushButton(content);
+    BtnFix->setObjectName(QStringLiteral("BtnFix"));
+    BtnRestore->setObjectName(QStringLiteral("BtnRestore"));
+    BtnClip->setObjectName(QStringLiteral("BtnClip"));
+    BtnPaintRoll[0]->setObjectName(QStringLiteral("BtnPaintRoll(0)"));
+    BtnPaintRoll[1]->setObjectName(QStringLiteral("BtnPaintRoll(1)"));
     buttons->addWidget(BtnFix, 1, 0);
     buttons->addWidget(BtnRestore, 1, 1);
     buttons->addWidget(BtnClip, 1, 2);
@@ -120,34 +126,35 @@ void GrafDialogDock::setPaintRunning(bool running)
 {
     // Only the Paint button (Stop) and the roll buttons stay live while a paint runs.
     for (QWidget *w : std::initializer_list<QWidget *>{m_groups, ListBoxType, m_general, BtnClip,
-                                                        BtnFix, BtnRestore})
+                                                       BtnFix, BtnRestore})
         w->setEnabled(!running);
 }
 
 void GrafDialogDock::engineChanged(GrafDialogState::Change c)
 {
-        switch (c) {
-        case GrafDialogState::Change::Caption:
-            BtnPaint->setText(m_session.paint().dialog.BtnPaintCaption());
-            emit paintRunningChanged(m_session.paint().dialog.buttonState() != GrafDialogState::Button::Rest);
-            break;
-        case GrafDialogState::Change::TypeList:
-            loadTypeList();
-            break;
-        case GrafDialogState::Change::ListIndex: {
-            const int row = m_session.paint().dialog.ListIndex();
-            if (ListBoxType->currentRow() != row) {
-                m_loading = true;
-                ListBoxType->setCurrentRow(row);
-                m_loading = false;
-            }
-            showPreview();
-            break;
+    switch (c) {
+    case GrafDialogState::Change::Caption:
+        BtnPaint->setText(m_session.paint().dialog.BtnPaintCaption());
+        emit paintRunningChanged(m_session.paint().dialog.buttonState() !=
+                                 GrafDialogState::Button::Rest);
+        break;
+    case GrafDialogState::Change::TypeList:
+        loadTypeList();
+        break;
+    case GrafDialogState::Change::ListIndex: {
+        const int row = m_session.paint().dialog.ListIndex();
+        if (ListBoxType->currentRow() != row) {
+            m_loading = true;
+            ListBoxType->setCurrentRow(row);
+            m_loading = false;
         }
-        case GrafDialogState::Change::FocusButton:
-            BtnPaint->setFocus();
-            break;
-        }
+        showPreview();
+        break;
+    }
+    case GrafDialogState::Change::FocusButton:
+        BtnPaint->setFocus();
+        break;
+    }
 }
 
 void GrafDialogDock::controlChanged(const ControlKey &key)

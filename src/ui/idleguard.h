@@ -13,12 +13,14 @@
 
 namespace tf::ui {
 
-inline bool isBusy(const Session &s) { return s.runState().busy(); }
+inline bool isBusy(const Session &s)
+{
+    return s.runState().busy();
+}
 
 namespace detail {
 // Calls a handler with the signal's arguments, or with none when it takes none.
-template <typename Handler, typename... Args>
-void call(Handler &handler, Args &&...args)
+template <typename Handler, typename... Args> void call(Handler &handler, Args &&...args)
 {
     if constexpr (std::is_invocable_v<Handler &, Args...>)
         handler(std::forward<Args>(args)...);
@@ -28,12 +30,10 @@ void call(Handler &handler, Args &&...args)
 } // namespace detail
 
 // `handler`, run only while nothing runs.
-template <typename Handler>
-auto whenIdle(const Session &s, Handler handler)
+template <typename Handler> auto whenIdle(const Session &s, Handler handler)
 {
     return [&s, handler = std::move(handler)](auto &&...args) mutable {
-        if (!isBusy(s))
-            detail::call(handler, std::forward<decltype(args)>(args)...);
+        if (!isBusy(s)) detail::call(handler, std::forward<decltype(args)>(args)...);
     };
 }
 
@@ -41,12 +41,13 @@ auto whenIdle(const Session &s, Handler handler)
 template <typename Handler, typename Refusal>
 auto whenIdle(const Session &s, Handler handler, Refusal refused)
 {
-    return [&s, handler = std::move(handler), refused = std::move(refused)](auto &&...args) mutable {
-        if (isBusy(s))
-            refused();
-        else
-            detail::call(handler, std::forward<decltype(args)>(args)...);
-    };
+    return
+        [&s, handler = std::move(handler), refused = std::move(refused)](auto &&...args) mutable {
+            if (isBusy(s))
+                refused();
+            else
+                detail::call(handler, std::forward<decltype(args)>(args)...);
+        };
 }
 
 } // namespace tf::ui

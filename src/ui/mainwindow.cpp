@@ -60,8 +60,9 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     connect(m_grafDialog, &GrafDialogDock::clipRequested, this,
             whenIdle(m_session, [this] { copyPictureToClipboard(); }));
     connect(m_grafDialog, &GrafDialogDock::groupChosen, this,
-            whenIdle(m_session, [this](int group) { chooseGroup(group); },
-                     [this] { m_grafDialog->syncFromEngine(); }));
+            whenIdle(
+                m_session, [this](int group) { chooseGroup(group); },
+                [this] { m_grafDialog->syncFromEngine(); }));
     connect(m_grafDialog, &GrafDialogDock::paintRunningChanged, this, &MainWindow::paintRunning);
     m_session.setView(this);
 
@@ -92,7 +93,10 @@ MainWindow::~MainWindow()
     delete m_grafDialog;
 }
 
-void MainWindow::commandsChanged() { updateCommands(); }
+void MainWindow::commandsChanged()
+{
+    updateCommands();
+}
 
 void MainWindow::layoutChanged()
 {
@@ -111,10 +115,12 @@ void MainWindow::controlChanged(const ControlKey &key)
     m_featDialog->controlChanged(key);
 }
 
-void MainWindow::Handle_Formobjects() { m_featDialog->Handle_Formobjects(); }
+void MainWindow::Handle_Formobjects()
+{
+    m_featDialog->Handle_Formobjects();
+}
 
-template <typename Handler>
-void MainWindow::onTriggered(QAction *action, Handler handler)
+template <typename Handler> void MainWindow::onTriggered(QAction *action, Handler handler)
 {
     connect(action, &QAction::triggered, this, whenIdle(m_session, std::move(handler)));
 }
@@ -176,7 +182,19 @@ void MainWindow::createActions()
     onTriggered(mn_ClrPaintAction, [this] { mn_ClrPaint(); });
     mn_ClrPicAction = new QAction(this);
     onTriggered(mn_ClrPicAction, [this] { mn_ClrPic(); });
+    for (auto [action, name] : {std::pair{mn_Oeffnen, "mn_Oeffnen"},
+                                {mn_Speichern, "mn_Speichern"},
+                                {mn_Fixieren, "mn_Fixieren"},
+                                {mn_Restaurieren, "mn_Restaurieren"},
+                                {mn_Paint, "mn_Paint"},
+                                {mn_Undo, "mn_Undo"},
+                                {mn_ClrPaintAction, "mn_ClrPaint"},
+                                {mn_ClrPicAction, "mn_ClrPic"}})
+        action->setObjectName(QLatin1String(name));
+    for (size_t i = 0; i < mn_New_Picformat.size(); ++i)
+        mn_New_Picformat[i]->setObjectName(QStringLiteral("mn_New_Picformat(%1)").arg(i));
     mn_Ende = new QAction(this);
+    mn_Ende->setObjectName(QStringLiteral("mn_Ende"));
     mn_Ende->setShortcut(QKeySequence::Quit);
     connect(mn_Ende, &QAction::triggered, this, &QWidget::close);
 
@@ -188,10 +206,12 @@ void MainWindow::createActions()
         a->setShortcut(QKeySequence(Qt::CTRL | (g < 10 ? Qt::Key(Qt::Key_0 + g) : Qt::Key_A)));
         m_groupActions->addAction(a);
         connect(a, &QAction::triggered, this,
-                whenIdle(m_session, [this, g] { chooseGroup(g); }, [this] {
-                    // The check mark stays with the group of the running paint.
-                    mn_Grafmodes[size_t(m_session.paint().GrafGroup - 1)]->setChecked(true);
-                }));
+                whenIdle(
+                    m_session, [this, g] { chooseGroup(g); },
+                    [this] {
+                        // The check mark stays with the group of the running paint.
+                        mn_Grafmodes[size_t(m_session.paint().GrafGroup - 1)]->setChecked(true);
+                    }));
         mn_Grafmodes[size_t(g - 1)] = a;
     }
     mn_Grafmodes[0]->setChecked(true);

@@ -104,8 +104,7 @@ private:
     // The unload steps: settings, temp files, clipboard, last files.
     void shutDown();
     // Connects an action's trigger to a handler through the guard.
-    template <typename Handler>
-    void onTriggered(QAction *action, Handler handler);
+    template <typename Handler> void onTriggered(QAction *action, Handler handler);
 
     Session m_session;
     MessageBoxPrompter m_prompter{this};

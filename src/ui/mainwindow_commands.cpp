@@ -92,8 +92,7 @@ void MainWindow::mn_ClrPaint()
         return;
     }
     m_session.view().Refresh_BrushImage();
-    if (!fixings().pictureFixed())
-        fixings().Set_Fixstatus(false);
+    if (!fixings().pictureFixed()) fixings().Set_Fixstatus(false);
 }
 
 void MainWindow::mn_ClrPic()

@@ -1,8 +1,8 @@
 #include "ui/previewcache.h"
 
 #include "generators/painters.h"
-#include "paint/painter.h"
 #include "paint/paintdriver.h"
+#include "paint/painter.h"
 #include "paint/session.h"
 
 namespace tf::ui {

@@ -75,8 +75,7 @@ void SizeDialog::followWidth()
     int count = 0;
     const Proportion &p = proportions(&count)[std::max(0, m_proportion->currentIndex())];
     m_height->setEnabled(p.heightPerWidth == 0.0);
-    if (p.heightPerWidth == 0.0)
-        return;
+    if (p.heightPerWidth == 0.0) return;
     // A height past the limit takes the width down with it, so the proportion holds.
     int w = m_width->value();
     int h = CLng(w * p.heightPerWidth);
@@ -89,7 +88,10 @@ void SizeDialog::followWidth()
     m_height->setValue(std::clamp(h, int(MinSide), int(MaxSide)));
 }
 
-int SizeDialog::proportion() const { return m_proportion->currentIndex(); }
+int SizeDialog::proportion() const
+{
+    return m_proportion->currentIndex();
+}
 int SizeDialog::pictureWidth() const { return m_width->value(); }
 int SizeDialog::pictureHeight() const { return m_height->value(); }
 

@@ -95,30 +95,50 @@ TEST(Random, ZeroRepeatsAndNegativeReseeds)
     EXPECT_EQ(r.Rnd(0), a);
     EXPECT_EQ(r.Rnd(1), 0.533424f);
 
-    Random x, y;
-    x.Rnd();
-    x.Rnd();
-    const Single s1 = x.Rnd(-3);
-    const Single s2 = y.Rnd(-3);
-    EXPECT_EQ(s1, s2); // a negative argument makes the sequence independent of the past
-    EXPECT_EQ(x.Rnd(), y.Rnd());
-    Random z;
-    EXPECT_NE(z.Rnd(-4), s1);
+    // Worked out by hand: -1 as a float is 0xBF800000; (b + (b >> 24)) & 0xFFFFFF = 0x8000BF;
+    // one step gives 0x395886, the next 0x092D31. -7.25 is 0xC0E80000, giving 0xE800C0, then
+    // 0xFE9C83. The sequence no longer depends on what came before.
+    const struct {
+        Single n;
+        uint32_t state;
+        Single first, second;
+    } cases[] = {{-1.0f, 0x395886, 0x395886 / 16777216.0f, 0x092D31 / 16777216.0f},
+                 {-7.25f, 0xFE9C83, 0xFE9C83 / 16777216.0f, 0xD1953A / 16777216.0f}};
+    for (const auto &c : cases) {
+        Random fresh, used;
+        used.Rnd();
+        used.Rnd();
+        for (Random *g : {&fresh, &used}) {
+            EXPECT_EQ(g->Rnd(c.n), c.first) << c.n;
+            EXPECT_EQ(g->state(), c.state) << c.n;
+            EXPECT_EQ(g->Rnd(), c.second) << c.n;
+        }
+    }
+    EXPECT_FLOAT_EQ(Random().Rnd(-1.0f), 0.22400701f);
 }
 
-TEST(Random, RandomizeKeepsTheLowByteAndStaysWithinZeroAndOne)
+TEST(Random, RandomizeReplacesTheMiddleBitsByTheClockValue)
 {
-    Random a;
-    a.Randomize(12345.678);
-    EXPECT_EQ(a.state() & 0xFF, Random::StartState & 0xFF);
-    Random c;
-    c.Randomize(12345.0);
-    EXPECT_NE(c.state(), Random().state());
-    for (int i = 0; i < 10000; ++i) {
-        const Single v = c.Rnd();
-        ASSERT_GE(v, 0.0f);
-        ASSERT_LT(v, 1.0f);
+    // 0.5 as a double is 0x3FE00000_00000000: (0x3FE0 ^ 0x0000) << 8 replaces bits 8..23 of the
+    // start state 0x050000 (whose low byte is 0): 0x3FE000, and one step gives 0x83FEC3.
+    // 12345.678 has the upper word 0x40C81CD6: 0x40C8 ^ 0x1CD6 = 0x5C1E, state 0x5C1E00.
+    const struct {
+        double x;
+        uint32_t state;
+        uint32_t next;
+    } cases[] = {
+        {0.5, 0x3FE000, 0x83FEC3}, {12345.678, 0x5C1E00, 0xA744C3}, {86399.0, 0x570500, 0x128FC3}};
+    for (const auto &c : cases) {
+        Random r;
+        r.Randomize(c.x);
+        EXPECT_EQ(r.state(), c.state) << c.x;
+        EXPECT_EQ(r.Rnd(), c.next / 16777216.0f) << c.x;
     }
+    // The low byte survives a Randomize.
+    Random stepped;
+    stepped.Rnd(); // state 0xB49EC3
+    stepped.Randomize(0.5);
+    EXPECT_EQ(stepped.state(), 0x3FE0C3u);
 }
 
 TEST(Random, SeededClockIsDeterministic)

@@ -96,7 +96,8 @@ TEST_F(RescueTest, ARescueThatCannotBeRenamedIsReported)
     ASSERT_TRUE(QDir().mkpath(path(QStringLiteral("20240305_restp_45296.bmp")) + "/inside"));
     prompter.script({Answer::Yes});
     EXPECT_TRUE(CheckRestore_lost_Undopics(dir.path(), crashNight).isEmpty());
-    EXPECT_EQ(prompter.lastText(), QStringLiteral("CheckRestore_lost_Undopics  [Path/File access error]"));
+    EXPECT_EQ(prompter.lastText(),
+              QStringLiteral("CheckRestore_lost_Undopics  [Path/File access error]"));
     EXPECT_TRUE(QFile::exists(path(QStringLiteral("tmpundob.bmp"))));
 }
 

@@ -8,6 +8,7 @@
 #include "paint/painter.h"
 #include "paint/session.h"
 
+#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 using namespace tf;
@@ -230,6 +231,32 @@ TEST_F(PaintDriverTest, StopWithOkEndsThePaintAtItsNextCheckAndRefusesASecondPai
     setLanguage(Language::German);
     EXPECT_EQ(BtnPaint_Click(s), PaintOutcome::Painted);
     EXPECT_FALSE(s.paint().StopPaint);
+}
+
+TEST_F(PaintDriverTest, TheEngineHandlersDoNothingWhileAPaintGivesWay)
+{
+    // A fixing of another size, which a Restore in the middle of the paint would bring in.
+    QTemporaryDir temp;
+    ws().setTempDir(temp.path());
+    ws().New_BildSize(12, 12);
+    ws().Bild.Line(0, 0, 11, 11, RGB(0, 255, 0), LineFlags::BF);
+    ASSERT_TRUE(s.fixings().BtnFix_Click());
+    ws().New_BildSize(8, 10);
+    ClickAt hook(3, [&] {
+        mn_Grafmodes(s, 5);
+        ListBoxType_Click(s, 3);
+        s.fixings().BtnRestore_Click();
+        EXPECT_FALSE(s.fixings().BtnFix_Click());
+    });
+    s.setYieldHook(&hook);
+    EXPECT_EQ(BtnPaint_Click(s), PaintOutcome::Painted);
+    EXPECT_EQ(std::pair(s.paint().GrafGroup, s.paint().dialog.ListIndex()), std::pair(1, 0));
+    EXPECT_EQ(s.paint().GrafKey, QStringLiteral("Backgroundcolor"));
+    EXPECT_EQ(ws().Bild.Image().size(), QSize(8, 10));
+    EXPECT_EQ(ws().Bild.Point(7, 5), Red);
+    EXPECT_EQ(s.fixings().FixLast, 1);
+    EXPECT_EQ(s.fixings().FixWalk, 0);
+    s.setYieldHook(nullptr);
 }
 
 TEST_F(PaintDriverTest, TheRollButtonsWalkRoundTheListPastItsSeparators)

@@ -71,6 +71,9 @@ TEST_F(MainWindowTest, RestoresTheLastPictureFormatUnlessItsIndexIsUnknown)
     store->Put_Setting(QStringLiteral("Settings"), QStringLiteral("initFormatH"), 1500);
     start();
     EXPECT_EQ(window->session().workspace().Bild.Width(), 2000);
+    // The start leaves the text-block step and the display time for the painters that read them.
+    EXPECT_EQ(window->session().startValues().TextBlockStep, 80);
+    EXPECT_EQ(window->session().startValues().DisplayTime, 3000);
     window.reset();
 
     store->Put_Setting(QStringLiteral("Settings"), QStringLiteral("initFormat"), 13);
