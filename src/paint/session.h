@@ -17,6 +17,7 @@
 #include "core/yield.h"
 #include "paint/colourstate.h"
 #include "paint/controls.h"
+#include "paint/filterstate.h"
 #include "paint/grafdialog.h"
 #include "paint/paintrecord.h"
 #include "paint/transparency.h"
@@ -76,6 +77,7 @@ public:
     const ColourState &colours() const { return m_colours; }
     // TranspPercent and the paint target XBild, XUndo, XWork (Bild's until Set_BILD).
     TransparencyState &transparency() { return m_transparency; }
+    FilterState &filters() { return m_filters; }
     const TransparencyState &transparency() const { return m_transparency; }
 
     // The doors. Each setter takes a borrowed object (null restores the default).
@@ -108,6 +110,7 @@ private:
     PaintState m_paint;
     ColourState m_colours;
     TransparencyState m_transparency;
+    FilterState m_filters;
     Random m_random;
     SessionClock m_clock;
 
