@@ -70,7 +70,7 @@ GammaDialog::GammaDialog(Session &session, const FilterRow &row, QWidget *parent
     const Language lang = currentLanguage();
     if (row.previewed == StartsPreviewed::Position) {
         QString prompt = row.prompt(lang);
-        if (prompt.isEmpty()) prompt = tr("Klicken Sie auf das linke Bild, um die Farbe zu wählen.");
+        if (prompt.isEmpty()) prompt = tr("Klicken Sie auf das Bild, um die Farbe zu wählen.");
         auto *p = new QLabel(prompt, this);
         p->setObjectName(QStringLiteral("lblPrompt"));
         layout->addWidget(p);
