@@ -23,11 +23,6 @@ namespace tf::cli {
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Cli", text);
-}
-
 // ---- Reading and writing pictures: the one place the command's files go through. ---------
 QImage readPicture(const QString &path)
 {
@@ -62,7 +57,7 @@ ColorLong parseColourValue(const QString &text)
     static const QRegularExpression re(QStringLiteral(R"(^#([0-9A-Fa-f]{6})$)"));
     const auto m = re.match(text);
     if (!m.hasMatch())
-        throw UsageError(tr("Ungültige Farbe: %1 (#RRGGBB)").arg(text));
+        throw UsageError(QCoreApplication::translate("Cli", "Ungültige Farbe: %1 (#RRGGBB)").arg(text));
     return fromQRgb(m.captured(1).toUInt(nullptr, 16));
 }
 
@@ -70,7 +65,7 @@ int parseInt(const QString &option, const QString &text)
 {
     bool ok = false;
     const int v = text.toInt(&ok);
-    if (!ok) throw UsageError(tr("Ungültiger Wert für %1: %2").arg(option, text));
+    if (!ok) throw UsageError(QCoreApplication::translate("Cli", "Ungültiger Wert für %1: %2").arg(option, text));
     return v;
 }
 
@@ -79,11 +74,11 @@ Step startStep(const QString &name)
     Step st;
     if (name.compare(QLatin1String(SepiaName), Qt::CaseInsensitive) == 0) return st;
     st.row = findFilter(name);
-    if (!st.row) throw UsageError(tr("Unbekannter Filter: %1 (siehe `filters`)").arg(name));
+    if (!st.row) throw UsageError(QCoreApplication::translate("Cli", "Unbekannter Filter: %1 (siehe `filters`)").arg(name));
     if (!st.row->available())
-        throw UsageError(tr("Der Filter %1 ist noch nicht eingebaut.").arg(name));
+        throw UsageError(QCoreApplication::translate("Cli", "Der Filter %1 ist noch nicht eingebaut.").arg(name));
     if (st.row->entries.empty() && st.row->sliders.empty() && st.row->number != 45)
-        throw UsageError(tr("Unbekannter Filter: %1 (siehe `filters`)").arg(name));
+        throw UsageError(QCoreApplication::translate("Cli", "Unbekannter Filter: %1 (siehe `filters`)").arg(name));
     st.args = defaultArguments(*st.row);
     if (st.row->sliders.empty() && !st.row->entries.empty()) {
         const FilterMenuEntry &e = st.row->entries[0];
@@ -107,7 +102,7 @@ bool setMixer(Step &st, const QString &key, const QString &value)
     if (st.args.invert[i]) v = v.mid(1);
     if (!st.args.kill[i]) {
         const qsizetype src = QStringList{QStringLiteral("r"), QStringLiteral("g"), QStringLiteral("b")}.indexOf(v);
-        if (src < 0) throw UsageError(tr("Ungültiger Wert für %1: %2").arg(key, value));
+        if (src < 0) throw UsageError(QCoreApplication::translate("Cli", "Ungültiger Wert für %1: %2").arg(key, value));
         st.args.mixSource[i] = int(src);
     }
     return true;
@@ -117,7 +112,7 @@ void setSlider(Step &st, const QString &assignment)
 {
     const qsizetype eq = assignment.indexOf(QLatin1Char('='));
     if (eq < 1 || !st.row)
-        throw UsageError(tr("Ungültige Einstellung: %1 (REGLER=WERT)").arg(assignment));
+        throw UsageError(QCoreApplication::translate("Cli", "Ungültige Einstellung: %1 (REGLER=WERT)").arg(assignment));
     const QString key = assignment.left(eq), value = assignment.mid(eq + 1);
     if (st.row->mixer && setMixer(st, key, value)) return;
     for (size_t i = 0; i < st.row->sliders.size(); ++i) {
@@ -130,19 +125,19 @@ void setSlider(Step &st, const QString &assignment)
         if (sl.asGamma && value.contains(QLatin1Char('.'))) {
             bool ok = false;
             const double d = value.toDouble(&ok);
-            if (!ok) throw UsageError(tr("Ungültiger Wert für %1: %2").arg(key, value));
+            if (!ok) throw UsageError(QCoreApplication::translate("Cli", "Ungültiger Wert für %1: %2").arg(key, value));
             v = int(roundHalfEven(d * 100.0));
         } else {
             v = parseInt(key, value);
         }
         if (v < sl.min || v > sl.max)
-            throw UsageError(tr("%1 liegt außerhalb von %2 bis %3.")
+            throw UsageError(QCoreApplication::translate("Cli", "%1 liegt außerhalb von %2 bis %3.")
                                  .arg(assignment, sl.display(sl.min), sl.display(sl.max)));
         st.args.sliders[i] = v;
         if (i == 0) st.args.argument = v;
         return;
     }
-    throw UsageError(tr("Der Filter %1 hat keinen Regler %2.")
+    throw UsageError(QCoreApplication::translate("Cli", "Der Filter %1 hat keinen Regler %2.")
                          .arg(QString::fromUtf8(st.row->name), key));
 }
 
@@ -161,7 +156,7 @@ FilterOptions parseFilterOptions(const QStringList &words)
         const QString w = a.next();
         Step *st = o.steps.empty() ? nullptr : &o.steps.back();
         const auto need = [&]() -> Step & {
-            if (!st) throw UsageError(tr("Es fehlt der Filter."));
+            if (!st) throw UsageError(QCoreApplication::translate("Cli", "Es fehlt der Filter."));
             return *st;
         };
         if (w == QLatin1String("-o") || w == QLatin1String("--output")) {
@@ -190,25 +185,25 @@ FilterOptions parseFilterOptions(const QStringList &words)
             const QString v = a.valueOf(w);
             static const QRegularExpression re(QStringLiteral(R"(^(\d+),(\d+)$)"));
             const auto m = re.match(v);
-            if (!m.hasMatch()) throw UsageError(tr("Ungültige Position: %1 (X,Y)").arg(v));
+            if (!m.hasMatch()) throw UsageError(QCoreApplication::translate("Cli", "Ungültige Position: %1 (X,Y)").arg(v));
             s.args.position = QPoint(m.captured(1).toInt(), m.captured(2).toInt());
         } else if (w == QLatin1String("--seed")) {
             o.seed = uint32_t(parseInt(w, a.valueOf(w)));
         } else if (w == QLatin1String("--threads")) {
             o.threads = parseInt(w, a.valueOf(w));
         } else if (w.startsWith(QLatin1Char('-')) && w != QLatin1String("-")) {
-            throw UsageError(tr("Unbekannte Option: %1").arg(w));
+            throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Option: %1").arg(w));
         } else if (o.steps.empty()) {
             o.steps.push_back(startStep(w));
         } else if (o.input.isEmpty()) {
             o.input = w;
         } else {
-            throw UsageError(tr("Überzähliges Argument: %1").arg(w));
+            throw UsageError(QCoreApplication::translate("Cli", "Überzähliges Argument: %1").arg(w));
         }
     }
-    if (o.steps.empty()) throw UsageError(tr("Es fehlt der Filter."));
-    if (o.input.isEmpty()) throw UsageError(tr("Es fehlt das Bild, das gefiltert wird."));
-    if (o.output.isEmpty()) throw UsageError(tr("Es fehlt die Ausgabe (-o DATEI)."));
+    if (o.steps.empty()) throw UsageError(QCoreApplication::translate("Cli", "Es fehlt der Filter."));
+    if (o.input.isEmpty()) throw UsageError(QCoreApplication::translate("Cli", "Es fehlt das Bild, das gefiltert wird."));
+    if (o.output.isEmpty()) throw UsageError(QCoreApplication::translate("Cli", "Es fehlt die Ausgabe (-o DATEI)."));
     return o;
 }
 
@@ -246,7 +241,7 @@ QString argumentsOf(const FilterRow &row)
 
 int runFilters(const QStringList &args)
 {
-    if (!args.isEmpty()) throw UsageError(tr("Überzähliges Argument: %1").arg(args.first()));
+    if (!args.isEmpty()) throw UsageError(QCoreApplication::translate("Cli", "Überzähliges Argument: %1").arg(args.first()));
     QString out;
     for (const FilterRow &row : filterTable()) {
         out += QStringLiteral("%1  %2  %3 / %4")
@@ -269,7 +264,7 @@ int runFilter(const QStringList &args)
     const FilterOptions o = parseFilterOptions(args);
     QImage picture = readPicture(o.input);
     if (picture.isNull()) {
-        printError(tr("Das Bild %1 kann nicht gelesen werden.").arg(o.input));
+        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht gelesen werden.").arg(o.input));
         return ExitFailed;
     }
     CliPrompter prompter;
@@ -283,12 +278,12 @@ int runFilter(const QStringList &args)
         const bool ok = st.row ? DoGraficFilters(s, st.row->number, picture, st.args)
                                : (colourisePicture(s, picture, SepiaValues), true);
         if (!ok || prompter.faultSeen()) {
-            printError(tr("Das Filtern ist fehlgeschlagen."));
+            printError(QCoreApplication::translate("Cli", "Das Filtern ist fehlgeschlagen."));
             return ExitFailed;
         }
     }
     if (!writePicture(picture, o.output)) {
-        printError(tr("Das Bild %1 kann nicht geschrieben werden.").arg(o.output));
+        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht geschrieben werden.").arg(o.output));
         return ExitFailed;
     }
     return ExitOk;
