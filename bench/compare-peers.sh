@@ -14,8 +14,13 @@ trap 'rm -rf "$work"' EXIT
 py=/usr/bin/python3
 [ -x "$py" ] || py=python3
 
+# The first `convert` that is ImageMagick's (a stand-in may come first on the path).
+convert=
+for c in $(type -ap convert) /usr/bin/convert; do
+  if "$c" -version 2>/dev/null | grep -q ImageMagick; then convert=$c; break; fi
+done
 have_convert=0
-if command -v convert >/dev/null && convert -version 2>/dev/null | grep -q ImageMagick; then have_convert=1; fi
+[ -n "$convert" ] && have_convert=1
 have_pillow=0
 if "$py" -c 'import PIL' 2>/dev/null; then have_pillow=1; fi
 
@@ -67,7 +72,7 @@ for i in "${!names[@]}"; do
   c=-; cr=-
   if [ $have_convert = 1 ]; then
     # shellcheck disable=SC2086
-    c=$(best convert "$work/in.bmp" ${magick[$i]} "$work/theirs.bmp")
+    c=$(best "$convert" "$work/in.bmp" ${magick[$i]} "$work/theirs.bmp")
     cr=$(printf '%.1f' "$(echo "$c / $o" | bc -l)")
     c=$(printf '%.3f' "$c")
   fi
