@@ -74,6 +74,46 @@
         <source>Unbekannte Systempalette: %1 (1 bis %2)</source>
         <translation>Unbekannte Systempalette: %1 (1 bis %2)</translation>
     </message>
+    <message>
+        <source>Unbekannter Filter: %1 (siehe `filters`)</source>
+        <translation>Unbekannter Filter: %1 (siehe `filters`)</translation>
+    </message>
+    <message>
+        <source>Der Filter %1 ist noch nicht eingebaut.</source>
+        <translation>Der Filter %1 ist noch nicht eingebaut.</translation>
+    </message>
+    <message>
+        <source>Ungültige Einstellung: %1 (REGLER=WERT)</source>
+        <translation>Ungültige Einstellung: %1 (REGLER=WERT)</translation>
+    </message>
+    <message>
+        <source>%1 liegt außerhalb von %2 bis %3.</source>
+        <translation>%1 liegt außerhalb von %2 bis %3.</translation>
+    </message>
+    <message>
+        <source>Der Filter %1 hat keinen Regler %2.</source>
+        <translation>Der Filter %1 hat keinen Regler %2.</translation>
+    </message>
+    <message>
+        <source>Es fehlt der Filter.</source>
+        <translation>Es fehlt der Filter.</translation>
+    </message>
+    <message>
+        <source>Ungültige Position: %1 (X,Y)</source>
+        <translation>Ungültige Position: %1 (X,Y)</translation>
+    </message>
+    <message>
+        <source>Es fehlt das Bild, das gefiltert wird.</source>
+        <translation>Es fehlt das Bild, das gefiltert wird.</translation>
+    </message>
+    <message>
+        <source>Es fehlt die Ausgabe (-o DATEI).</source>
+        <translation>Es fehlt die Ausgabe (-o DATEI).</translation>
+    </message>
+    <message>
+        <source>Das Filtern ist fehlgeschlagen.</source>
+        <translation>Das Filtern ist fehlgeschlagen.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -616,6 +656,37 @@
     </message>
 </context>
 <context>
+    <name>tf::ui::ColouriseDialog</name>
+    <message>
+        <source>Hue/Sättigung</source>
+        <translation>Hue/Sättigung</translation>
+    </message>
+    <message>
+        <source>Auswahl:</source>
+        <translation>Auswahl:</translation>
+    </message>
+    <message>
+        <source>Monochrome</source>
+        <translation>Monochrome</translation>
+    </message>
+    <message>
+        <source>Vorschau</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Hue:</source>
+        <translation>Hue:</translation>
+    </message>
+    <message>
+        <source>Sättigung:</source>
+        <translation>Sättigung:</translation>
+    </message>
+</context>
+<context>
     <name>tf::ui::FeatDialogDock</name>
     <message>
         <source>Optionen</source>
@@ -624,6 +695,72 @@
     <message>
         <source>Dieser Grafiktyp liest nur die allgemeinen Optionen des Maldialogs.</source>
         <translation>Dieser Grafiktyp liest nur die allgemeinen Optionen des Maldialogs.</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::FilterMenu</name>
+    <message>
+        <source>Sepia</source>
+        <translation>Sepia</translation>
+    </message>
+    <message>
+        <source>Hue/Sättigung...</source>
+        <translation>Hue/Sättigung...</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::GammaDialog</name>
+    <message>
+        <source>Klicken Sie auf das Bild, um die Farbe zu wählen.</source>
+        <translation>Klicken Sie auf das Bild, um die Farbe zu wählen.</translation>
+    </message>
+    <message>
+        <source>Kanäle</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>Rot</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Grün</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blau</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Invertieren</source>
+        <translation>Invertieren</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Farbe von</source>
+        <translation>Farbe von</translation>
+    </message>
+    <message>
+        <source>Farbe nach/Hintergrund</source>
+        <translation>Farbe nach/Hintergrund</translation>
+    </message>
+    <message>
+        <source>Vorschau</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>an</source>
+        <translation>an</translation>
+    </message>
+    <message>
+        <source>aus</source>
+        <translation>aus</translation>
     </message>
 </context>
 <context>

@@ -74,6 +74,46 @@
         <source>Unbekannte Systempalette: %1 (1 bis %2)</source>
         <translation>Unknown system palette: %1 (1 to %2)</translation>
     </message>
+    <message>
+        <source>Unbekannter Filter: %1 (siehe `filters`)</source>
+        <translation>Unknown filter: %1 (see `filters`)</translation>
+    </message>
+    <message>
+        <source>Der Filter %1 ist noch nicht eingebaut.</source>
+        <translation>The filter %1 is not built in yet.</translation>
+    </message>
+    <message>
+        <source>Ungültige Einstellung: %1 (REGLER=WERT)</source>
+        <translation>Invalid setting: %1 (SLIDER=VALUE)</translation>
+    </message>
+    <message>
+        <source>%1 liegt außerhalb von %2 bis %3.</source>
+        <translation>%1 lies outside %2 to %3.</translation>
+    </message>
+    <message>
+        <source>Der Filter %1 hat keinen Regler %2.</source>
+        <translation>The filter %1 has no slider %2.</translation>
+    </message>
+    <message>
+        <source>Es fehlt der Filter.</source>
+        <translation>The filter is missing.</translation>
+    </message>
+    <message>
+        <source>Ungültige Position: %1 (X,Y)</source>
+        <translation>Invalid position: %1 (X,Y)</translation>
+    </message>
+    <message>
+        <source>Es fehlt das Bild, das gefiltert wird.</source>
+        <translation>The picture to filter is missing.</translation>
+    </message>
+    <message>
+        <source>Es fehlt die Ausgabe (-o DATEI).</source>
+        <translation>The output is missing (-o FILE).</translation>
+    </message>
+    <message>
+        <source>Das Filtern ist fehlgeschlagen.</source>
+        <translation>The filter failed.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -616,6 +656,37 @@
     </message>
 </context>
 <context>
+    <name>tf::ui::ColouriseDialog</name>
+    <message>
+        <source>Hue/Sättigung</source>
+        <translation>Hue/Saturation</translation>
+    </message>
+    <message>
+        <source>Auswahl:</source>
+        <translation>Selection:</translation>
+    </message>
+    <message>
+        <source>Monochrome</source>
+        <translation>Monochrome</translation>
+    </message>
+    <message>
+        <source>Vorschau</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Hue:</source>
+        <translation>Hue:</translation>
+    </message>
+    <message>
+        <source>Sättigung:</source>
+        <translation>Saturation:</translation>
+    </message>
+</context>
+<context>
     <name>tf::ui::FeatDialogDock</name>
     <message>
         <source>Optionen</source>
@@ -624,6 +695,72 @@
     <message>
         <source>Dieser Grafiktyp liest nur die allgemeinen Optionen des Maldialogs.</source>
         <translation>This graphics type reads only the general options of the paint dialog.</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::FilterMenu</name>
+    <message>
+        <source>Sepia</source>
+        <translation>Sepia</translation>
+    </message>
+    <message>
+        <source>Hue/Sättigung...</source>
+        <translation>Hue/Saturation...</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::GammaDialog</name>
+    <message>
+        <source>Klicken Sie auf das Bild, um die Farbe zu wählen.</source>
+        <translation>Click on the picture to choose the colour.</translation>
+    </message>
+    <message>
+        <source>Kanäle</source>
+        <translation>Channels</translation>
+    </message>
+    <message>
+        <source>Rot</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Grün</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>Blau</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>Invertieren</source>
+        <translation>Invert</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>Farbe von</source>
+        <translation>Color from</translation>
+    </message>
+    <message>
+        <source>Farbe nach/Hintergrund</source>
+        <translation>Color to/back</translation>
+    </message>
+    <message>
+        <source>Vorschau</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>an</source>
+        <translation>on</translation>
+    </message>
+    <message>
+        <source>aus</source>
+        <translation>off</translation>
     </message>
 </context>
 <context>

@@ -26,6 +26,9 @@ const char *const usage =
     "  types                  the groups and types: key, English and German caption\n"
     "  controls [TYPE]        the option controls (of a type): name, kind, default, range,\n"
     "                         caption\n"
+    "  filters                the filters: number, name, captions and arguments\n"
+    "  filter NUMBER|NAME IN -o OUT [OPTIONS] [--then NAME [OPTIONS] ...]\n"
+    "                         run filters on a picture, one after the other\n"
     "\n"
     "Options of paint:\n"
     "  -o, --output FILE      the picture to write; .png, .jpg or .bmp by its extension\n"
@@ -45,6 +48,14 @@ const char *const usage =
     "  --duotones 0|1         take the colours from a table: 0 a random scheme, 1 the two\n"
     "                         colours or the palette\n"
     "  --transparency P       lay the paint over the picture at P percent (0..100)\n"
+    "\n"
+    "Options of filter (each after the filter it sets):\n"
+    "  --arg N|#RRGGBB        the argument of a filter without a dialog\n"
+    "  --set SLIDER=VALUE     a slider of the filter dialog by its label or index\n"
+    "  --colour0, --colour1 #RRGGBB\n"
+    "                         the dialog's two colour fields\n"
+    "  --at X,Y               the position picked on the picture\n"
+    "  --seed N               the seed of the random numbers (noise, diffuse)\n"
     "\n"
     "Options of every command:\n"
     "  --lang de|en           the language of messages and captions\n"
@@ -114,6 +125,8 @@ int run(int argc, char **argv)
         {QStringLiteral("paint"), runPaint},
         {QStringLiteral("types"), runTypes},
         {QStringLiteral("controls"), runControls},
+        {QStringLiteral("filters"), runFilters},
+        {QStringLiteral("filter"), runFilter},
     };
     const auto it = commands.find(command);
     if (it == commands.end()) {

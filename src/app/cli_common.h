@@ -74,5 +74,7 @@ public:
 int runTypes(const QStringList &args);
 int runControls(const QStringList &args);
 int runPaint(const QStringList &args);
+int runFilters(const QStringList &args);
+int runFilter(const QStringList &args);
 
 } // namespace tf::cli

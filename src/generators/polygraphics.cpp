@@ -2,6 +2,7 @@
 
 #include "core/blit.h"
 #include "core/picturebox.h"
+#include "filters/dografic.h"
 #include "paint/colourstate.h"
 #include "paint/painter.h"
 #include "paint/transparency.h"
@@ -17,10 +18,14 @@ void paintBackgroundcolor(PaintContext &ctx)
     const int w = ctx.opt.W;
     const int h = ctx.opt.H;
     if (ctx.opt.TranspPercent >= 2 && ctx.opt.TranspPercent <= 98) {
-        // The mix works on a copy in the work picture and comes back in one block copy.
+        // The mix works on a copy in the work picture (filter 45, the colour mix) and comes
+        // back in one block copy.
         PictureBox &work = ctx.XWork;
         BitBlt(work.hDC(), 0, 0, w, h, &target.hDC(), 0, 0, SRCCOPY);
-        blendColourOver(work.mutableImage(), colour, ctx.opt.TranspLevel);
+        FilterArgs mix;
+        mix.colours[0] = colour;
+        mix.keep = ctx.opt.TranspLevel;
+        DoGraficFilters(ctx.session, 45, work.mutableImage(), mix);
         work.markChanged();
         BitBlt(target.hDC(), 0, 0, w, h, &work.hDC(), 0, 0, SRCCOPY);
         target.markChanged();

@@ -24,6 +24,7 @@
 #include "core/yield.h"
 #include "paint/colourstate.h"
 #include "paint/controls.h"
+#include "paint/filterstate.h"
 #include "paint/grafdialog.h"
 #include "paint/painter.h"
 #include "paint/paintrecord.h"
@@ -86,6 +87,7 @@ public:
     const ColourState &colours() const { return m_colours; }
     // TranspPercent and the paint target XBild, XUndo, XWork (Bild's until Set_BILD).
     TransparencyState &transparency() { return m_transparency; }
+    FilterState &filters() { return m_filters; }
     const TransparencyState &transparency() const { return m_transparency; }
 
     // The painters this session paints with, one entry per type key (borrowed; it must outlive
@@ -131,6 +133,7 @@ private:
     PaintState m_paint;
     ColourState m_colours;
     TransparencyState m_transparency;
+    FilterState m_filters;
     Random m_random;
     SessionClock m_clock;
 

@@ -6,6 +6,7 @@
 #include "paint/grafmenu.h"
 #include "ui/colourdialogdock.h"
 #include "ui/featdialogdock.h"
+#include "ui/filtermenu.h"
 #include "ui/grafdialogdock.h"
 #include "ui/idleguard.h"
 #include "ui/pictureview.h"
@@ -260,6 +261,9 @@ void MainWindow::createMenus()
     for (QAction *a : mn_Grafmodes)
         m_grafModesMenu->addAction(a);
 
+    auto *filterMenu = new FilterMenu(m_session, this);
+    menuBar()->addMenu(filterMenu);
+    connect(filterMenu, &FilterMenu::pictureChanged, this, &MainWindow::afterPaint);
     m_colourMenu = menuBar()->addMenu(QString());
     m_colourMenu->addAction(mn_LadePalette);
     m_colourMenu->addAction(mn_SystemPalette);

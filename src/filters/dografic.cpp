@@ -1,0 +1,83 @@
+#include "filters/dografic.h"
+
+#include "core/fault.h"
+#include "filters/filterrun.h"
+#include "filters/filtertable.h"
+#include "paint/session.h"
+#include "paint/transparency.h"
+
+namespace tf {
+
+namespace {
+
+// FilterBusy for the time of one call, and the progress bar of the main window unless the
+// filter dialog previews.
+class BusyScope {
+public:
+    explicit BusyScope(Session &s) : m_s(s)
+    {
+        FilterState &f = s.filters();
+        f.FilterBusy = true;
+        f.FilterPercent = 0;
+        f.FilterProgressOn = !f.dialogOpen;
+        if (f.FilterProgressOn) s.status().setProgress(0, 101);
+    }
+    ~BusyScope()
+    {
+        FilterState &f = m_s.filters();
+        if (f.FilterProgressOn) m_s.status().setProgress(0, 0);
+        f.FilterProgressOn = false;
+        f.FilterBusy = false;
+    }
+    BusyScope(const BusyScope &) = delete;
+    BusyScope &operator=(const BusyScope &) = delete;
+
+private:
+    Session &m_s;
+};
+
+} // namespace
+
+bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &args)
+{
+    if (s.filters().FilterBusy) return false;
+    BusyScope busy(s);
+    if (picture.width() < 1 || picture.height() < 1) return true;
+    const FilterRow *row = number >= 1 && number <= 54 ? findFilter(number) : nullptr;
+    if (!row || !row->kernel) return true;
+    return guarded(QStringLiteral("DoGraficFilters [%1]").arg(number), [&] {
+        // The arrays' size is checked as the workspace would size them.
+        checkedMul<int32_t>(checkedMul<int32_t>(picture.width(), 4), picture.height());
+        FilterWorkspace ws(picture, row->reads == Reads::Src);
+        FilterRun run(ws.D(), ws.S(), args, s);
+        row->kernel(run);
+        run.progress(100);
+        picture = ws.result();
+    });
+}
+
+bool DoGraficFilters2(Session &s, int selector, const QImage &first, QImage &second,
+                      double factor)
+{
+    if (s.filters().FilterBusy) return false;
+    BusyScope busy(s);
+    if (first.isNull() || second.isNull()) return true;
+    return guarded(QStringLiteral("DoGraficFilters2 [%1]").arg(selector), [&] {
+        QImage result = second.convertToFormat(QImage::Format_RGB32);
+        result.detach();
+        switch (selector) {
+        case 1:
+            blendOver(result, first.convertToFormat(QImage::Format_RGB32), factor);
+            break;
+        case 2:
+            result = first.convertToFormat(QImage::Format_RGB32)
+                         .scaled(second.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            break;
+        default:
+            return;
+        }
+        second = result;
+    });
+}
+
+} // namespace tf

@@ -1,0 +1,33 @@
+#pragma once
+// The numbered entry points of the filters.
+//
+// DoGraficFilters copies the picture into the filter workspace (FilterDst, and FilterSrc for
+// routines that read an unchanged copy), runs the routine of the number through the filter
+// table and writes the result back in one piece. A number without a routine (outside 1..54,
+// or one of a later part) changes nothing. A fault is reported as
+// "DoGraficFilters [<number>] [<description>]" and leaves the picture as it was, since the
+// result is written back only at the end. While a filter runs, FilterBusy refuses a second
+// call (one made from a yield of the first).
+
+#include "core/colour.h"
+#include "filters/filterargs.h"
+
+#include <QImage>
+
+namespace tf {
+
+class Session;
+
+// Runs filter `number` on `picture` (Format_RGB32) in place. Answers true when the picture
+// holds the filter's result, or is unchanged because the number has no routine; false when
+// the call was refused (busy) or a fault was reported.
+bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &args);
+
+// The two-picture entry: selector 1 blends `first` (the new paint) over `second` (the old
+// picture) with `factor` as the transparency bracket does, 2 scales `first` smoothly into
+// the size of `second`. The result is in `second`. Other selectors change nothing. Faults are
+// reported as "DoGraficFilters2 [<selector>] [<description>]".
+bool DoGraficFilters2(Session &s, int selector, const QImage &first, QImage &second,
+                      double factor);
+
+} // namespace tf

@@ -1,0 +1,114 @@
+#pragma once
+// The filter workspace and what a pixel filter is given.
+//
+// Layout, said once: the two arrays `FilterDst` (D, written back) and `FilterSrc` (S, an
+// unchanged copy of the input) hold the picture top-down, 4 bytes a pixel in the order blue,
+// green, red, unused; rows are `stride` bytes apart. Channel c of pixel (x, y) (0-based, c 0
+// blue, 1 green, 2 red) is row(y)[x * 4 + c]. A filter reads S or D as its row of the table
+// says (filtertable.h), writes D, and leaves the unused byte alone.
+//
+// Rows: `rows()` spreads a pure row loop over the threads the session allows, in slices, and
+// reports progress after each slice; the result does not depend on the thread count. Loops
+// that draw random numbers or read what they wrote themselves run row by row on the calling
+// thread and report through `rowDone()`.
+
+#include "core/numeric.h"
+#include "core/parallel.h"
+#include "filters/filterargs.h"
+
+#include <QImage>
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace tf {
+
+class Random;
+class Session;
+
+// A borrowed view of one array.
+struct PixelPlane {
+    uint8_t *data = nullptr;
+    int width = 0;
+    int height = 0;
+    qsizetype stride = 0;
+
+    uint8_t *row(int y) const { return data + y * stride; }
+};
+
+inline uint8_t clampByte(int v) { return uint8_t(v < 0 ? 0 : v > 255 ? 255 : v); }
+// The float-to-integer conversion of the numeric rules (half to even) for values that are
+// then clamped to a channel, so they cannot overflow.
+inline int roundInt(double v)
+{
+    return int(roundHalfEven(std::clamp(v, -1.0e9, 1.0e9)));
+}
+
+class FilterRun {
+public:
+    // D and S over the two arrays; S may be the same memory as D for filters that read D.
+    FilterRun(PixelPlane dst, PixelPlane src, const FilterArgs &args, Session &session);
+
+    PixelPlane D;
+    PixelPlane S;
+    const FilterArgs &args;
+    Random &random;
+    // The value at which the bar continues after a first pass.
+    int FilterStart = 0;
+
+    int width() const { return D.width; }
+    int height() const { return D.height; }
+    int threads() const;
+
+    // Copies D over S (a composite filter does so before each of its steps).
+    void copyDstToSrc();
+
+    // Runs body(first, last) over rows 0 .. height-1 (pure rows), the bar going from `start`
+    // to start + span.
+    template <typename Body> void rows(Body &&body, int start = 0, int span = 100)
+    {
+        const int h = height();
+        const int slices = std::min(h, 20);
+        for (int i = 0; i < slices; ++i) {
+            const int first = int(int64_t(h) * i / slices);
+            const int last = int(int64_t(h) * (i + 1) / slices);
+            parallelRows(last - first, width(), [&](int a, int b) { body(first + a, first + b); },
+                         1 << 15, threads());
+            progress(start + int(int64_t(last) * span / h));
+        }
+    }
+    // The bar after row y (0-based) of a row-by-row loop, going from `start` by `span`.
+    void rowDone(int y, int start = 0, int span = 100)
+    {
+        if ((y & 15) == 15 || y + 1 == height())
+            progress(start + int(int64_t(y + 1) * span / height()));
+    }
+    // FilterPercent, and the bar when it shows this filter.
+    void progress(int percent);
+    // Gives way between the passes of a two-pass filter.
+    void DoEvents();
+    // One step of a composite filter: S takes a full copy of D, then `kernel` runs with
+    // `argument` on the same arrays.
+    void step(void (*kernel)(FilterRun &), int32_t argument);
+
+private:
+    Session &m_session;
+};
+
+// The filter workspace of one run: D takes a copy of the picture, S another when the filter
+// reads an unchanged copy.
+class FilterWorkspace {
+public:
+    FilterWorkspace(const QImage &picture, bool needSource);
+    PixelPlane D() { return plane(m_dst); }
+    PixelPlane S() { return m_src.isNull() ? plane(m_dst) : plane(m_src); }
+    // The result, ready to be written back.
+    const QImage &result() const { return m_dst; }
+
+private:
+    static PixelPlane plane(QImage &image);
+    QImage m_dst;
+    QImage m_src;
+};
+
+} // namespace tf

@@ -1,0 +1,177 @@
+// The six conversions to black and white. Every pixel becomes pure black or pure white in all
+// three channels. The error diffusions run row by row, since each row takes the error of the
+// one before.
+#include "filters/kernels.h"
+
+#include "filters/filterrun.h"
+
+#include <array>
+#include <vector>
+
+namespace tf {
+
+namespace {
+
+inline void setBW(uint8_t *p, bool white)
+{
+    const uint8_t v = white ? 255 : 0;
+    p[0] = p[1] = p[2] = v;
+}
+
+// The average grey of a pixel: FilterLUT(b+g+r) = (b+g+r)\3.
+inline int grey(const uint8_t *p)
+{
+    return (p[0] + p[1] + p[2]) / 3;
+}
+
+// The mean of the average greys over the picture, as an integer quotient.
+int meanGrey(FilterRun &run, int start, int span)
+{
+    const int w = run.width(), h = run.height();
+    std::vector<int64_t> perRow(static_cast<size_t>(h));
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y) {
+            const uint8_t *in = run.S.row(y);
+            int64_t s = 0;
+            for (int x = 0; x < w * 4; x += 4)
+                s += grey(in + x);
+            perRow[size_t(y)] = s;
+        }
+    }, start, span);
+    int64_t sum = 0;
+    for (int64_t s : perRow)
+        sum += s;
+    return int(sum / (int64_t(w) * h));
+}
+
+// One neighbour of an error-diffusion matrix: offset in columns and rows, and the weight.
+struct Share {
+    int dx, dy, weight;
+};
+
+// The published matrices: the weights right of the pixel and in the rows below.
+constexpr Share FloydSteinberg[] = {{1, 0, 7}, {-1, 1, 3}, {0, 1, 5}, {1, 1, 1}};
+constexpr Share Burkes[] = {{1, 0, 8}, {2, 0, 4}, {-2, 1, 2}, {-1, 1, 4}, {0, 1, 8},
+                            {1, 1, 4}, {2, 1, 2}};
+constexpr Share Stucki[] = {{1, 0, 8}, {2, 0, 4}, {-2, 1, 2}, {-1, 1, 4}, {0, 1, 8},
+                            {1, 1, 4}, {2, 1, 2}, {-2, 2, 1}, {-1, 2, 2}, {0, 2, 4},
+                            {1, 2, 2}, {2, 2, 1}};
+
+template <size_t N> void diffuseError(FilterRun &run, const Share (&matrix)[N], int divisor)
+{
+    const int w = run.width(), h = run.height();
+    // The share of every error value for each weight, once: no division in the inner loop.
+    // The division truncates towards zero.
+    std::array<std::array<int, 511>, N> shares{};
+    for (size_t k = 0; k < N; ++k)
+        for (int e = -255; e <= 255; ++e)
+            shares[k][size_t(e + 255)] = e * matrix[k].weight / divisor;
+    run.FilterStart = 2;
+    run.progress(2);
+    const int m = meanGrey(run, 2, 8);
+    run.FilterStart = 10;
+    // Error rows: this row and one (Stucki two) below, with a margin of two on each side.
+    constexpr int margin = 2;
+    const int rowsBelow = matrix[N - 1].dy;
+    std::vector<std::vector<int>> err(size_t(rowsBelow + 1), std::vector<int>(size_t(w + 2 * margin)));
+    for (int y = 0; y < h; ++y) {
+        const uint8_t *in = run.S.row(y);
+        uint8_t *out = run.D.row(y);
+        for (int x = 0; x < w; ++x) {
+            const int v = std::clamp(grey(in + x * 4) + err[0][size_t(x + margin)], 0, 255);
+            const int output = v < m ? 0 : 255;
+            setBW(out + x * 4, output == 255);
+            const int e = v - output;
+            for (size_t k = 0; k < N; ++k)
+                err[size_t(matrix[k].dy)][size_t(x + margin + matrix[k].dx)] +=
+                    shares[k][size_t(e + 255)];
+        }
+        // The error rows move up by one and the last is cleared.
+        for (int r = 0; r < rowsBelow; ++r)
+            err[size_t(r)].swap(err[size_t(r + 1)]);
+        std::fill(err[size_t(rowsBelow)].begin(), err[size_t(rowsBelow)].end(), 0);
+        run.rowDone(y, 10, 90);
+    }
+}
+
+} // namespace
+
+void filterBWValue(FilterRun &run)
+{
+    const ColorLong k = run.args.argument;
+    const int kr = RedOf(k), kg = GreenOf(k), kb = BlueOf(k);
+    const int w = run.width();
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y) {
+            const uint8_t *in = run.S.row(y);
+            uint8_t *out = run.D.row(y);
+            for (int x = 0; x < w * 4; x += 4)
+                setBW(out + x, in[x + 2] >= kr || in[x + 1] >= kg || in[x] >= kb);
+        }
+    });
+}
+
+// Diffusion: the border pixels are thresholded by their own grey, the inner ones by the mean
+// of the centre (weighted 8) and its eight neighbours (weighted 1 each), which lifts thin
+// lines over the threshold.
+void filterBWDiffusion(FilterRun &run)
+{
+    const int w = run.width(), h = run.height();
+    const int m = meanGrey(run, 0, 10);
+    run.FilterStart = 10;
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y) {
+            const uint8_t *in = run.S.row(y);
+            uint8_t *out = run.D.row(y);
+            for (int x = 0; x < w; ++x) {
+                int g = grey(in + x * 4);
+                if (x >= 1 && y >= 1 && x < w - 1 && y < h - 1) {
+                    const uint8_t *up = run.S.row(y - 1), *dn = run.S.row(y + 1);
+                    int n = 0;
+                    for (int dx = -1; dx <= 1; ++dx) {
+                        n += grey(up + (x + dx) * 4) + grey(dn + (x + dx) * 4);
+                        if (dx != 0) n += grey(in + (x + dx) * 4);
+                    }
+                    g = (n + 8 * g) / 16;
+                }
+                setBW(out + x * 4, g >= m);
+            }
+        }
+    }, 10, 90);
+}
+
+void filterBWRaster(FilterRun &run)
+{
+    static constexpr int M[4][4] = {{1, 13, 4, 16}, {9, 5, 12, 8}, {3, 15, 2, 14}, {11, 7, 10, 6}};
+    int threshold[4][4];
+    for (int a = 0; a < 4; ++a)
+        for (int b = 0; b < 4; ++b)
+            threshold[a][b] = M[a][b] * 255 / 16 + 1;
+    const int w = run.width();
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y) {
+            const uint8_t *in = run.S.row(y);
+            uint8_t *out = run.D.row(y);
+            const int *t = threshold[y % 4];
+            for (int x = 0; x < w; ++x)
+                setBW(out + x * 4, grey(in + x * 4) >= t[x % 4]);
+        }
+    });
+}
+
+void filterFloydSteinberg(FilterRun &run)
+{
+    diffuseError(run, FloydSteinberg, 16);
+}
+
+void filterBurke(FilterRun &run)
+{
+    diffuseError(run, Burkes, 32);
+}
+
+void filterStucki(FilterRun &run)
+{
+    diffuseError(run, Stucki, 42);
+}
+
+} // namespace tf

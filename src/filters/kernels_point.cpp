@@ -1,0 +1,391 @@
+// The filters that map channel values: through a table of 256 entries per channel where the
+// result depends on the value alone, so no pixel repeats a multiplication or a power.
+#include "filters/kernels.h"
+
+#include "filters/filterrun.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <memory>
+#include <vector>
+
+namespace tf {
+
+namespace {
+
+using Table = std::array<uint8_t, 256>;
+
+int channelOf(ColorLong colour, int c)
+{
+    return c == 0 ? BlueOf(colour) : c == 1 ? GreenOf(colour) : RedOf(colour);
+}
+
+// D takes, for every pixel, the table of each channel (blue, green, red) applied to S. The
+// tables are widened to whole pixels (each value shifted to its byte, the unused byte set in
+// the red one), so a pixel costs three loads and two ors.
+void applyTables(FilterRun &run, const Table &b, const Table &g, const Table &r, int start = 0,
+                 int span = 100)
+{
+    std::array<uint32_t, 256> wb{}, wg{}, wr{};
+    for (size_t i = 0; i < 256; ++i) {
+        wb[i] = b[i];
+        wg[i] = uint32_t(g[i]) << 8;
+        wr[i] = uint32_t(r[i]) << 16 | 0xFF000000u;
+    }
+    const int w = run.width();
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y) {
+            const auto *in = reinterpret_cast<const uint32_t *>(run.S.row(y));
+            auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
+            for (int x = 0; x < w; ++x) {
+                const uint32_t p = in[x];
+                out[x] = wb[p & 255] | wg[(p >> 8) & 255] | wr[(p >> 16) & 255];
+            }
+        }
+    }, start, span);
+}
+
+void applyTable(FilterRun &run, const Table &t)
+{
+    applyTables(run, t, t, t);
+}
+
+template <typename Fn> Table tableOf(Fn fn)
+{
+    Table t{};
+    for (int i = 0; i < 256; ++i)
+        t[size_t(i)] = clampByte(fn(i));
+    return t;
+}
+
+// FilterLUT: index b+g+r gives the average (b+g+r)\3.
+std::array<uint8_t, 766> averageTable()
+{
+    std::array<uint8_t, 766> lut{};
+    for (int i = 0; i < 766; ++i)
+        lut[size_t(i)] = uint8_t(i / 3);
+    return lut;
+}
+
+// The sum of the average greys of all pixels of S, with the bar going from 0 to `span`.
+int64_t sumOfGreys(FilterRun &run, const std::array<uint8_t, 766> &lut, int span)
+{
+    const int w = run.width(), h = run.height();
+    std::vector<int64_t> perRow(size_t(h), 0);
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y) {
+            const uint8_t *in = run.S.row(y);
+            int64_t sum = 0;
+            for (int x = 0; x < w * 4; x += 4)
+                sum += lut[size_t(in[x] + in[x + 1] + in[x + 2])];
+            perRow[size_t(y)] = sum;
+        }
+    }, 0, span);
+    int64_t sum = 0;
+    for (int64_t s : perRow)
+        sum += s;
+    return sum;
+}
+
+} // namespace
+
+void filterNegative(FilterRun &run)
+{
+    applyTable(run, tableOf([](int v) { return 255 - v; }));
+}
+
+void filterGreyScale(FilterRun &run)
+{
+    const auto lut = averageTable();
+    const int w = run.width();
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y) {
+            const uint8_t *in = run.S.row(y);
+            uint8_t *out = run.D.row(y);
+            for (int x = 0; x < w * 4; x += 4) {
+                const uint8_t g = lut[size_t(in[x] + in[x + 1] + in[x + 2])];
+                out[x] = out[x + 1] = out[x + 2] = g;
+            }
+        }
+    });
+}
+
+void filterBrightness(FilterRun &run)
+{
+    const double f = (run.args.argument + 100) / 100.0;
+    applyTable(run, tableOf([f](int i) { return roundInt(f * i); }));
+}
+
+void filterMosaic(FilterRun &run)
+{
+    const int a = run.args.argument;
+    if (a == 0) throw Fault(Fault::DivisionByZero);
+    if (a < 0) throw Fault(Fault::InvalidCall);
+    const int w = run.width(), h = run.height();
+    const int blockRows = (h + a - 1) / a;
+    // Every pixel of a block takes the block's mean, counted over its cells inside the picture.
+    parallelRows(blockRows, int64_t(w) * a, [&](int first, int last) {
+        for (int by = first; by < last; ++by) {
+            const int y0 = by * a, y1 = std::min(h, y0 + a);
+            for (int x0 = 0; x0 < w; x0 += a) {
+                const int x1 = std::min(w, x0 + a);
+                int64_t sum[3] = {0, 0, 0};
+                for (int y = y0; y < y1; ++y) {
+                    const uint8_t *in = run.S.row(y);
+                    for (int x = x0; x < x1; ++x)
+                        for (int c = 0; c < 3; ++c)
+                            sum[c] += in[x * 4 + c];
+                }
+                const int64_t count = int64_t(y1 - y0) * (x1 - x0);
+                uint8_t mean[3];
+                for (int c = 0; c < 3; ++c)
+                    mean[c] = uint8_t(sum[c] / count);
+                for (int y = y0; y < y1; ++y) {
+                    uint8_t *out = run.D.row(y);
+                    for (int x = x0; x < x1; ++x)
+                        for (int c = 0; c < 3; ++c)
+                            out[x * 4 + c] = mean[c];
+                }
+            }
+        }
+    }, 1 << 15, run.threads());
+    run.progress(100);
+}
+
+void filterSwapBank(FilterRun &run)
+{
+    // For each entry, the source of the output red, green and blue (0 red, 1 green, 2 blue).
+    static constexpr int from[6][3] = {
+        {0, 1, 2}, // any other argument: the pixel stays
+        {2, 0, 1}, // 1 RGB --> BRG
+        {1, 2, 0}, // 2 RGB --> GBR
+        {0, 2, 1}, // 3 RGB --> RBG
+        {2, 1, 0}, // 4 RGB --> BGR
+        {1, 0, 2}, // 5 RGB --> GRB
+    };
+    const int a = run.args.argument;
+    const int *f = from[a >= 1 && a <= 5 ? a : 0];
+    // Byte of a channel index: red 2, green 1, blue 0.
+    const int rByte = 2 - f[0], gByte = 2 - f[1], bByte = 2 - f[2];
+    const int w = run.width();
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y) {
+            const uint8_t *in = run.S.row(y);
+            uint8_t *out = run.D.row(y);
+            for (int x = 0; x < w * 4; x += 4) {
+                const uint8_t b = in[x + bByte], g = in[x + gByte], r = in[x + rByte];
+                out[x] = b;
+                out[x + 1] = g;
+                out[x + 2] = r;
+            }
+        }
+    });
+}
+
+void filterContrast(FilterRun &run)
+{
+    const auto lut = averageTable();
+    const int w = run.width(), h = run.height();
+    // First pass: the mean grey, counting 5 of the bar.
+    const int64_t sum = sumOfGreys(run, lut, 5);
+    const int m = int(roundHalfEven(double(sum) / (double(w) * h)));
+    run.FilterStart = 5;
+    run.DoEvents();
+    const double f = (run.args.argument + 100) / 100.0;
+    std::array<int, 256> t{};
+    for (int i = 0; i < 256; ++i)
+        t[size_t(i)] = roundInt(f * (i - m) + m);
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y) {
+            const uint8_t *in = run.S.row(y);
+            uint8_t *out = run.D.row(y);
+            for (int x = 0; x < w * 4; x += 4) {
+                int v[3] = {t[in[x]], t[in[x + 1]], t[in[x + 2]]}; // blue, green, red
+                const auto inRange = [](int c) { return c >= 0 && c <= 255; };
+                if (!(inRange(v[0]) && inRange(v[1]) && inRange(v[2]))) {
+                    const bool allLow = v[0] < 0 && v[1] < 0 && v[2] < 0;
+                    const bool allHigh = v[0] > 255 && v[1] > 255 && v[2] > 255;
+                    if (!allLow && !allHigh) {
+                        // The overflow of the first channel out of range goes half to each
+                        // of the other two, which keeps the hue of over-driven pixels.
+                        const int c = !inRange(v[0]) ? 0 : !inRange(v[1]) ? 1 : 2;
+                        const int share = v[c] < 0 ? v[c] / 2 : (v[c] - 255) / 2;
+                        v[c] = v[c] < 0 ? 0 : 255;
+                        for (int o = 0; o < 3; ++o)
+                            if (o != c) v[o] += share;
+                    }
+                }
+                out[x] = clampByte(v[0]);
+                out[x + 1] = clampByte(v[1]);
+                out[x + 2] = clampByte(v[2]);
+            }
+        }
+    }, 5, 95);
+}
+
+void filterStretch(FilterRun &run)
+{
+    const int w = run.width(), h = run.height();
+    // First pass: the smallest and largest value of each channel, counting 10 of the bar.
+    std::vector<std::array<uint8_t, 6>> perRow(static_cast<size_t>(h));
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y) {
+            std::array<uint8_t, 6> r{255, 255, 255, 0, 0, 0};
+            const uint8_t *in = run.S.row(y);
+            for (int x = 0; x < w * 4; x += 4)
+                for (int c = 0; c < 3; ++c) {
+                    r[size_t(c)] = std::min(r[size_t(c)], in[x + c]);
+                    r[size_t(c) + 3] = std::max(r[size_t(c) + 3], in[x + c]);
+                }
+            perRow[size_t(y)] = r;
+        }
+    }, 0, 10);
+    std::array<int, 3> lo{255, 255, 255}, hi{0, 0, 0};
+    for (const auto &r : perRow)
+        for (size_t c = 0; c < 3; ++c) {
+            lo[c] = std::min<int>(lo[c], r[c]);
+            hi[c] = std::max<int>(hi[c], r[c + 3]);
+        }
+    run.FilterStart = 10;
+    run.DoEvents();
+    std::array<Table, 3> t{};
+    for (size_t c = 0; c < 3; ++c)
+        for (int v = 0; v < 256; ++v)
+            t[c][size_t(v)] = clampByte(
+                roundInt(checkedDiv(double(v - lo[c]) * 255.0, double(hi[c] - lo[c]))));
+    applyTables(run, t[0], t[1], t[2], 10, 90);
+}
+
+void filterSaturation(FilterRun &run)
+{
+    const auto lut = averageTable();
+    const double f = run.args.argument / 100.0;
+    // One row of 256 results for each grey mean m.
+    auto table = std::make_unique<std::array<Table, 256>>();
+    for (int m = 0; m < 256; ++m)
+        (*table)[size_t(m)] = tableOf([m, f](int v) { return roundInt(m + f * (v - m)); });
+    const int w = run.width();
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y) {
+            const uint8_t *in = run.S.row(y);
+            uint8_t *out = run.D.row(y);
+            for (int x = 0; x < w * 4; x += 4) {
+                const Table &t = (*table)[lut[size_t(in[x] + in[x + 1] + in[x + 2])]];
+                out[x] = t[in[x]];
+                out[x + 1] = t[in[x + 1]];
+                out[x + 2] = t[in[x + 2]];
+            }
+        }
+    });
+}
+
+// The power depends on the channel value alone: the table holds exactly what the power of
+// each pixel would give.
+void filterGamma(FilterRun &run)
+{
+    const double g = run.args.argument / 100.0;
+    const double e = checkedDiv(1.0, g);
+    applyTable(run, tableOf([e](int v) { return roundInt(255.0 * std::pow(v / 255.0, e)); }));
+}
+
+void filterDuotone(FilterRun &run)
+{
+    const ColorLong k = run.args.argument;
+    std::array<Table, 3> t{};
+    for (int c = 0; c < 3; ++c)
+        t[size_t(c)] = tableOf([&](int v) { return v & channelOf(k, c); });
+    applyTables(run, t[0], t[1], t[2]);
+}
+
+void filterEqualize(FilterRun &run)
+{
+    const int w = run.width(), h = run.height();
+    // The luminance of every combination would be a table of 16 M entries; the three
+    // products are tables of their own and the sum is rounded as the formula rounds it.
+    std::array<double, 256> lr{}, lg{}, lb{};
+    for (int i = 0; i < 256; ++i) {
+        lr[size_t(i)] = 0.301 * i;
+        lg[size_t(i)] = 0.586 * i;
+        lb[size_t(i)] = 0.113 * i;
+    }
+    std::vector<std::array<int64_t, 256>> bands(static_cast<size_t>(h));
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y) {
+            auto &hist = bands[size_t(y)];
+            hist.fill(0);
+            const uint8_t *in = run.S.row(y);
+            for (int x = 0; x < w * 4; x += 4) {
+                const int l = roundInt(lr[in[x + 2]] + lg[in[x + 1]] + lb[in[x]]);
+                ++hist[size_t(std::clamp(l, 0, 255))];
+            }
+        }
+    });
+    std::array<int64_t, 256> hist{};
+    for (const auto &b : bands)
+        for (size_t i = 0; i < 256; ++i)
+            hist[i] += b[i];
+    const int64_t half = (int64_t(w) * h + 1) / 2;
+    int64_t running = 0;
+    int m = 0;
+    for (; m < 256; ++m) {
+        running += hist[size_t(m)];
+        if (running > half) break;
+    }
+    if (m > 255) m = 255;
+    else if (hist[size_t(m)] / 2 <= running - half) --m;
+    if (m == 1 || m == 255) {
+        run.progress(100);
+        return;
+    }
+    const double k1 = 127.0 / (m - 1), k2 = 127.0 / (255 - m);
+    applyTable(run, tableOf([&](int v) { return v < m ? roundInt(v * k1) : roundInt((v - m) * k2 + 128); }));
+}
+
+void filterReduceColor(FilterRun &run)
+{
+    const int s = run.args.argument + 1;
+    if (s == 0) throw Fault(Fault::DivisionByZero);
+    applyTable(run, tableOf([s](int i) { return std::min(255, roundInt(double(i) / s) * s); }));
+}
+
+void filterChannelMixer(FilterRun &run)
+{
+    const FilterArgs &a = run.args;
+    // Output channel o (0 red, 1 green, 2 blue) lies in byte 2 - o.
+    int srcByte[3];
+    Table t[3];
+    for (int o = 0; o < 3; ++o) {
+        srcByte[o] = 2 - std::clamp(a.mixSource[size_t(o)], 0, 2);
+        const bool kill = a.kill[size_t(o)], invert = a.invert[size_t(o)];
+        t[o] = tableOf([&](int v) { return kill ? 0 : invert ? 255 - v : v; });
+    }
+    const int w = run.width();
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y) {
+            const uint8_t *in = run.S.row(y);
+            uint8_t *out = run.D.row(y);
+            for (int x = 0; x < w * 4; x += 4) {
+                const uint8_t r = t[0][in[x + srcByte[0]]], g = t[1][in[x + srcByte[1]]],
+                              b = t[2][in[x + srcByte[2]]];
+                out[x] = b;
+                out[x + 1] = g;
+                out[x + 2] = r;
+            }
+        }
+    });
+}
+
+void filterShiftRGB(FilterRun &run)
+{
+    const auto &s = run.args.sliders; // red, green, blue offsets
+    applyTables(run, tableOf([&](int i) { return i + s[2]; }),
+                tableOf([&](int i) { return i + s[1]; }), tableOf([&](int i) { return i + s[0]; }));
+}
+
+void filterWebColors(FilterRun &run)
+{
+    applyTable(run, tableOf([](int v) { return (v + 25) / 51 * 51; }));
+}
+
+} // namespace tf
