@@ -17,7 +17,7 @@ public:
     explicit BusyScope(Session &s) : m_s(s)
     {
         FilterState &f = s.filters();
-        f.FilterBusy = true;
+        s.runState().setFiltering(true);
         f.FilterPercent = 0;
         f.FilterProgressOn = !f.dialogOpen;
         if (f.FilterProgressOn) s.status().setProgress(0, 101);
@@ -27,7 +27,7 @@ public:
         FilterState &f = m_s.filters();
         if (f.FilterProgressOn) m_s.status().setProgress(0, 0);
         f.FilterProgressOn = false;
-        f.FilterBusy = false;
+        m_s.runState().setFiltering(false);
     }
     BusyScope(const BusyScope &) = delete;
     BusyScope &operator=(const BusyScope &) = delete;
@@ -40,7 +40,7 @@ private:
 
 bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &args)
 {
-    if (s.filters().FilterBusy) return false;
+    if (s.runState().filtering()) return false;
     BusyScope busy(s);
     if (picture.width() < 1 || picture.height() < 1) return true;
     const FilterRow *row = number >= 1 && number <= 54 ? findFilter(number) : nullptr;
@@ -59,7 +59,7 @@ bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &
 bool DoGraficFilters2(Session &s, int selector, const QImage &first, QImage &second,
                       double factor)
 {
-    if (s.filters().FilterBusy) return false;
+    if (s.runState().filtering()) return false;
     BusyScope busy(s);
     if (first.isNull() || second.isNull()) return true;
     return guarded(QStringLiteral("DoGraficFilters2 [%1]").arg(selector), [&] {

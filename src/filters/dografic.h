@@ -5,7 +5,7 @@
 // routines that read an unchanged copy), runs the routine of the number through the filter
 // table and writes the result back in one piece. A number without a routine (outside 1..54,
 // or one of a later part) changes nothing. A fault is reported as
-// "DoGraficFilters [<number>] [<description>]" and leaves the picture as it was, since the
+// "DoGraficFilters [<number>]  [<description>]" and leaves the picture as it was, since the
 // result is written back only at the end. While a filter runs, FilterBusy refuses a second
 // call (one made from a yield of the first).
 
@@ -26,7 +26,7 @@ bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &
 // The two-picture entry: selector 1 blends `first` (the new paint) over `second` (the old
 // picture) with `factor` as the transparency bracket does, 2 scales `first` smoothly into
 // the size of `second`. The result is in `second`. Other selectors change nothing. Faults are
-// reported as "DoGraficFilters2 [<selector>] [<description>]".
+// reported as "DoGraficFilters2 [<selector>]  [<description>]".
 bool DoGraficFilters2(Session &s, int selector, const QImage &first, QImage &second,
                       double factor);
 

@@ -18,7 +18,7 @@ namespace {
 // The "fixed" panel of the status bar after a filter changed the picture.
 void setFixStatus(Session &s, bool fixed)
 {
-    if (s.paint().hooks.Set_Fixstatus) s.paint().hooks.Set_Fixstatus(fixed);
+    s.fixings().Set_Fixstatus(fixed);
 }
 
 // Takes the undo image of the target; a cut-out selection draws into its persistent image.

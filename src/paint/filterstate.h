@@ -1,6 +1,6 @@
 #pragma once
-// What the filters keep between runs in a session: the re-entry guard, the progress of the
-// last run and how the work is spread over threads.
+// What the filters keep between runs in a session: the progress of the last run and how the
+// work is spread over threads. FilterBusy, the re-entry guard, is the session's RunState.
 
 #include <cstdint>
 
@@ -9,8 +9,6 @@ namespace tf {
 struct FilterState {
     // The filter number last chosen by a menu entry; the filter dialog reads it when it opens.
     int FilterG = 0;
-    // True while a filter runs; a second call during its yields returns at once.
-    bool FilterBusy = false;
     // True while the main window's progress bar shows the running filter (not while the
     // filter dialog previews).
     bool FilterProgressOn = false;

@@ -6,6 +6,7 @@
 #include "paint/session.h"
 #include "ui/colourisedialog.h"
 #include "ui/gammadialog.h"
+#include "ui/idleguard.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -73,7 +74,7 @@ QAction *FilterMenu::entryAction(const QString &control, int index) const
 
 void FilterMenu::run(const FilterRow &row, const FilterMenuEntry &entry)
 {
-    if (m_session.filters().FilterBusy || m_session.paint().running) return;
+    if (isBusy(m_session)) return;
     QApplication::setOverrideCursor(Qt::WaitCursor);
     if (entry.run == RunMode::Dialog) {
         QApplication::restoreOverrideCursor();

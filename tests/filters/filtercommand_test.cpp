@@ -115,7 +115,7 @@ TEST_F(FilterCommands, TheDialogPreviewsAppliesAndCancelsExactly)
 
 TEST_F(FilterCommands, ABusyFilterRefusesASecondCall)
 {
-    s.filters().FilterBusy = true;
+    s.runState().setFiltering(true);
     QImage img = start;
     EXPECT_FALSE(DoGraficFilters(s, 2, img, {}));
     EXPECT_EQ(img, start);

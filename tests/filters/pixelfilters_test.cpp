@@ -223,8 +223,8 @@ TEST_F(PixelFilters, AFaultLeavesThePictureAndNamesTheNumber)
     QImage out = img;
     EXPECT_FALSE(DoGraficFilters(s, 28, out, {}));
     EXPECT_EQ(out, img);
-    EXPECT_EQ(prompter.lastText(), QStringLiteral("DoGraficFilters [28] [Division by zero]"));
-    EXPECT_FALSE(s.filters().FilterBusy);
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("DoGraficFilters [28]  [Division by zero]"));
+    EXPECT_FALSE(s.runState().filtering());
 }
 
 TEST_F(PixelFilters, StretchSpreadsEachChannelOverTheWholeRange)
