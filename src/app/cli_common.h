@@ -74,5 +74,6 @@ public:
 int runTypes(const QStringList &args);
 int runControls(const QStringList &args);
 int runPaint(const QStringList &args);
+int runRecipe(const QStringList &args);
 
 } // namespace tf::cli
