@@ -22,6 +22,10 @@ enum class PictureKind { Unknown, Png, Jpeg, Bmp, Gif };
 
 struct DecodeRequest {
     bool reduce = true; // bring a picture above BildMaxPixels into the BildMaxSide box
+    // A preview: any picture larger than `box` is brought into it, and a large picture is
+    // never decoded whole (JPEG at its smallest DCT scale, PNG row by row, keeping every n-th).
+    bool preview = false;
+    QSize box{1600, 1600};
 };
 
 struct Decoded {

@@ -166,6 +166,7 @@ int decodeJpegRows(ErrorState &err, const unsigned char *data, unsigned long siz
     const QSize stored(st.storedW, st.storedH);
     const QSize target = loadedSize(stored, request);
     if (target != stored) {
+        // The smallest DCT scale that stays at or above the target.
         cinfo.scale_num = 1;
         cinfo.scale_denom = unsigned(jpegScaleFor(stored, target));
         st.scaled = cinfo.scale_denom > 1;

@@ -14,7 +14,9 @@
 
 namespace tf {
 
-LoadResult LoadImage(const QString &file, LoadLimit limit)
+namespace {
+
+LoadResult loadWith(const QString &file, const DecodeRequest &request)
 {
     LoadResult r;
     QFile f(file);
@@ -22,8 +24,6 @@ LoadResult LoadImage(const QString &file, LoadLimit limit)
         return r;
     // The whole file at once: a decoder reads its header before it allocates the picture.
     const QByteArray bytes = f.readAll();
-    DecodeRequest request;
-    request.reduce = limit == LoadLimit::Box;
     Decoded d = decodePicture(bytes, request);
     r.stored = d.stored;
     if (!d.ok()) {
@@ -34,6 +34,23 @@ LoadResult LoadImage(const QString &file, LoadLimit limit)
     r.status = LoadResult::Status::Loaded;
     r.image = std::move(d.image);
     return r;
+}
+
+} // namespace
+
+LoadResult LoadImage(const QString &file, LoadLimit limit)
+{
+    DecodeRequest request;
+    request.reduce = limit == LoadLimit::Box;
+    return loadWith(file, request);
+}
+
+LoadResult loadPreview(const QString &file, QSize box)
+{
+    DecodeRequest request;
+    request.preview = true;
+    request.box = box;
+    return loadWith(file, request);
 }
 
 QString corruptPictureText(bool seeStatusBar)

@@ -32,6 +32,10 @@ struct LoadResult {
 // Decodes `file`. A file that is not there answers Missing (the callers end silently).
 LoadResult LoadImage(const QString &file, LoadLimit limit = LoadLimit::Box);
 
+// A preview of `file` fitted into `box`, decoded reduced where the format allows (decode.h);
+// `stored` in the result is the picture's own size.
+LoadResult loadPreview(const QString &file, QSize box);
+
 // "Fehlerhaftes Bild" / "Corrupt image"; with the detail in the status bar,
 // "Fehlerhaftes Bild - Siehe Statusbar!" / "Corrupt image - See Statusbar!".
 QString corruptPictureText(bool seeStatusBar = false);

@@ -6,8 +6,10 @@
 
 #include <QFile>
 #include <QIODevice>
+#include <QtEndian>
 #include <png.h>
 
+#include <algorithm>
 #include <csetjmp>
 #include <cstring>
 #include <vector>
@@ -56,12 +58,14 @@ void onReadError(png_structp png, png_const_charp message)
 
 void onWarning(png_structp, png_const_charp) {}
 
-enum class RowLayout { Bgrx32, Bgr24 };
+enum class RowLayout { Bgrx32, Bgr24, Sampled };
 
 // Where the decoded rows go: set up once the size is known, inside the guarded region.
 struct RowTarget {
     RowLayout layout = RowLayout::Bgrx32;
-    QImage *image = nullptr;           // Bgrx32: top-down
+    QImage *image = nullptr;           // Bgrx32 and Sampled: top-down
+    int step = 1;                      // Sampled: every step-th row and column is kept
+    std::vector<png_byte> *row = nullptr; // Sampled: the row being read
     cDIBSection *dib = nullptr;        // Bgr24: bottom-up
     std::vector<png_bytep> *rows = nullptr;
     qint64 fileBytes = 0;
@@ -73,6 +77,12 @@ bool prepareRows(RowTarget &t, int w, int h)
 {
     try {
         t.rows->resize(size_t(h));
+        if (t.layout == RowLayout::Sampled) {
+            *t.image = QImage((w + t.step - 1) / t.step, (h + t.step - 1) / t.step,
+                              QImage::Format_RGB32);
+            t.row->resize(size_t(w) * 4);
+            return !t.image->isNull();
+        }
         if (t.layout == RowLayout::Bgrx32) {
             *t.image = QImage(w, h, QImage::Format_RGB32);
             if (t.image->isNull())
@@ -132,16 +142,32 @@ int decodeRows(ReadState &state, RowTarget &target, int &declaredW, int &declare
     png_set_gray_to_rgb(png);
     png_set_packing(png);
     png_set_bgr(png);
-    if (target.layout == RowLayout::Bgrx32)
+    if (target.layout != RowLayout::Bgr24)
         png_set_filler(png, 0xFF, PNG_FILLER_AFTER);
-    png_set_interlace_handling(png);
+    if (png_set_interlace_handling(png) > 1 && target.layout == RowLayout::Sampled) {
+        // Interlaced rows come in passes over the whole picture: a preview is not made of them.
+        result = 4;
+        png_error(png, "an interlaced picture has no preview");
+    }
     png_read_update_info(png, info);
 
     if (!prepareRows(target, int(w), int(h))) {
         result = 3;
         png_error(png, "no memory for the picture");
     }
-    png_read_image(png, target.rows->data());
+    if (target.layout == RowLayout::Sampled) {
+        for (png_uint_32 y = 0; y < h; ++y) {
+            png_read_row(png, target.row->data(), nullptr);
+            if (y % png_uint_32(target.step) != 0)
+                continue;
+            auto *out = reinterpret_cast<uint32_t *>(target.image->scanLine(int(y) / target.step));
+            const auto *in = reinterpret_cast<const uint32_t *>(target.row->data());
+            for (int x = 0; x < target.image->width(); ++x)
+                out[x] = in[size_t(x) * size_t(target.step)];
+        }
+    } else {
+        png_read_image(png, target.rows->data());
+    }
     state.rowsDone = true;
     png_read_end(png, nullptr);
     png_destroy_read_struct(&png, &info, nullptr);
@@ -197,9 +223,12 @@ bool pngSize(QByteArrayView bytes, int &width, int &height)
         png_sig_cmp(reinterpret_cast<png_const_bytep>(bytes.data()), 0, SignatureBytes) != 0 ||
         std::memcmp(bytes.data() + 12, "IHDR", 4) != 0)
         return false;
-    const auto *p = reinterpret_cast<const unsigned char *>(bytes.data()) + 16;
-    width = int(png_get_uint_31(nullptr, p) & 0x7FFFFFFF);
-    height = int(png_get_uint_31(nullptr, p + 4) & 0x7FFFFFFF);
+    // Read here, not by png_get_uint_31: without a read struct that one aborts the program on a
+    // value above 2^31 - 1.
+    const auto w = qFromBigEndian<quint32>(bytes.data() + 16);
+    const auto h = qFromBigEndian<quint32>(bytes.data() + 20);
+    width = w > 0x7FFFFFFFu ? -1 : int(w);
+    height = h > 0x7FFFFFFFu ? -1 : int(h);
     return true;
 }
 
@@ -257,6 +286,22 @@ Decoded decodePng(QByteArrayView bytes, const DecodeRequest &request)
     Decoded d;
     d.stored = stored;
     const QSize size = loadedSize(stored, request);
+    if (request.preview && size != stored) {
+        // Every n-th row and column, n the most that keeps the picture above the box.
+        std::vector<png_bytep> rows;
+        std::vector<png_byte> row;
+        RowTarget t;
+        t.layout = RowLayout::Sampled;
+        t.step = std::max(1, std::min(w / std::max(1, size.width()), h / std::max(1, size.height())));
+        QImage sampled;
+        t.image = &sampled;
+        t.rows = &rows;
+        t.row = &row;
+        t.why = &d.detail;
+        if (decodeInto(bytes, t))
+            d.image = resampledImage(sampled, size);
+        return d;
+    }
     if (size == stored) {
         pngReadImage(bytes, d.image, &d.detail);
         return d;
@@ -279,13 +324,13 @@ PictureMeta readPngMeta(QByteArrayView bytes)
     size_t pos = SignatureBytes;
     const size_t end = size_t(bytes.size());
     while (end - pos >= 12) {
-        const size_t length = png_get_uint_32(p + pos);
+        const size_t length = qFromBigEndian<quint32>(p + pos);
         const QByteArrayView type(reinterpret_cast<const char *>(p + pos + 4), 4);
         if (length > end - pos - 12 || type == "IDAT" || type == "IEND")
             break;
         const char *data = reinterpret_cast<const char *>(p + pos + 8);
         if (type == "pHYs" && length == 9 && data[8] == PNG_RESOLUTION_METER) {
-            meta.dpi = dpiOfDotsPerMetre(int(png_get_uint_31(nullptr, p + pos + 8) & 0x7FFFFFFF));
+            meta.dpi = dpiOfDotsPerMetre(int(qFromBigEndian<quint32>(data) & 0x7FFFFFFF));
         } else if (type == "tEXt" || type == "iTXt") {
             const QByteArrayView body(data, qsizetype(length));
             const qsizetype nul = body.indexOf('\0');

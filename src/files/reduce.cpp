@@ -18,9 +18,11 @@ QString checkDeclaredSize(QSize size, qint64 fileBytes, double pixelsPerByte)
 
 QSize loadedSize(QSize stored, const DecodeRequest &request)
 {
+    if (request.preview)
+        return fitIntoBox(stored, request.box);
     if (!request.reduce || takenWhole(stored.width(), stored.height()))
         return stored;
-    return fitIntoBox(stored, QSize(BildMaxSide, BildMaxSide));
+    return fitIntoBox(stored, request.box);
 }
 
 QImage imageOfDib(const cDIBSection &dib)

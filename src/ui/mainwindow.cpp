@@ -114,9 +114,18 @@ void MainWindow::createActions()
     mn_Oeffnen = new QAction(this);
     mn_Oeffnen->setShortcut(QKeySequence::Open);
     connect(mn_Oeffnen, &QAction::triggered, this, &MainWindow::openDialog);
+    mn_Importieren = new QAction(this);
+    connect(mn_Importieren, &QAction::triggered, this, [this] { Menu_LoadImage(2); });
+    mn_KachelLaden = new QAction(this);
+    connect(mn_KachelLaden, &QAction::triggered, this, [this] { Menu_LoadImage(3); });
     mn_Speichern = new QAction(this);
     mn_Speichern->setShortcut(QKeySequence::Save);
-    connect(mn_Speichern, &QAction::triggered, this, &MainWindow::saveAsDialog);
+    connect(mn_Speichern, &QAction::triggered, this, [this] { Menu_SaveImage(0); });
+    mn_SpeichernUnter = new QAction(this);
+    mn_SpeichernUnter->setShortcut(QKeySequence::SaveAs);
+    connect(mn_SpeichernUnter, &QAction::triggered, this, &MainWindow::saveAsDialog);
+    mn_AuswahlSpeichern = new QAction(this);
+    connect(mn_AuswahlSpeichern, &QAction::triggered, this, [this] { Menu_SaveImage(1, true); });
     mn_Fixieren = new QAction(this);
     mn_Fixieren->setShortcut(QKeySequence(Qt::Key_F4));
     connect(mn_Fixieren, &QAction::triggered, this, [this] {
@@ -176,7 +185,11 @@ void MainWindow::createMenus()
     m_newMenu->insertSeparator(mn_New_Picformat[1]);
     m_newMenu->insertSeparator(mn_New_Picformat[7]);
     m_fileMenu->addAction(mn_Oeffnen);
+    m_fileMenu->addAction(mn_Importieren);
+    m_fileMenu->addAction(mn_KachelLaden);
     m_fileMenu->addAction(mn_Speichern);
+    m_fileMenu->addAction(mn_SpeichernUnter);
+    m_fileMenu->addAction(mn_AuswahlSpeichern);
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(mn_Fixieren);
     m_fileMenu->addAction(mn_Restaurieren);
@@ -231,8 +244,12 @@ void MainWindow::retranslate()
     for (int i = 0; i < NewPictureFormatCount; ++i)
         mn_New_Picformat[size_t(i)]->setText(
             QCoreApplication::translate("PictureFormats", newPictureFormats()[size_t(i)].caption));
-    mn_Oeffnen->setText(tr("Ö&ffnen ..."));
-    mn_Speichern->setText(tr("&Speichern unter ..."));
+    mn_Oeffnen->setText(tr("Ö&ffnen..."));
+    mn_Importieren->setText(tr("&Importieren..."));
+    mn_KachelLaden->setText(tr("&Kachel laden..."));
+    mn_Speichern->setText(tr("&Speichern"));
+    mn_SpeichernUnter->setText(tr("Speichern &unter..."));
+    mn_AuswahlSpeichern->setText(tr("Auswahl in Datei &speichern..."));
     mn_Fixieren->setText(tr("Fixieren  <F4>"));
     mn_Fixieren->setIconText(tr("Fixieren"));
     mn_Restaurieren->setText(tr("Restaurieren"));
@@ -293,6 +310,7 @@ void MainWindow::updateCommands()
     const CommandState &c = m_session.workspace().commands;
     mn_Undo->setEnabled(c.undo);
     mn_Speichern->setEnabled(c.save);
+    mn_SpeichernUnter->setEnabled(c.save);
     tbDrucken->setEnabled(c.print);
     Set_MDI_Caption();
 }
