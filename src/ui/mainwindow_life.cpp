@@ -296,7 +296,7 @@ void MainWindow::Menu_SaveImage(int Index, bool selection)
         const QString presetFilter = preset == QLatin1String(".JPG")   ? filters[1]
                                      : preset == QLatin1String(".BMP") ? filters[0]
                                                                        : filters[2];
-        QFileDialog dialog(this, selection ? tr("Save selection") : tr("Save picture"), folder);
+        QFileDialog dialog(this, selection ? tr("Auswahl speichern") : tr("Bild speichern"), folder);
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setNameFilters(filters);
         dialog.selectNameFilter(presetFilter);

@@ -201,7 +201,7 @@ void PSelectDialog::showPreview()
     const LoadResult r = loadPreview(m_chosen, QSize(PreviewSide - 4, PreviewSide - 4));
     if (!r.loaded()) {
         if (r.status == LoadResult::Status::Corrupt)
-            lbl_WH->setText(tr("Invalid picture"));
+            lbl_WH->setText(tr("Ungültiges Bild"));
         return;
     }
     picImage->setPixmap(QPixmap::fromImage(r.image));
@@ -225,17 +225,17 @@ void PSelectDialog::deleteChosen()
         if (DirList->hasFocus()) {
             const QString dir = m_dirs->filePath(DirList->currentIndex());
             if (dir.isEmpty() || !QFileInfo(dir).isDir()) {
-                m_session.ask(tr("No valid path."), Buttons::Ok, Icon::Exclamation);
+                m_session.ask(tr("Kein gültiger Pfad."), Buttons::Ok, Icon::Exclamation);
                 return;
             }
             if (QDir::cleanPath(dir) != QDir::cleanPath(folder())) {
-                m_session.ask(tr("Please open directory first for deletion!"), Buttons::Ok,
+                m_session.ask(tr("Bitte öffnen Sie das Verzeichnis zuerst zum Löschen!"), Buttons::Ok,
                               Icon::Exclamation);
                 return;
             }
             if (m_session.ask(tr("Soll das Verzeichnis %1 in den Papierkorb verschoben werden?")
                                   .arg(QDir::toNativeSeparators(dir)),
-                              Buttons::YesNo, Icon::Question, tr("Delete file")) != Answer::Yes)
+                              Buttons::YesNo, Icon::Question, tr("Datei löschen")) != Answer::Yes)
                 return;
             const QString parent = QFileInfo(dir).absolutePath();
             if (!QFile::moveToTrash(dir))
@@ -244,12 +244,12 @@ void PSelectDialog::deleteChosen()
             return;
         }
         if (m_chosen.isEmpty() || !QFileInfo(m_chosen).isFile()) {
-            m_session.ask(tr("No valid picture."), Buttons::Ok, Icon::Exclamation);
+            m_session.ask(tr("Kein gültiges Bild."), Buttons::Ok, Icon::Exclamation);
             return;
         }
         if (m_session.ask(tr("Soll die Datei %1 in den Papierkorb verschoben werden?")
                               .arg(QDir::toNativeSeparators(m_chosen)),
-                          Buttons::YesNo, Icon::Question, tr("Delete file")) != Answer::Yes)
+                          Buttons::YesNo, Icon::Question, tr("Datei löschen")) != Answer::Yes)
             return;
         if (!QFile::moveToTrash(m_chosen))
             throw Fault(Fault::PathFileAccessError);
@@ -263,7 +263,7 @@ void PSelectDialog::createDirectory()
     guarded(QStringLiteral("DialogFileMenu"), [&] {
         const QString below = folder();
         if (below.isEmpty() || !QFileInfo(below).isDir()) {
-            m_session.ask(tr("No valid path."), Buttons::Ok, Icon::Exclamation);
+            m_session.ask(tr("Kein gültiger Pfad."), Buttons::Ok, Icon::Exclamation);
             return;
         }
         if (m_session.ask(tr("Soll ein Verzeichnis unter %1 angelegt werden?")
