@@ -10,12 +10,12 @@
 
 namespace {
 
-struct Run {
+struct ForgeRun {
     int code = -1;
     QString out, err;
 };
 
-Run forge(const QStringList &args)
+ForgeRun forge(const QStringList &args)
 {
     static QTemporaryDir runtime;
     QProcess p;
@@ -45,7 +45,7 @@ TEST(CliFiles, ARecipeWrittenIntoAPngRepaintsTheSameBytes)
                      QStringLiteral("11"), QStringLiteral("--size"), QStringLiteral("64x48"), QStringLiteral("-o"), a})
                   .code,
               0);
-    const Run recipe = forge({QStringLiteral("recipe"), a});
+    const ForgeRun recipe = forge({QStringLiteral("recipe"), a});
     ASSERT_EQ(recipe.code, 0) << recipe.err.toStdString();
     EXPECT_TRUE(recipe.out.startsWith(QStringLiteral("tarvelle-forge paint Backgroundcolor --size 64x48 ")));
     EXPECT_TRUE(recipe.out.trimmed().endsWith(QStringLiteral("--seed 11")));
@@ -67,14 +67,14 @@ TEST(CliFiles, CorruptInputEndsWithTheMessageAndWritesNothing)
     TF_REQUIRE_TESTDATA();
     QTemporaryDir dir;
     const QString out = dir.filePath(QStringLiteral("out.png"));
-    const Run r = forge({QStringLiteral("paint"), QStringLiteral("Backgroundcolor"), QStringLiteral("--lang"),
+    const ForgeRun r = forge({QStringLiteral("paint"), QStringLiteral("Backgroundcolor"), QStringLiteral("--lang"),
                          QStringLiteral("en"), QStringLiteral("--over"),
                          testdataPath(QStringLiteral("images/png/bad/xcrn0g04.png")), QStringLiteral("-o"), out});
     EXPECT_EQ(r.code, 1);
     EXPECT_TRUE(r.err.contains(QStringLiteral("Corrupt image"))) << r.err.toStdString();
     EXPECT_TRUE(QDir(dir.path()).entryList(QDir::Files).isEmpty());
 
-    const Run none = forge({QStringLiteral("recipe"), testdataPath(QStringLiteral("images/png/good/basn2c08.png"))});
+    const ForgeRun none = forge({QStringLiteral("recipe"), testdataPath(QStringLiteral("images/png/good/basn2c08.png"))});
     EXPECT_EQ(none.code, 1);
 }
 
@@ -83,7 +83,7 @@ TEST(CliFiles, KeepSizeKeepsALargeInputAtItsOwnSize)
     QTemporaryDir dir;
     const QString big = dir.filePath(QStringLiteral("big.png"));
     ASSERT_EQ(forge({QStringLiteral("paint"), QStringLiteral("Backgroundcolor"), QStringLiteral("--seed"),
-                     QStringLiteral("1"), QStringLiteral("--size"), QStringLiteral("1700x1000"), QStringLiteral("-o"), big})
+                     QStringLiteral("1"), QStringLiteral("--size"), QStringLiteral("2000x1500"), QStringLiteral("-o"), big})
                   .code,
               0);
     const QString boxed = dir.filePath(QStringLiteral("boxed.bmp")), kept = dir.filePath(QStringLiteral("kept.bmp"));
@@ -92,6 +92,6 @@ TEST(CliFiles, KeepSizeKeepsALargeInputAtItsOwnSize)
                            QStringLiteral("--over"), big};
     ASSERT_EQ(forge(over + QStringList{QStringLiteral("-o"), boxed}).code, 0);
     ASSERT_EQ(forge(over + QStringList{QStringLiteral("--keep-size"), QStringLiteral("-o"), kept}).code, 0);
-    EXPECT_EQ(QImage(boxed).size(), QSize(1600, 941));
-    EXPECT_EQ(QImage(kept).size(), QSize(1700, 1000));
+    EXPECT_EQ(QImage(boxed).size(), QSize(1600, 1200));
+    EXPECT_EQ(QImage(kept).size(), QSize(2000, 1500));
 }
