@@ -132,6 +132,9 @@ PSelectDialog::PSelectDialog(Session &session, const QString &title, const QStri
         accept();
     });
     connect(PatternCombo, &QComboBox::currentIndexChanged, this, &PSelectDialog::setPattern);
+    // The tree fills in the background: the open folder is shown once its parent is read.
+    connect(m_dirs, &QFileSystemModel::directoryLoaded, this,
+            [this] { DirList->scrollTo(DirList->currentIndex(), QAbstractItemView::PositionAtCenter); });
     connect(mn_Preview, &QCheckBox::toggled, this, &PSelectDialog::showPreview);
 
     setPattern(0);
