@@ -43,14 +43,15 @@ bool bmpDeclared(QByteArrayView b, QSize &size, double &pixelsPerByte)
     return true;
 }
 
-// The logical screen of a GIF; an LZW code of at least 3 bits stands for at most 4096 pixels.
+// The logical screen of a GIF. An LZW code stands for at most 4096 pixels, and a code that
+// long is 12 bits wide: at most 2731 pixels a byte.
 bool gifDeclared(QByteArrayView b, QSize &size, double &pixelsPerByte)
 {
     if (b.size() < 10)
         return false;
     const auto *p = reinterpret_cast<const uchar *>(b.data());
     size = QSize(qFromLittleEndian<quint16>(p + 6), qFromLittleEndian<quint16>(p + 8));
-    pixelsPerByte = 8.0 / 3.0 * 4096.0;
+    pixelsPerByte = 4096.0 / 1.5;
     return true;
 }
 

@@ -311,6 +311,8 @@ void MainWindow::updateCommands()
     mn_Undo->setEnabled(c.undo);
     mn_Speichern->setEnabled(c.save);
     mn_SpeichernUnter->setEnabled(c.save);
+    mn_AuswahlSpeichern->setEnabled(m_session.workspace().PicSelect.Visible() ||
+                                    m_session.workspace().picSelectC.Visible());
     tbDrucken->setEnabled(c.print);
     Set_MDI_Caption();
 }
