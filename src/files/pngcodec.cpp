@@ -123,6 +123,8 @@ int decodeRows(ReadState &state, RowTarget &target, int &declaredW, int &declare
     }
     png_set_read_fn(png, &state, readBytes);
     png_set_user_limits(png, MaxDecodeSide, MaxDecodeSide);
+    png_set_chunk_malloc_max(png, 8u << 20);
+    png_set_chunk_cache_max(png, 1000);
     png_read_info(png, info);
 
     png_uint_32 w = 0, h = 0;
@@ -174,6 +176,23 @@ int decodeRows(ReadState &state, RowTarget &target, int &declaredW, int &declare
     return 0;
 }
 
+// True when every chunk up to the first IDAT lies within the file. libpng allocates (and
+// clears) the buffer of an ancillary chunk by the length it claims before it reads the data,
+// so a chunk claiming gigabytes in a small file would cost seconds before it fails.
+bool headerChunksFit(const unsigned char *p, size_t size)
+{
+    size_t pos = SignatureBytes;
+    while (size - pos >= 8) {
+        const size_t length = qFromBigEndian<quint32>(p + pos);
+        if (std::memcmp(p + pos + 4, "IDAT", 4) == 0)
+            return true;
+        if (length > size - pos - 8)
+            return false;
+        pos += 8 + length + std::min<size_t>(4, size - pos - 8 - length);
+    }
+    return true;
+}
+
 bool decodeInto(QByteArrayView bytes, RowTarget &target, QSize *declared = nullptr)
 {
     ReadState state;
@@ -182,6 +201,11 @@ bool decodeInto(QByteArrayView bytes, RowTarget &target, QSize *declared = nullp
     if (state.size < SignatureBytes || png_sig_cmp(state.data, 0, SignatureBytes) != 0) {
         if (target.why)
             *target.why = decodetext::noPicture();
+        return false;
+    }
+    if (!headerChunksFit(state.data, state.size)) {
+        if (target.why)
+            *target.why = QStringLiteral("PNG: a chunk claims more bytes than the file holds");
         return false;
     }
     int w = 0, h = 0;
