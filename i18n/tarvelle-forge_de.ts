@@ -114,6 +114,14 @@
         <source>Das Filtern ist fehlgeschlagen.</source>
         <translation>Das Filtern ist fehlgeschlagen.</translation>
     </message>
+    <message>
+        <source>Die Datei %1 enthält kein Rezept.</source>
+        <translation>Die Datei %1 enthält kein Rezept.</translation>
+    </message>
+    <message>
+        <source>Aufruf: tarvelle-forge recipe DATEI</source>
+        <translation>Aufruf: tarvelle-forge recipe DATEI</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -259,6 +267,25 @@
     </message>
 </context>
 <context>
+    <name>Decode</name>
+    <message>
+        <source>Das Bild ist %1 x %2 Pixel groß, mehr als %3 Pixel an einer Seite.</source>
+        <translation>Das Bild ist %1 x %2 Pixel groß, mehr als %3 Pixel an einer Seite.</translation>
+    </message>
+    <message>
+        <source>Die Datei gibt %1 x %2 Pixel an, mehr als ihre Daten fassen können.</source>
+        <translation>Die Datei gibt %1 x %2 Pixel an, mehr als ihre Daten fassen können.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist kein Bild im Format BMP, GIF, JPEG oder PNG.</source>
+        <translation>Die Datei ist kein Bild im Format BMP, GIF, JPEG oder PNG.</translation>
+    </message>
+    <message>
+        <source>Die Datei gibt die Größe %1 x %2 Pixel an.</source>
+        <translation>Die Datei gibt die Größe %1 x %2 Pixel an.</translation>
+    </message>
+</context>
+<context>
     <name>Fixings</name>
     <message>
         <source>fixiert</source>
@@ -325,6 +352,25 @@
     <message>
         <source>Papiermuster</source>
         <translation>Papiermuster</translation>
+    </message>
+</context>
+<context>
+    <name>LoadImage</name>
+    <message>
+        <source>Die Datei %1 gibt es nicht.</source>
+        <translation>Die Datei %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Bild automatisch einpassen?</source>
+        <translation>Bild automatisch einpassen?</translation>
+    </message>
+    <message>
+        <source>Fehlerhaftes Bild - Siehe Statusbar!</source>
+        <translation>Fehlerhaftes Bild - Siehe Statusbar!</translation>
+    </message>
+    <message>
+        <source>Fehlerhaftes Bild</source>
+        <translation>Fehlerhaftes Bild</translation>
     </message>
 </context>
 <context>
@@ -413,6 +459,17 @@
     </message>
 </context>
 <context>
+    <name>Recipe</name>
+    <message>
+        <source>Keine Malanweisung: %1</source>
+        <translation>Keine Malanweisung: %1</translation>
+    </message>
+    <message>
+        <source>Die Malanweisung darf %1 nicht enthalten: %2</source>
+        <translation>Die Malanweisung darf %1 nicht enthalten: %2</translation>
+    </message>
+</context>
+<context>
     <name>Rescue</name>
     <message>
         <source>Nach dem letzten Beenden von Tarvelle-Forge gibt es noch ein wiederherstellbares Undobild. Dies ist die letzte Chance das Bild zu retten. Soll das Bild gerettet werden?</source>
@@ -429,6 +486,33 @@
     <message>
         <source>Der Pfad/Name des geretteten Bildmaske ist %1</source>
         <translation>Der Pfad/Name des geretteten Bildmaske ist %1</translation>
+    </message>
+</context>
+<context>
+    <name>SafeFile</name>
+    <message>
+        <source>Bilder werden als .png, .jpg oder .bmp gespeichert: %1</source>
+        <translation>Bilder werden als .png, .jpg oder .bmp gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 kann nicht gespeichert werden: den Ordner %2 gibt es nicht.</source>
+        <translation>Die Datei %1 kann nicht gespeichert werden: den Ordner %2 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 ist schreibgeschützt und bleibt, wie sie war.</source>
+        <translation>Die Datei %1 ist schreibgeschützt und bleibt, wie sie war.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 kann nicht gespeichert werden: in den Ordner %2 darf nicht geschrieben werden.</source>
+        <translation>Die Datei %1 kann nicht gespeichert werden: in den Ordner %2 darf nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 kann nicht gespeichert werden: der Datenträger ist voll. Eine vorhandene Datei bleibt, wie sie war.</source>
+        <translation>Die Datei %1 kann nicht gespeichert werden: der Datenträger ist voll. Eine vorhandene Datei bleibt, wie sie war.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 kann nicht gespeichert werden (%2). Eine vorhandene Datei bleibt, wie sie war.</source>
+        <translation>Die Datei %1 kann nicht gespeichert werden (%2). Eine vorhandene Datei bleibt, wie sie war.</translation>
     </message>
 </context>
 <context>
@@ -853,14 +937,6 @@
         <translation>Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert. Wollen Sie trotzdem beenden?</translation>
     </message>
     <message>
-        <source>Ö&amp;ffnen ...</source>
-        <translation>Ö&amp;ffnen ...</translation>
-    </message>
-    <message>
-        <source>&amp;Speichern unter ...</source>
-        <translation>&amp;Speichern unter ...</translation>
-    </message>
-    <message>
         <source>Fixieren  &lt;F4&gt;</source>
         <translation>Fixieren  &lt;F4&gt;</translation>
     </message>
@@ -877,32 +953,8 @@
         <translation>&amp;Optionen ...</translation>
     </message>
     <message>
-        <source>Die Datei %1 kann nicht als Bild gelesen werden.</source>
-        <translation>Die Datei %1 kann nicht als Bild gelesen werden.</translation>
-    </message>
-    <message>
-        <source>Bilder werden als BMP, JPEG oder PNG gespeichert: die Endung %1 ist unbekannt.</source>
-        <translation>Bilder werden als BMP, JPEG oder PNG gespeichert: die Endung %1 ist unbekannt.</translation>
-    </message>
-    <message>
-        <source>Die Datei %1 kann nicht geschrieben werden.</source>
-        <translation>Die Datei %1 kann nicht geschrieben werden.</translation>
-    </message>
-    <message>
-        <source>Bild öffnen</source>
-        <translation>Bild öffnen</translation>
-    </message>
-    <message>
-        <source>Bilder (*.bmp *.jpg *.jpeg *.png *.gif);;Alle Dateien (*)</source>
-        <translation>Bilder (*.bmp *.jpg *.jpeg *.png *.gif);;Alle Dateien (*)</translation>
-    </message>
-    <message>
         <source>Bild speichern</source>
         <translation>Bild speichern</translation>
-    </message>
-    <message>
-        <source>PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)</source>
-        <translation>PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)</translation>
     </message>
     <message>
         <source>Malen</source>
@@ -968,6 +1020,50 @@
         <source>Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert. Wollen Sie das aktuelle Bild verwerfen?</source>
         <translation>Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert. Wollen Sie das aktuelle Bild verwerfen?</translation>
     </message>
+    <message>
+        <source>Ö&amp;ffnen...</source>
+        <translation>Ö&amp;ffnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Importieren...</source>
+        <translation>&amp;Importieren...</translation>
+    </message>
+    <message>
+        <source>&amp;Kachel laden...</source>
+        <translation>&amp;Kachel laden...</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Speichern &amp;unter...</source>
+        <translation>Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Auswahl in Datei &amp;speichern...</source>
+        <translation>Auswahl in Datei &amp;speichern...</translation>
+    </message>
+    <message>
+        <source>Bild laden</source>
+        <translation>Bild laden</translation>
+    </message>
+    <message>
+        <source>Bild importieren</source>
+        <translation>Bild importieren</translation>
+    </message>
+    <message>
+        <source>Web-Background-Bild</source>
+        <translation>Web-Background-Bild</translation>
+    </message>
+    <message>
+        <source>Auswahl speichern</source>
+        <translation>Auswahl speichern</translation>
+    </message>
+    <message>
+        <source>Soll die Datei %1 überschrieben werden?</source>
+        <translation>Soll die Datei %1 überschrieben werden?</translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::OptionsDialog</name>
@@ -1014,6 +1110,104 @@
     <message>
         <source>Abbrechen</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::PSelectDialog</name>
+    <message>
+        <source>Bild öffnen</source>
+        <translation>Bild öffnen</translation>
+    </message>
+    <message>
+        <source>Vorschau</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Ö&amp;ffnen</source>
+        <translation>Ö&amp;ffnen</translation>
+    </message>
+    <message>
+        <source>&amp;Löschen</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Ver&amp;zeichnis anlegen...</source>
+        <translation>Ver&amp;zeichnis anlegen...</translation>
+    </message>
+    <message>
+        <source>S&amp;chließen</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Ungültiges Bild</source>
+        <translation>Ungültiges Bild</translation>
+    </message>
+    <message>
+        <source>Kein gültiger Pfad.</source>
+        <translation>Kein gültiger Pfad.</translation>
+    </message>
+    <message>
+        <source>Bitte öffnen Sie das Verzeichnis zuerst zum Löschen!</source>
+        <translation>Bitte öffnen Sie das Verzeichnis zuerst zum Löschen!</translation>
+    </message>
+    <message>
+        <source>Soll das Verzeichnis %1 in den Papierkorb verschoben werden?</source>
+        <translation>Soll das Verzeichnis %1 in den Papierkorb verschoben werden?</translation>
+    </message>
+    <message>
+        <source>Datei löschen</source>
+        <translation>Datei löschen</translation>
+    </message>
+    <message>
+        <source>Kein gültiges Bild.</source>
+        <translation>Kein gültiges Bild.</translation>
+    </message>
+    <message>
+        <source>Soll die Datei %1 in den Papierkorb verschoben werden?</source>
+        <translation>Soll die Datei %1 in den Papierkorb verschoben werden?</translation>
+    </message>
+    <message>
+        <source>Soll ein Verzeichnis unter %1 angelegt werden?</source>
+        <translation>Soll ein Verzeichnis unter %1 angelegt werden?</translation>
+    </message>
+    <message>
+        <source>Verzeichnis anlegen</source>
+        <translation>Verzeichnis anlegen</translation>
+    </message>
+    <message>
+        <source>Geben Sie bitte einen Verzeichnisnamen ein.</source>
+        <translation>Geben Sie bitte einen Verzeichnisnamen ein.</translation>
+    </message>
+    <message>
+        <source>Neuer Ordner</source>
+        <translation>Neuer Ordner</translation>
+    </message>
+    <message>
+        <source>Kein gültiger Verzeichnisname.</source>
+        <translation>Kein gültiger Verzeichnisname.</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::PicImportDialog</name>
+    <message>
+        <source>Bild anpassen</source>
+        <translation>Bild anpassen</translation>
+    </message>
+    <message>
+        <source>Grössenanpassung</source>
+        <translation>Grössenanpassung</translation>
+    </message>
+    <message>
+        <source>Automatisch einpassen ( mit Verzerrung )</source>
+        <translation>Automatisch einpassen ( mit Verzerrung )</translation>
+    </message>
+    <message>
+        <source>Seitenverhältnis beibehalten und automatisch anpassen</source>
+        <translation>Seitenverhältnis beibehalten und automatisch anpassen</translation>
+    </message>
+    <message>
+        <source>Anti-Aliasing</source>
+        <translation>Anti-Aliasing</translation>
     </message>
 </context>
 <context>

@@ -114,6 +114,14 @@
         <source>Das Filtern ist fehlgeschlagen.</source>
         <translation>The filter failed.</translation>
     </message>
+    <message>
+        <source>Die Datei %1 enthält kein Rezept.</source>
+        <translation>The file %1 holds no recipe.</translation>
+    </message>
+    <message>
+        <source>Aufruf: tarvelle-forge recipe DATEI</source>
+        <translation>Usage: tarvelle-forge recipe FILE</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -259,6 +267,25 @@
     </message>
 </context>
 <context>
+    <name>Decode</name>
+    <message>
+        <source>Das Bild ist %1 x %2 Pixel groß, mehr als %3 Pixel an einer Seite.</source>
+        <translation>The picture is %1 x %2 pixels, more than %3 pixels on a side.</translation>
+    </message>
+    <message>
+        <source>Die Datei gibt %1 x %2 Pixel an, mehr als ihre Daten fassen können.</source>
+        <translation>The file claims %1 x %2 pixels, more than its data can hold.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist kein Bild im Format BMP, GIF, JPEG oder PNG.</source>
+        <translation>The file is not a BMP, GIF, JPEG or PNG picture.</translation>
+    </message>
+    <message>
+        <source>Die Datei gibt die Größe %1 x %2 Pixel an.</source>
+        <translation>The file gives the size %1 x %2 pixels.</translation>
+    </message>
+</context>
+<context>
     <name>Fixings</name>
     <message>
         <source>fixiert</source>
@@ -325,6 +352,25 @@
     <message>
         <source>Papiermuster</source>
         <translation>Papers</translation>
+    </message>
+</context>
+<context>
+    <name>LoadImage</name>
+    <message>
+        <source>Die Datei %1 gibt es nicht.</source>
+        <translation>The file %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Bild automatisch einpassen?</source>
+        <translation>Fit picture automatically?</translation>
+    </message>
+    <message>
+        <source>Fehlerhaftes Bild - Siehe Statusbar!</source>
+        <translation>Corrupt image - See Statusbar!</translation>
+    </message>
+    <message>
+        <source>Fehlerhaftes Bild</source>
+        <translation>Corrupt image</translation>
     </message>
 </context>
 <context>
@@ -413,6 +459,17 @@
     </message>
 </context>
 <context>
+    <name>Recipe</name>
+    <message>
+        <source>Keine Malanweisung: %1</source>
+        <translation>Not a paint command: %1</translation>
+    </message>
+    <message>
+        <source>Die Malanweisung darf %1 nicht enthalten: %2</source>
+        <translation>A paint command of a recipe must not hold %1: %2</translation>
+    </message>
+</context>
+<context>
     <name>Rescue</name>
     <message>
         <source>Nach dem letzten Beenden von Tarvelle-Forge gibt es noch ein wiederherstellbares Undobild. Dies ist die letzte Chance das Bild zu retten. Soll das Bild gerettet werden?</source>
@@ -429,6 +486,33 @@
     <message>
         <source>Der Pfad/Name des geretteten Bildmaske ist %1</source>
         <translation>The path/name of the saved picture mask is %1</translation>
+    </message>
+</context>
+<context>
+    <name>SafeFile</name>
+    <message>
+        <source>Bilder werden als .png, .jpg oder .bmp gespeichert: %1</source>
+        <translation>Pictures are saved as .png, .jpg or .bmp: %1</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 kann nicht gespeichert werden: den Ordner %2 gibt es nicht.</source>
+        <translation>The file %1 cannot be saved: the folder %2 does not exist.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 ist schreibgeschützt und bleibt, wie sie war.</source>
+        <translation>The file %1 is read-only and stays as it was.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 kann nicht gespeichert werden: in den Ordner %2 darf nicht geschrieben werden.</source>
+        <translation>The file %1 cannot be saved: the folder %2 may not be written to.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 kann nicht gespeichert werden: der Datenträger ist voll. Eine vorhandene Datei bleibt, wie sie war.</source>
+        <translation>The file %1 cannot be saved: the disk is full. A file already there stays as it was.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 kann nicht gespeichert werden (%2). Eine vorhandene Datei bleibt, wie sie war.</source>
+        <translation>The file %1 cannot be saved (%2). A file already there stays as it was.</translation>
     </message>
 </context>
 <context>
@@ -853,14 +937,6 @@
         <translation>The picture has been changed and its current state has not been saved yet. Do you want to exit anyway?</translation>
     </message>
     <message>
-        <source>Ö&amp;ffnen ...</source>
-        <translation>&amp;Open ...</translation>
-    </message>
-    <message>
-        <source>&amp;Speichern unter ...</source>
-        <translation>Save &amp;as ...</translation>
-    </message>
-    <message>
         <source>Fixieren  &lt;F4&gt;</source>
         <translation>Fix  &lt;F4&gt;</translation>
     </message>
@@ -877,32 +953,8 @@
         <translation>&amp;Options ...</translation>
     </message>
     <message>
-        <source>Die Datei %1 kann nicht als Bild gelesen werden.</source>
-        <translation>The file %1 cannot be read as a picture.</translation>
-    </message>
-    <message>
-        <source>Bilder werden als BMP, JPEG oder PNG gespeichert: die Endung %1 ist unbekannt.</source>
-        <translation>Pictures are saved as BMP, JPEG or PNG: the extension %1 is unknown.</translation>
-    </message>
-    <message>
-        <source>Die Datei %1 kann nicht geschrieben werden.</source>
-        <translation>The file %1 cannot be written.</translation>
-    </message>
-    <message>
-        <source>Bild öffnen</source>
-        <translation>Open picture</translation>
-    </message>
-    <message>
-        <source>Bilder (*.bmp *.jpg *.jpeg *.png *.gif);;Alle Dateien (*)</source>
-        <translation>Pictures (*.bmp *.jpg *.jpeg *.png *.gif);;All files (*)</translation>
-    </message>
-    <message>
         <source>Bild speichern</source>
         <translation>Save picture</translation>
-    </message>
-    <message>
-        <source>PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)</source>
-        <translation>PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)</translation>
     </message>
     <message>
         <source>Malen</source>
@@ -968,6 +1020,50 @@
         <source>Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert. Wollen Sie das aktuelle Bild verwerfen?</source>
         <translation>The picture was changed and the current state has not been saved. Do you want to discard the current picture?</translation>
     </message>
+    <message>
+        <source>Ö&amp;ffnen...</source>
+        <translation>&amp;Open...</translation>
+    </message>
+    <message>
+        <source>&amp;Importieren...</source>
+        <translation>&amp;Import...</translation>
+    </message>
+    <message>
+        <source>&amp;Kachel laden...</source>
+        <translation>Load &amp;tile...</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern</source>
+        <translation>&amp;Save</translation>
+    </message>
+    <message>
+        <source>Speichern &amp;unter...</source>
+        <translation>Save &amp;as...</translation>
+    </message>
+    <message>
+        <source>Auswahl in Datei &amp;speichern...</source>
+        <translation>Save s&amp;election to file...</translation>
+    </message>
+    <message>
+        <source>Bild laden</source>
+        <translation>Load picture</translation>
+    </message>
+    <message>
+        <source>Bild importieren</source>
+        <translation>Import picture</translation>
+    </message>
+    <message>
+        <source>Web-Background-Bild</source>
+        <translation>Web-Background picture</translation>
+    </message>
+    <message>
+        <source>Auswahl speichern</source>
+        <translation>Save selection</translation>
+    </message>
+    <message>
+        <source>Soll die Datei %1 überschrieben werden?</source>
+        <translation>Do you want to overwrite the file %1 ?</translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::OptionsDialog</name>
@@ -1014,6 +1110,104 @@
     <message>
         <source>Abbrechen</source>
         <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::PSelectDialog</name>
+    <message>
+        <source>Bild öffnen</source>
+        <translation>Open picture</translation>
+    </message>
+    <message>
+        <source>Vorschau</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>Ö&amp;ffnen</source>
+        <translation>&amp;Open</translation>
+    </message>
+    <message>
+        <source>&amp;Löschen</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>Ver&amp;zeichnis anlegen...</source>
+        <translation>Create &amp;directory...</translation>
+    </message>
+    <message>
+        <source>S&amp;chließen</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Ungültiges Bild</source>
+        <translation>Invalid picture</translation>
+    </message>
+    <message>
+        <source>Kein gültiger Pfad.</source>
+        <translation>No valid path.</translation>
+    </message>
+    <message>
+        <source>Bitte öffnen Sie das Verzeichnis zuerst zum Löschen!</source>
+        <translation>Please open directory first for deletion!</translation>
+    </message>
+    <message>
+        <source>Soll das Verzeichnis %1 in den Papierkorb verschoben werden?</source>
+        <translation>Move the directory %1 into the trashcan?</translation>
+    </message>
+    <message>
+        <source>Datei löschen</source>
+        <translation>Delete file</translation>
+    </message>
+    <message>
+        <source>Kein gültiges Bild.</source>
+        <translation>No valid picture.</translation>
+    </message>
+    <message>
+        <source>Soll die Datei %1 in den Papierkorb verschoben werden?</source>
+        <translation>Move %1 into the trashcan?</translation>
+    </message>
+    <message>
+        <source>Soll ein Verzeichnis unter %1 angelegt werden?</source>
+        <translation>Create a directory below %1?</translation>
+    </message>
+    <message>
+        <source>Verzeichnis anlegen</source>
+        <translation>Create directory</translation>
+    </message>
+    <message>
+        <source>Geben Sie bitte einen Verzeichnisnamen ein.</source>
+        <translation>Please enter a directoryname.</translation>
+    </message>
+    <message>
+        <source>Neuer Ordner</source>
+        <translation>New folder</translation>
+    </message>
+    <message>
+        <source>Kein gültiger Verzeichnisname.</source>
+        <translation>No valid directoryname.</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::PicImportDialog</name>
+    <message>
+        <source>Bild anpassen</source>
+        <translation>Fit picture</translation>
+    </message>
+    <message>
+        <source>Grössenanpassung</source>
+        <translation>Resize</translation>
+    </message>
+    <message>
+        <source>Automatisch einpassen ( mit Verzerrung )</source>
+        <translation>Fit automatically ( with distortion )</translation>
+    </message>
+    <message>
+        <source>Seitenverhältnis beibehalten und automatisch anpassen</source>
+        <translation>Keep aspect ratio and fit automatically</translation>
+    </message>
+    <message>
+        <source>Anti-Aliasing</source>
+        <translation>Anti-Aliasing</translation>
     </message>
 </context>
 <context>

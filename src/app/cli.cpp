@@ -29,12 +29,17 @@ const char *const usage =
     "  filters                the filters: number, name, captions and arguments\n"
     "  filter NUMBER|NAME IN -o OUT [OPTIONS] [--then NAME [OPTIONS] ...]\n"
     "                         run filters on a picture, one after the other\n"
+    "  recipe FILE            the paint commands that made a picture file (PNG or JPEG)\n"
     "\n"
     "Options of paint:\n"
     "  -o, --output FILE      the picture to write; .png, .jpg or .bmp by its extension\n"
     "                         (default: the type's key with .png)\n"
     "  --size WxH             the picture's size (default: that of --over, else 712x712)\n"
-    "  --over FILE            paint over this picture instead of a cleared one\n"
+    "  --over FILE            paint over this picture instead of a cleared one; a picture\n"
+    "                         of more than 1600 x 1600 pixels is brought into that box\n"
+    "  --keep-size            keep a large --over picture at its own size (up to 14000)\n"
+    "  --recipe FILE          paint again what made this picture file (see `recipe`);\n"
+    "                         with --size at another size\n"
     "  --seed N               the seed of the random numbers: the same seed, options and size\n"
     "                         give the same picture (default: one from the clock)\n"
     "  --set CONTROL[(i)]=VALUE\n"
@@ -127,6 +132,7 @@ int run(int argc, char **argv)
         {QStringLiteral("controls"), runControls},
         {QStringLiteral("filters"), runFilters},
         {QStringLiteral("filter"), runFilter},
+        {QStringLiteral("recipe"), runRecipe},
     };
     const auto it = commands.find(command);
     if (it == commands.end()) {

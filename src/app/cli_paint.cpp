@@ -3,6 +3,8 @@
 #include "app/cli_common.h"
 
 #include "core/language.h"
+#include "files/picturefile.h"
+#include "files/recipe.h"
 #include "generators/painters.h"
 #include "paint/catalogue.h"
 #include "paint/grafmenu.h"
@@ -16,9 +18,7 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QImage>
-#include <QImageReader>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QTemporaryDir>
 #include <optional>
 #include <vector>
@@ -40,6 +40,8 @@ struct PaintOptions {
     std::optional<int> duotones;    // the duotone box to set, 0 or 1
     QString palette;                // a JASC palette file
     std::optional<int> systemPalette;
+    bool keepSize = false;          // --over: a large picture at its own size
+    QString recipe;                 // paint the recipe of this picture file
 };
 
 // The largest side of a picture: the largest Superformat.
@@ -143,6 +145,10 @@ PaintOptions parsePaintOptions(const QStringList &words)
             o.systemPalette = n;
         } else if (w == QLatin1String("--over")) {
             o.over = a.valueOf(w);
+        } else if (w == QLatin1String("--keep-size")) {
+            o.keepSize = true;
+        } else if (w == QLatin1String("--recipe")) {
+            o.recipe = a.valueOf(w);
         } else if (w.startsWith(QLatin1Char('-')) && w != QLatin1String("-")) {
             throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Option: %1").arg(w));
         } else if (o.type.isEmpty()) {
@@ -151,6 +157,12 @@ PaintOptions parsePaintOptions(const QStringList &words)
             throw UsageError(
                 QCoreApplication::translate("Cli", "Überzähliges Argument: %1").arg(w));
         }
+    }
+    if (!o.recipe.isEmpty()) {
+        if (!o.type.isEmpty())
+            throw UsageError(
+                QCoreApplication::translate("Cli", "Überzähliges Argument: %1").arg(o.type));
+        return o;
     }
     if (o.type.isEmpty())
         throw UsageError(QCoreApplication::translate("Cli", "Es fehlt der Grafiktyp."));
@@ -216,42 +228,19 @@ bool applyColours(Session &s, const PaintOptions &o)
     return true;
 }
 
-bool save(const QImage &image, const QString &path)
+// One paint as the desktop program makes it, on a session of its own: over `over` when it is
+// not null, else on a cleared picture. Answers the exit code; `result` and `record` are set on
+// success.
+int paintOnce(const PaintOptions &o, const QImage &over, QImage &result, PaintRecord &record,
+              PictureMeta &meta)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) return false;
-    const QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();
-    if (!image.save(&file, format.isEmpty() ? "png" : format.constData())) {
-        file.cancelWriting();
-        return false;
-    }
-    return file.commit();
-}
-
-} // namespace
-
-int runPaint(const QStringList &args)
-{
-    const PaintOptions o = parsePaintOptions(args);
     CliPrompter prompter;
     TerminalStatus status;
-    registerAllPanels();
     Session s;
     s.setPainters(painterTable());
     s.setPrompter(&prompter);
     s.setStatus(&status);
     applyControls(s, o);
-
-    QImage over;
-    if (!o.over.isEmpty()) {
-        QImageReader reader(o.over);
-        over = reader.read();
-        if (over.isNull()) {
-            printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht gelesen werden.")
-                           .arg(o.over));
-            return ExitFailed;
-        }
-    }
 
     // Undo images of large pictures go to files: a folder of this run's own keeps them away
     // from those of a running desktop program.
@@ -282,18 +271,87 @@ int runPaint(const QStringList &args)
         printError(QCoreApplication::translate("Cli", "Das Malen wurde abgebrochen."));
         return ExitFailed;
     }
-    if (outcome != PaintOutcome::Painted || prompter.faultSeen()) {
+    if (outcome != PaintOutcome::Painted || prompter.faultSeen() || !s.paint().lastPaint) {
         printError(QCoreApplication::translate("Cli", "Das Malen ist fehlgeschlagen."));
-        return ExitFailed;
-    }
-    const QString output = o.output.isEmpty() ? defaultOutput(o.type) : o.output;
-    if (!save(ws.Bild.Image(), output)) {
-        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht geschrieben werden.")
-                       .arg(output));
         return ExitFailed;
     }
     // Without a seed of its own the paint took one from the clock: the user may want it back.
     if (!o.seed) print(stderr, status.panelText(sbrState) + QLatin1Char('\n'));
+    result = ws.Bild.Image();
+    record = *s.paint().lastPaint;
+    meta = pictureMetaOf(s, {});
+    return ExitOk;
+}
+
+// The paints of a picture file's recipe, one over the other, at their size or `size`.
+int paintRecipe(const PaintOptions &o, QImage &result, PictureMeta &meta)
+{
+    const QStringList lines = readPictureMeta(o.recipe).recipe;
+    if (lines.isEmpty()) {
+        printError(QCoreApplication::translate("Cli", "Die Datei %1 enthält kein Rezept.")
+                       .arg(o.recipe));
+        return ExitFailed;
+    }
+    QStringList recipe;
+    for (const QString &line : lines) {
+        QString why;
+        auto args = recipePaintArguments(line, why);
+        if (!args) {
+            printError(why);
+            return ExitFailed;
+        }
+        if (o.size) *args = withSize(*args, QStringLiteral("%1x%2").arg(o.size->width()).arg(o.size->height()));
+        const PaintOptions step = parsePaintOptions(args->mid(1));
+        PaintRecord record;
+        QImage painted;
+        if (const int code = paintOnce(step, result, painted, record, meta); code != ExitOk)
+            return code;
+        result = painted;
+        recipe << paintCommandLine(record);
+    }
+    meta.recipe = recipe;
+    return ExitOk;
+}
+
+} // namespace
+
+int runPaint(const QStringList &args)
+{
+    const PaintOptions o = parsePaintOptions(args);
+    registerAllPanels();
+
+    QImage result;
+    PictureMeta meta;
+    if (!o.recipe.isEmpty()) {
+        if (const int code = paintRecipe(o, result, meta); code != ExitOk)
+            return code;
+    } else {
+        QImage over;
+        if (!o.over.isEmpty()) {
+            QString message;
+            over = readPictureForCommand(o.over, o.keepSize ? LoadLimit::KeepSize : LoadLimit::Box,
+                                         message);
+            if (over.isNull()) {
+                printError(message);
+                return ExitFailed;
+            }
+        }
+        PaintRecord record;
+        if (const int code = paintOnce(o, over, result, record, meta); code != ExitOk)
+            return code;
+        // A paint without transparency makes the whole picture; one laid over a given picture
+        // cannot be made again from its command alone.
+        if (over.isNull() || record.TranspPercent == 0)
+            meta.recipe = QStringList{paintCommandLine(record)};
+    }
+    const QString output = o.output.isEmpty()
+                               ? defaultOutput(o.recipe.isEmpty() ? o.type : QStringLiteral("recipe"))
+                               : o.output;
+    QString message;
+    if (!writePictureForCommand(result, output, meta, message)) {
+        printError(message);
+        return ExitFailed;
+    }
     return ExitOk;
 }
 

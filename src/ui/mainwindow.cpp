@@ -145,9 +145,18 @@ void MainWindow::createActions()
     mn_Oeffnen = new QAction(this);
     mn_Oeffnen->setShortcut(QKeySequence::Open);
     onTriggered(mn_Oeffnen, [this] { openDialog(); });
+    mn_Importieren = new QAction(this);
+    onTriggered(mn_Importieren, [this] { Menu_LoadImage(2); });
+    mn_KachelLaden = new QAction(this);
+    onTriggered(mn_KachelLaden, [this] { Menu_LoadImage(3); });
     mn_Speichern = new QAction(this);
     mn_Speichern->setShortcut(QKeySequence::Save);
-    onTriggered(mn_Speichern, [this] { saveAsDialog(); });
+    onTriggered(mn_Speichern, [this] { Menu_SaveImage(0); });
+    mn_SpeichernUnter = new QAction(this);
+    mn_SpeichernUnter->setShortcut(QKeySequence::SaveAs);
+    onTriggered(mn_SpeichernUnter, [this] { saveAsDialog(); });
+    mn_AuswahlSpeichern = new QAction(this);
+    onTriggered(mn_AuswahlSpeichern, [this] { Menu_SaveImage(1, true); });
     // The caption "Fixieren  <F4>" names its key itself: the key is bound beside the entry, so
     // that the menu does not show it a second time.
     mn_Fixieren = new QAction(this);
@@ -233,7 +242,11 @@ void MainWindow::createMenus()
     m_newMenu->insertSeparator(mn_New_Picformat[1]);
     m_newMenu->insertSeparator(mn_New_Picformat[7]);
     m_fileMenu->addAction(mn_Oeffnen);
+    m_fileMenu->addAction(mn_Importieren);
+    m_fileMenu->addAction(mn_KachelLaden);
     m_fileMenu->addAction(mn_Speichern);
+    m_fileMenu->addAction(mn_SpeichernUnter);
+    m_fileMenu->addAction(mn_AuswahlSpeichern);
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(mn_Fixieren);
     m_fileMenu->addAction(mn_Restaurieren);
@@ -297,9 +310,13 @@ void MainWindow::retranslate()
     for (int i = 0; i < NewPictureFormatCount; ++i)
         mn_New_Picformat[size_t(i)]->setText(
             QCoreApplication::translate("PictureFormats", newPictureFormats()[size_t(i)].caption));
-    mn_Oeffnen->setText(tr("Ö&ffnen ..."));
-    mn_Speichern->setText(tr("&Speichern unter ..."));
+    mn_Oeffnen->setText(tr("Ö&ffnen..."));
+    mn_Importieren->setText(tr("&Importieren..."));
+    mn_KachelLaden->setText(tr("&Kachel laden..."));
+    mn_Speichern->setText(tr("&Speichern"));
     mn_Speichern->setIconText(tr("Speichern"));
+    mn_SpeichernUnter->setText(tr("Speichern &unter..."));
+    mn_AuswahlSpeichern->setText(tr("Auswahl in Datei &speichern..."));
     mn_Fixieren->setText(tr("Fixieren  <F4>"));
     mn_Fixieren->setIconText(tr("Fixieren"));
     mn_Restaurieren->setText(tr("Restaurieren"));
@@ -363,6 +380,9 @@ void MainWindow::updateCommands()
     const CommandState &c = m_session.workspace().commands;
     mn_Undo->setEnabled(c.undo);
     mn_Speichern->setEnabled(c.save);
+    mn_SpeichernUnter->setEnabled(c.save);
+    mn_AuswahlSpeichern->setEnabled(m_session.workspace().PicSelect.Visible() ||
+                                    m_session.workspace().picSelectC.Visible());
     tbDrucken->setEnabled(c.print);
     Set_MDI_Caption();
 }

@@ -10,6 +10,8 @@
 #include "core/appsettings.h"
 #include "core/fixings.h"
 #include "core/mrufilelist.h"
+#include "files/loadplace.h"
+#include "files/recipe.h"
 #include "paint/session.h"
 #include "ui/guiprompter.h"
 #include "ui/guiyield.h"
@@ -50,8 +52,19 @@ public:
     void startUp(SettingsStore &store);
     // Opens a picture file into Bild; answers false (after a message) when it cannot be read.
     bool openPicture(const QString &path);
-    // Saves Bild to `path` (format by extension); answers false after a message on failure.
-    bool savePicture(const QString &path);
+    // Saves Bild (or the shown selection) to `path`, its format classed by the name; answers
+    // false after a message on failure.
+    bool savePicture(const QString &path, bool selection = false);
+    // Loads a picture file for a load command (1 open, 2 import, 3 tile); false after a message
+    // (or silently for a file that is not there).
+    bool loadPictureFile(const QString &path, int command);
+    // The load commands: the chooser, then the picture (1 open, 2 import, 3 tile).
+    void Menu_LoadImage(int Index);
+    // The save commands: 0 save (without a dialog once the picture has a file), 1 save as;
+    // `selection` saves the shown selection ("Save selection").
+    void Menu_SaveImage(int Index, bool selection = false);
+    // What frmPicImport answered last (its start values the next time).
+    const ImportChoice &importChoice() const { return m_importChoice; }
 
     // The title: the product name, " - " and the file name, with " *" when changed.
     void Set_MDI_Caption();
@@ -124,6 +137,10 @@ private:
     int m_formatIndex = 4; // the "Neu" entry of the picture (712 x 712)
     bool m_shutDown = false;
     bool m_closeAfterPaint = false; // the window was closed during a paint: close at its end
+    QString SavePathFile;                   // the last saved picture; "Speichern" uses it
+    std::array<QString, 4> LoadLastDir;     // per load command (1..3)
+    ImportChoice m_importChoice;
+    PaintHistory m_paintHistory;            // the paints that made Bild, for its recipe
 
     QMenu *m_fileMenu = nullptr;
     QMenu *m_newMenu = nullptr;
@@ -134,6 +151,10 @@ private:
     std::array<QAction *, 4> mn_File{};
     QAction *mn_Oeffnen = nullptr;
     QAction *mn_Speichern = nullptr;
+    QAction *mn_Importieren = nullptr;
+    QAction *mn_KachelLaden = nullptr;
+    QAction *mn_SpeichernUnter = nullptr;
+    QAction *mn_AuswahlSpeichern = nullptr;
     QAction *mn_Fixieren = nullptr;
     QAction *mn_Restaurieren = nullptr;
     QAction *mn_Optionen = nullptr;

@@ -132,13 +132,21 @@ void MainWindow::chooseGroup(int group)
 
 void MainWindow::paint()
 {
-    BtnPaint_Click(m_session);
+    const qint64 before = m_session.workspace().Bild.Image().cacheKey();
+    const bool painted = BtnPaint_Click(m_session) == PaintOutcome::Painted;
+    if (painted && m_session.paint().lastPaint)
+        m_paintHistory.notePaint(*m_session.paint().lastPaint, before,
+                                 m_session.workspace().Bild.Image().cacheKey(),
+                                 !m_session.workspace().PicSelect.Visible() &&
+                                     !m_session.workspace().picSelectC.Visible());
     afterPaint();
 }
 
 void MainWindow::roll(int index)
 {
+    // A roll repaints from a former set: its picture is not one command line's.
     BtnPaintRoll_Click(m_session, index);
+    m_paintHistory.clear();
     afterPaint();
 }
 

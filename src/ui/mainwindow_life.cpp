@@ -6,7 +6,11 @@
 #include "core/settings.h"
 #include "core/tempfiles.h"
 #include "paint/catalogue.h"
+#include "files/picturefile.h"
+#include "files/savename.h"
 #include "ui/grafdialogdock.h"
+#include "ui/picimportdialog.h"
+#include "ui/pselectdialog.h"
 #include "ui/optionsdialog.h"
 #include "ui/pictureview.h"
 #include "ui/statusbar.h"
@@ -16,8 +20,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
-#include <QImageReader>
-#include <QSaveFile>
+#include <QScrollBar>
 #include <QScreen>
 #include <QMenuBar>
 #include <QScrollArea>
@@ -27,12 +30,6 @@
 #include <QStandardPaths>
 
 namespace tf::ui {
-
-namespace {
-// Loaded pictures larger than this box are brought into it, so that work on screen stays
-// quick; Superformat work never passes through the picture.
-constexpr int LoadBox = 1600;
-} // namespace
 
 void MainWindow::startUp(SettingsStore &store)
 {
@@ -159,90 +156,174 @@ void MainWindow::applyOptions(const SystemOptions &o)
 
 bool MainWindow::openPicture(const QString &path)
 {
-    QImageReader reader(path);
-    reader.setAutoTransform(true);
-    QImage image = reader.read();
-    if (image.isNull()) {
-        m_session.ask(tr("Die Datei %1 kann nicht als Bild gelesen werden.").arg(QDir::toNativeSeparators(path)),
-                      Buttons::Ok, Icon::Exclamation);
-        return false;
-    }
-    image = image.convertToFormat(QImage::Format_RGB32);
-    if (image.width() > LoadBox || image.height() > LoadBox) {
-        cDIBSection dib;
-        dib.CreateFromPicture(image);
-        QSize fit = image.size().scaled(LoadBox, LoadBox, Qt::KeepAspectRatio);
-        if (auto small = dib.Resample(std::max(1, fit.width()), std::max(1, fit.height()))) {
-            QImage scaled(small->dib_width(), small->dib_height(), QImage::Format_RGB32);
-            DeviceContext to(&scaled, false);
-            small->PaintPicture(to, 0, 0);
-            image = scaled;
-        }
-    }
-    Workspace &ws = m_session.workspace();
-    ws.Bild_nachUndo();
-    ws.New_BildSize(image.width(), image.height());
-    ws.Bild.setPicture(image);
-    ws.Bild.markChanged();
-    ws.lastaction = QStringLiteral("BILDRESIZED");
-    ws.BildChanged = false;
-    m_fileName = QFileInfo(path).fileName();
-    m_settings.PDirRead = QFileInfo(path).absolutePath();
-    m_mru.AddFile(QFileInfo(path).absoluteFilePath());
-    updateRecentMenu();
-    refreshStatus();
-    Set_MDI_Caption();
-    return true;
+    return loadPictureFile(path, 1);
 }
 
-bool MainWindow::savePicture(const QString &path)
+bool MainWindow::loadPictureFile(const QString &path, int command)
 {
-    QString suffix = QFileInfo(path).suffix().toLower();
-    if (suffix == QLatin1String("jpeg"))
-        suffix = QStringLiteral("jpg");
-    if (suffix != QLatin1String("png") && suffix != QLatin1String("jpg") && suffix != QLatin1String("bmp")) {
-        m_session.ask(tr("Bilder werden als BMP, JPEG oder PNG gespeichert: die Endung %1 ist unbekannt.")
-                          .arg(suffix),
-                      Buttons::Ok, Icon::Exclamation);
-        return false;
-    }
-    // Written whole or not at all: a temporary file beside the target is renamed over it.
-    QSaveFile file(path);
-    const QImage &image = m_session.workspace().Bild.Image();
-    const bool ok = file.open(QIODevice::WriteOnly) &&
-                    image.save(&file, suffix.toUpper().toLatin1().constData(), suffix == QLatin1String("jpg") ? 100 : -1) &&
-                    file.commit();
-    if (!ok) {
-        m_session.ask(tr("Die Datei %1 kann nicht geschrieben werden.").arg(QDir::toNativeSeparators(path)),
-                      Buttons::Ok, Icon::Exclamation);
-        return false;
-    }
-    Workspace &ws = m_session.workspace();
-    ws.BildChanged = false;
-    m_fileName = QFileInfo(path).fileName();
-    m_settings.PDirWrite = QFileInfo(path).absolutePath();
-    m_mru.AddFile(QFileInfo(path).absoluteFilePath());
-    updateRecentMenu();
-    Set_MDI_Caption();
-    return true;
+    bool loaded = false;
+    guarded(QStringLiteral("LoadImage"), [&] {
+        const LoadResult r = LoadImage(path);
+        if (r.status == LoadResult::Status::Missing)
+            return; // a file removed since it was listed ends without a message
+        if (!r.loaded()) {
+            // The picture stays as it was; the status bar holds the reason.
+            m_status->setPanelText(sbrState, r.detail);
+            m_session.ask(corruptPictureText(true), Buttons::Ok, Icon::Exclamation);
+            return;
+        }
+        const LoadCommand which = LoadCommand(std::clamp(command, 1, 3));
+        const ImportChoice *import = nullptr;
+        if (which == LoadCommand::Import) {
+            PicImportDialog dialog(r.stored, m_importChoice, this);
+            dialog.exec();
+            m_importChoice = dialog.choice();
+            if (m_importChoice.Cancelled)
+                return;
+            import = &m_importChoice;
+        }
+        if (!Bild_Handle_Laden(m_session, r.image, loadDialogTitle(which), import))
+            return;
+        loaded = true;
+        m_paintHistory.clear();
+        m_picContainer->horizontalScrollBar()->setValue(0);
+        m_picContainer->verticalScrollBar()->setValue(0);
+        const QFileInfo file(path);
+        if (which == LoadCommand::Open) {
+            m_fileName = file.fileName();
+            SavePathFile.clear();
+            m_settings.PDirRead = file.absolutePath();
+            m_mru.AddFile(file.absoluteFilePath());
+            updateRecentMenu();
+        } else {
+            m_settings.PDirImport = file.absolutePath();
+        }
+        LoadLastDir[size_t(which)] = file.absolutePath();
+        if (m_store) {
+            m_settings.save(*m_store);
+        }
+        updateCommands();
+        refreshStatus();
+        Set_MDI_Caption();
+    });
+    return loaded;
+}
+
+void MainWindow::Menu_LoadImage(int Index)
+{
+    guarded(QStringLiteral("Menu_LoadImage"), [&] {
+        const int command = std::clamp(Index, 1, 3);
+        QString &lastDir = LoadLastDir[size_t(command)];
+        if (lastDir.isEmpty())
+            lastDir = command == 1 ? m_settings.PDirRead : m_settings.PDirImport;
+        // A shown selection is taken off first.
+        Workspace &ws = m_session.workspace();
+        ws.PicSelect.setVisible(false);
+        ws.picSelectC.setVisible(false);
+
+        static const char *const captions[] = {"", QT_TR_NOOP("Bild laden"),
+                                               QT_TR_NOOP("Bild importieren"),
+                                               QT_TR_NOOP("Web-Background-Bild")};
+        PSelectDialog dialog(m_session, tr(captions[command]), lastDir, m_settings.Openpreview != 0,
+                             this);
+        const bool ok = dialog.exec() == QDialog::Accepted;
+        m_settings.Openpreview = dialog.previewOn() ? 1 : 0;
+        const QString chosen = dialog.answer();
+        if (!ok || chosen.isEmpty() || chosen == QLatin1String("DIR"))
+            return;
+        lastDir = QFileInfo(chosen).absolutePath();
+        loadPictureFile(chosen, command);
+    });
+}
+
+bool MainWindow::savePicture(const QString &path, bool selection)
+{
+    bool saved = false;
+    guarded(QStringLiteral("Menu_SaveImage"), [&] {
+        const SaveName name = classSaveName(path);
+        Workspace &ws = m_session.workspace();
+        PictureBox *source = &ws.Bild;
+        if (selection) {
+            source = ws.PicSelect.Visible()    ? &ws.PicSelect
+                     : ws.picSelectC.Visible() ? &ws.picSelectC
+                                               : &ws.Bild;
+            m_session.DoEvents();
+        }
+        // A picture that is what its paints made carries their recipe.
+        const QStringList recipe =
+            source == &ws.Bild ? m_paintHistory.recipeFor(ws.Bild.Image().cacheKey()) : QStringList();
+        const WriteResult r = tf::savePicture(source->Image(), name.path, name.SaveTypeTag,
+                                              pictureMetaOf(m_session, recipe));
+        if (!r.ok()) {
+            m_session.ask(r.message, Buttons::Ok, Icon::Exclamation);
+            return;
+        }
+        saved = true;
+        const QFileInfo file(name.path);
+        m_settings.PDirWrite = file.absolutePath();
+        if (m_store)
+            m_settings.save(*m_store);
+        if (selection)
+            return;
+        SavePathFile = file.absoluteFilePath();
+        ws.BildChanged = false;
+        m_fileName = file.fileName();
+        m_mru.AddFile(file.absoluteFilePath());
+        updateRecentMenu();
+        Set_MDI_Caption();
+    });
+    return saved;
+}
+
+void MainWindow::Menu_SaveImage(int Index, bool selection)
+{
+    guarded(QStringLiteral("Menu_SaveImage"), [&] {
+        const Workspace &ws = m_session.workspace();
+        const bool selectionShown = ws.PicSelect.Visible() || ws.picSelectC.Visible();
+        selection = selection && selectionShown;
+        if (Index == 0 && !selection && !SavePathFile.isEmpty()) {
+            savePicture(SavePathFile);
+            return;
+        }
+        // The dialog starts in the last folder written to, preset to the present name's type.
+        QString folder = m_settings.PDirWrite;
+        const QString present = SavePathFile.isEmpty() ? m_fileName : QFileInfo(SavePathFile).fileName();
+        const QString preset = presetSaveType(present);
+        const QStringList filters{QStringLiteral("BMP - OS2 or Windows Bitmap (*.bmp)"),
+                                  QStringLiteral("JPG - JPEG - JFIF Compliant (*.jpg)"),
+                                  QStringLiteral("PNG - Portable Network Graphic Format (*.png)"),
+                                  QStringLiteral("All Files (*.*)")};
+        const QString presetFilter = preset == QLatin1String(".JPG")   ? filters[1]
+                                     : preset == QLatin1String(".BMP") ? filters[0]
+                                                                       : filters[2];
+        QFileDialog dialog(this, selection ? tr("Auswahl speichern") : tr("Bild speichern"), folder);
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setNameFilters(filters);
+        dialog.selectNameFilter(presetFilter);
+        // The overwrite question is our own, after the name is classed.
+        dialog.setOption(QFileDialog::DontConfirmOverwrite, true);
+        if (!present.isEmpty())
+            dialog.selectFile(QFileInfo(present).completeBaseName() + preset.toLower());
+        if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+            return;
+        const SaveName name = classSaveName(dialog.selectedFiles().constFirst());
+        if (Index == 1 && QFileInfo::exists(name.path) &&
+            m_session.ask(tr("Soll die Datei %1 überschrieben werden?")
+                              .arg(QDir::toNativeSeparators(name.path)),
+                          Buttons::YesNo, Icon::Question) != Answer::Yes)
+            return;
+        savePicture(name.path, selection);
+    });
 }
 
 void MainWindow::openDialog()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        this, tr("Bild öffnen"), m_settings.PDirRead,
-        tr("Bilder (*.bmp *.jpg *.jpeg *.png *.gif);;Alle Dateien (*)"));
-    if (!path.isEmpty())
-        openPicture(path);
+    Menu_LoadImage(1);
 }
 
 void MainWindow::saveAsDialog()
 {
-    const QString path = QFileDialog::getSaveFileName(
-        this, tr("Bild speichern"), m_settings.PDirWrite,
-        tr("PNG (*.png);;JPEG (*.jpg *.jpeg);;BMP (*.bmp)"));
-    if (!path.isEmpty())
-        savePicture(path);
+    Menu_SaveImage(1);
 }
 
 } // namespace tf::ui

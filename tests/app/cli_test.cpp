@@ -194,7 +194,7 @@ TEST_F(CliTest, ATypeWithoutPainterOrAnUnreadablePictureFailWithExitCodeOne)
     EXPECT_FALSE(QFile::exists(file("t.png")));
     const Result over = paint({QStringLiteral("--over"), file("missing.png")});
     EXPECT_EQ(over.code, 1);
-    EXPECT_EQ(over.err, QStringLiteral("tarvelle-forge: The picture %1 cannot be read.\n")
+    EXPECT_EQ(over.err, QStringLiteral("tarvelle-forge: The file %1 does not exist.\n")
                             .arg(file("missing.png")));
 }
 

@@ -98,7 +98,10 @@ TEST_F(MainWindowTest, OpenedAndSavedFilesEnterTheLastFileList)
     img.fill(Qt::red);
     const QString a = dir.filePath(QStringLiteral("a.png"));
     ASSERT_TRUE(img.save(a));
+    // Not fitted into the picture: the picture takes the file's size.
+    prompter.script({Answer::No});
     ASSERT_TRUE(window->openPicture(a));
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("Bild automatisch einpassen?"));
     EXPECT_EQ(window->session().workspace().BildW, 30);
     EXPECT_EQ(window->session().workspace().Bild.Point(29, 19), RGB(255, 0, 0));
     const QString b = dir.filePath(QStringLiteral("b.bmp"));
@@ -108,7 +111,17 @@ TEST_F(MainWindowTest, OpenedAndSavedFilesEnterTheLastFileList)
     EXPECT_EQ(window->recentFiles().file(1), b);
     EXPECT_TRUE(window->recentFiles().MenuCaption(2).startsWith(QStringLiteral("&2 ")));
 
+    // A file gone since it was listed ends without a message; a corrupt one says so.
+    const size_t asked = prompter.asked().size();
     EXPECT_FALSE(window->openPicture(dir.filePath(QStringLiteral("missing.png"))));
+    EXPECT_EQ(prompter.asked().size(), asked);
+    const QString bad = dir.filePath(QStringLiteral("bad.png"));
+    QFile f(bad);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write("\x89PNG\r\n\x1a\n and nothing more");
+    f.close();
+    EXPECT_FALSE(window->openPicture(bad));
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("Fehlerhaftes Bild - Siehe Statusbar!"));
     EXPECT_EQ(window->session().workspace().BildW, 30);
-    EXPECT_TRUE(prompter.lastText().contains(QStringLiteral("missing.png")));
+    EXPECT_EQ(window->session().workspace().Bild.Point(29, 19), RGB(255, 0, 0));
 }

@@ -1,0 +1,14 @@
+// libFuzzer target: the BMP decoder on arbitrary bytes.
+#include "fuzz_main.h"
+
+extern "C" int LLVMFuzzerInitialize(int *, char ***)
+{
+    tf::fuzz::startQt();
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
+{
+    tf::fuzz::decodeBoth(data, size, tf::decodeBmp);
+    return 0;
+}

@@ -1,0 +1,168 @@
+#include "files/picturefile.h"
+
+#include "core/dibsection.h"
+#include "files/bmpwriter.h"
+#include "files/jpegcodec.h"
+#include "files/pngcodec.h"
+#include "files/savename.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <array>
+
+namespace tf {
+
+namespace {
+
+LoadResult loadWith(const QString &file, const DecodeRequest &request)
+{
+    LoadResult r;
+    QFile f(file);
+    if (!QFileInfo(file).isFile() || !f.open(QIODevice::ReadOnly))
+        return r;
+    // The whole file at once: a decoder reads its header before it allocates the picture.
+    const QByteArray bytes = f.readAll();
+    Decoded d = decodePicture(bytes, request);
+    r.stored = d.stored;
+    if (!d.ok()) {
+        r.status = LoadResult::Status::Corrupt;
+        r.detail = d.detail.isEmpty() ? decodetext::noPicture() : d.detail;
+        return r;
+    }
+    r.status = LoadResult::Status::Loaded;
+    r.image = std::move(d.image);
+    return r;
+}
+
+} // namespace
+
+LoadResult LoadImage(const QString &file, LoadLimit limit)
+{
+    DecodeRequest request;
+    request.reduce = limit == LoadLimit::Box;
+    return loadWith(file, request);
+}
+
+LoadResult loadPreview(const QString &file, QSize box)
+{
+    DecodeRequest request;
+    request.preview = true;
+    request.box = box;
+    return loadWith(file, request);
+}
+
+QString corruptPictureText(bool seeStatusBar)
+{
+    return seeStatusBar ? QCoreApplication::translate("LoadImage",
+                                                      "Fehlerhaftes Bild - Siehe Statusbar!")
+                        : QCoreApplication::translate("LoadImage", "Fehlerhaftes Bild");
+}
+
+namespace {
+
+using Encoder = bool (*)(const QImage &, QIODevice &, const PictureMeta &, int quality, QString &);
+
+bool encodePng(const QImage &image, QIODevice &out, const PictureMeta &meta, int, QString &why)
+{
+    cDIBSection SaveDIB;
+    if (!SaveDIB.CreateFromPicture(image))
+        return false;
+    return SavePNG(SaveDIB, out, meta, &why);
+}
+
+bool encodeJpg(const QImage &image, QIODevice &out, const PictureMeta &meta, int quality,
+               QString &why)
+{
+    cDIBSection SaveDIB;
+    if (!SaveDIB.CreateFromPicture(image))
+        return false;
+    return SaveJPG(SaveDIB, out, quality, meta, &why);
+}
+
+bool encodeBmp(const QImage &image, QIODevice &out, const PictureMeta &meta, int, QString &)
+{
+    return writeBmp(image, out, meta.dpi);
+}
+
+struct SaveType {
+    const char *tag;
+    Encoder encode;
+};
+
+// The one list of the types a picture is saved as.
+constexpr std::array<SaveType, 3> saveTypes{{
+    {"PNG", encodePng},
+    {"JPG", encodeJpg},
+    {"BMP", encodeBmp},
+}};
+
+const SaveType *findSaveType(const QString &tag)
+{
+    for (const SaveType &t : saveTypes)
+        if (tag == QLatin1String(t.tag))
+            return &t;
+    return nullptr;
+}
+
+} // namespace
+
+WriteResult savePicture(const QImage &image, const QString &path, const QString &SaveTypeTag,
+                        const PictureMeta &meta, int jpegQuality)
+{
+    const SaveType *type = findSaveType(SaveTypeTag);
+    if (!type)
+        return {WriteFailure::Other,
+                writeFailureMessage(WriteFailure::Other, path, SaveTypeTag)};
+    return writeFileSafely(path, [&](QIODevice &out, QString &why) {
+        return type->encode(image, out, meta, jpegQuality, why);
+    });
+}
+
+QImage readPictureForCommand(const QString &path, LoadLimit limit, QString &message)
+{
+    const LoadResult r = LoadImage(path, limit);
+    if (r.status == LoadResult::Status::Missing) {
+        message = QCoreApplication::translate("LoadImage", "Die Datei %1 gibt es nicht.")
+                      .arg(QDir::toNativeSeparators(path));
+        return {};
+    }
+    if (!r.loaded()) {
+        message = QStringLiteral("%1: %2 (%3)").arg(corruptPictureText(), path, r.detail);
+        return {};
+    }
+    return r.image;
+}
+
+bool writePictureForCommand(const QImage &image, const QString &path, const PictureMeta &meta,
+                            QString &message)
+{
+    const QString tag = saveTypeOfSuffix(path);
+    if (tag.isEmpty()) {
+        message = QCoreApplication::translate("SafeFile",
+                                              "Bilder werden als .png, .jpg oder .bmp "
+                                              "gespeichert: %1")
+                      .arg(path);
+        return false;
+    }
+    const WriteResult r = savePicture(image, path, tag, meta);
+    message = r.message;
+    return r.ok();
+}
+
+PictureMeta readPictureMeta(const QString &path)
+{
+    QFile f(path);
+    if (!f.open(QIODevice::ReadOnly))
+        return {};
+    // The header chunks and segments lie near the start; a recipe is at most 64 kB.
+    const QByteArray head = f.read(1 << 20);
+    switch (sniffPicture(head)) {
+    case PictureKind::Png: return readPngMeta(head);
+    case PictureKind::Jpeg: return readJpegMeta(head);
+    default: return {};
+    }
+}
+
+} // namespace tf
