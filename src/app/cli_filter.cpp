@@ -7,15 +7,14 @@
 #include "filters/colourcommand.h"
 #include "filters/dografic.h"
 #include "filters/filtercommand.h"
+#include "files/picturefile.h"
 #include "filters/filtertable.h"
 #include "paint/session.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
 #include <QImage>
-#include <QImageReader>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <optional>
 #include <vector>
 
@@ -24,23 +23,16 @@ namespace tf::cli {
 namespace {
 
 // ---- Reading and writing pictures: the one place the command's files go through. ---------
-QImage readPicture(const QString &path)
+// A filter works on the picture at its own size (up to the surface's limit), as batch work
+// expects; the desktop program's 1600 box is for the screen.
+QImage readPicture(const QString &path, QString &message)
 {
-    QImageReader reader(path);
-    return reader.read().convertToFormat(QImage::Format_RGB32);
+    return readPictureForCommand(path, LoadLimit::KeepSize, message);
 }
 
-bool writePicture(const QImage &image, const QString &path)
+bool writePicture(const QImage &image, const QString &path, QString &message)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) return false;
-    const QByteArray format = QFileInfo(path).suffix().toLower().toLatin1();
-    if (!image.convertToFormat(QImage::Format_RGB888)
-             .save(&file, format.isEmpty() ? "png" : format.constData())) {
-        file.cancelWriting();
-        return false;
-    }
-    return file.commit();
+    return writePictureForCommand(image, path, PictureMeta{}, message);
 }
 
 // ---- One step of the chain ------------------------------------------------------------------
@@ -262,9 +254,10 @@ int runFilters(const QStringList &args)
 int runFilter(const QStringList &args)
 {
     const FilterOptions o = parseFilterOptions(args);
-    QImage picture = readPicture(o.input);
+    QString message;
+    QImage picture = readPicture(o.input, message);
     if (picture.isNull()) {
-        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht gelesen werden.").arg(o.input));
+        printError(message);
         return ExitFailed;
     }
     CliPrompter prompter;
@@ -282,8 +275,8 @@ int runFilter(const QStringList &args)
             return ExitFailed;
         }
     }
-    if (!writePicture(picture, o.output)) {
-        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht geschrieben werden.").arg(o.output));
+    if (!writePicture(picture, o.output, message)) {
+        printError(message);
         return ExitFailed;
     }
     return ExitOk;
