@@ -12,8 +12,8 @@
 //   1 "Fixed 4 squares"       the quadrant values as they are: four gradient squares
 //   2 "Randomized 4 squares"  the ramp repeats every a pixels of the larger distance:
 //                             square rings in each quadrant
-//   3 "Randomized bars"       the mean of the ramp along y and a ramp over x Mod b
-//                             (upper quadrants) or y Mod c (lower ones)
+//   3 "Randomized bars"       the mean of the ramp along y and a ramp across bars of
+//                             b + 24 pixels (upper half) or c + 24 pixels (lower half)
 //   4 "Neonbars vertical"     bars d wide lit in their middle, with a white core
 //   5 "Horizon"               the upper half from the start colour to a bright haze at the
 //                             horizon, the lower half from the end colour into dark ground
@@ -101,7 +101,8 @@ struct Painting {
         }
         case 3: {
             const auto v = value(q, yy);
-            const double t = lower ? double(Mod(y, c)) * cy / c : double(Mod(x, b)) * cy / b;
+            const int bar = (lower ? c : b) + 24;
+            const double t = double(Mod(x, bar)) * cy / bar;
             const auto u = value(q, t);
             return pixelOf((v[0] + u[0]) / 2, (v[1] + u[1]) / 2, (v[2] + u[2]) / 2);
         }
@@ -146,7 +147,7 @@ struct Painting {
         case 10: {
             const auto v = value(q, yy);
             const double off = Mod(x, e) - e / 2.0;
-            const double glow = std::exp(-off * off / 5.0);
+            const double glow = std::exp(-off * off / 8.0);
             const double core = 255.0 * 0.5 * std::pow(glow, 4.0);
             const double dark = 0.15;
             return pixelOf(v[0] * (dark + glow) + core, v[1] * (dark + glow) + core,
