@@ -137,10 +137,12 @@ void Create_Gradientsimple(PaintContext &ctx, int16_t set_nr, bool use_duos, Col
                            ColorLong duocolo2, bool do_transparence)
 {
     PictureBox &bild = ctx.XBild;
-    ctx.Bild_CLEAR();
+    const int pen = penOf(ctx);
+    // With a pen of 1 the lines cover every pixel, so clearing first would only write the
+    // picture twice.
+    if (pen > 1) ctx.Bild_CLEAR();
     if (do_transparence) Start_Transparent(ctx.session);
 
-    const int pen = penOf(ctx);
     bild.setDrawWidth(std::min(pen, 16));
     const ColorPair c = colorPairRule(ctx.session, use_duos, duocolo1, duocolo2);
     const int w = bild.Width(), h = bild.Height();
