@@ -6,6 +6,7 @@
 
 #include <QRect>
 #include <algorithm>
+#include <climits>
 #include <cmath>
 
 namespace tf {
@@ -56,7 +57,7 @@ void AA_Line(PictureBox &picture, double x1, double y1, double x2, double y2, Co
     const int mMax = steep ? h - 1 : w - 1, nMax = steep ? w - 1 : h - 1;
     const int kFirst = std::max(0, int(std::floor(m0 + 0.5)));
     const int kLast = std::min(mMax, int(std::ceil(m1 - 0.5)));
-    QRect changed;
+    int left = INT_MAX, top = INT_MAX, right = INT_MIN, bottom = INT_MIN;
     for (int k = kFirst; k <= kLast; ++k) {
         const double share = overlap(m0, m1, k - 0.5, k + 0.5);
         if (share <= 0.0) continue;
@@ -73,10 +74,13 @@ void AA_Line(PictureBox &picture, double x1, double y1, double x2, double y2, Co
                 dc.setPixel(x, y, Mix_Colors(color, dc.pixel(x, y), f));
             else
                 continue;
-            changed |= QRect(x, y, 1, 1);
+            left = std::min(left, x);
+            right = std::max(right, x);
+            top = std::min(top, y);
+            bottom = std::max(bottom, y);
         }
     }
-    if (!changed.isEmpty()) picture.markChanged(changed);
+    if (left <= right) picture.markChanged(QRect(QPoint(left, top), QPoint(right, bottom)));
 }
 
 } // namespace tf
