@@ -94,7 +94,11 @@ void frequencyWaves(int selector, const QImage &first, QImage &result, const Fil
     const auto c0 = bytesOf(args.colours[0]);
     const auto c1 = bytesOf(args.colours[1]);
     const double alpha = std::clamp(args.sliders[1] / 100.0, 0.0, 1.0);
-    const double length = std::max(2.0, args.sliders[0] / 100.0 * std::max(w, h));
+    // The wave length in percent of the longer side: the frequency itself up to 100, above
+    // it 10000 / frequency (so a frequency drawn as 100 / Rnd gives Rnd * 100 percent).
+    const double f = std::max(1, args.sliders[0]);
+    const double percent = f <= 100 ? f : 10000.0 / f;
+    const double length = std::max(4.0, percent / 100.0 * std::max(w, h));
     const double k = 2.0 * Pi / length;
     const double x1 = args.position.x(), y1 = args.position.y();
     const double x2 = args.position2.x(), y2 = args.position2.y();

@@ -17,8 +17,9 @@
 //
 // frequencyWaves (DoGraficFilters2 3 and 4) lays a wave between the colours over `first`
 // into `result`, each pixel result = colour - (1 - a) * (colour - first) with a =
-// sliders[1] / 100 and colour = c0 * v + c1 * (1 - v). The wave length is sliders[0] percent
-// of the picture's longer side (at least 2 pixels). Selector 3, parallel waves:
+// sliders[1] / 100 and colour = c0 * v + c1 * (1 - v). The wave is f percent of the picture's
+// longer side long for a frequency f = sliders[0] up to 100, 10000 / f percent above (at least
+// 4 pixels). Selector 3, parallel waves:
 // v = (1 + cos(2 pi s / length)) / 2 with s the distance along the direction from `position`
 // to `position2`; selector 4, circular waves from both points:
 // v = (2 + cos(2 pi d1 / length) + cos(2 pi d2 / length)) / 4.
