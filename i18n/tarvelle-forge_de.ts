@@ -55,10 +55,6 @@
         <translation>Unbekanntes Steuerelement: %1</translation>
     </message>
     <message>
-        <source>Das Bild %1 kann nicht gelesen werden.</source>
-        <translation>Das Bild %1 kann nicht gelesen werden.</translation>
-    </message>
-    <message>
         <source>Das Malen wurde abgebrochen.</source>
         <translation>Das Malen wurde abgebrochen.</translation>
     </message>
@@ -121,6 +117,18 @@
     <message>
         <source>Aufruf: tarvelle-forge recipe DATEI</source>
         <translation>Aufruf: tarvelle-forge recipe DATEI</translation>
+    </message>
+    <message>
+        <source>Es fehlt der Ordner (-o ORDNER).</source>
+        <translation>Es fehlt der Ordner (-o ORDNER).</translation>
+    </message>
+    <message>
+        <source>Der Ordner %1 kann nicht angelegt werden.</source>
+        <translation>Der Ordner %1 kann nicht angelegt werden.</translation>
+    </message>
+    <message>
+        <source>„%1“ konnte nicht gemalt werden.</source>
+        <translation>„%1“ konnte nicht gemalt werden.</translation>
     </message>
 </context>
 <context>
@@ -264,6 +272,122 @@
     <message>
         <source>Superformat Höhe</source>
         <translation>Superformat Höhe</translation>
+    </message>
+    <message>
+        <source>Chromofilter</source>
+        <translation>Chromofilter</translation>
+    </message>
+    <message>
+        <source>Bandbreite</source>
+        <translation>Bandbreite</translation>
+    </message>
+    <message>
+        <source>Ausrichtung</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Oben</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Unten</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Rechts</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Rahmenverlauf</source>
+        <translation>Rahmenverlauf</translation>
+    </message>
+    <message>
+        <source>Farbanteil</source>
+        <translation>Farbanteil</translation>
+    </message>
+    <message>
+        <source>Verlaufsart</source>
+        <translation>Verlaufsart</translation>
+    </message>
+    <message>
+        <source>Linear</source>
+        <translation>Linear</translation>
+    </message>
+    <message>
+        <source>Rahmen</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Rechteck</source>
+        <translation>Rechteck</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Richtung</source>
+        <translation>Richtung</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Vertikal</source>
+        <translation>Vertikal</translation>
+    </message>
+    <message>
+        <source>Farben tauschen</source>
+        <translation>Farben tauschen</translation>
+    </message>
+    <message>
+        <source>Weicher Verlauf</source>
+        <translation>Weicher Verlauf</translation>
+    </message>
+    <message>
+        <source>Rand links und rechts</source>
+        <translation>Rand links und rechts</translation>
+    </message>
+    <message>
+        <source>Rand oben und unten</source>
+        <translation>Rand oben und unten</translation>
+    </message>
+    <message>
+        <source>Passepartout</source>
+        <translation>Passepartout</translation>
+    </message>
+    <message>
+        <source>Passepartout-Breite</source>
+        <translation>Passepartout-Breite</translation>
+    </message>
+    <message>
+        <source>Frequenzen</source>
+        <translation>Frequenzen</translation>
+    </message>
+    <message>
+        <source>Wellenform</source>
+        <translation>Wellenform</translation>
+    </message>
+    <message>
+        <source>Kreiswellen</source>
+        <translation>Kreiswellen</translation>
+    </message>
+    <message>
+        <source>Parallele Wellen</source>
+        <translation>Parallele Wellen</translation>
+    </message>
+    <message>
+        <source>Deckkraft</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Wellenzüge</source>
+        <translation>Wellenzüge</translation>
     </message>
 </context>
 <context>

@@ -55,10 +55,6 @@
         <translation>Unknown control: %1</translation>
     </message>
     <message>
-        <source>Das Bild %1 kann nicht gelesen werden.</source>
-        <translation>The picture %1 cannot be read.</translation>
-    </message>
-    <message>
         <source>Das Malen wurde abgebrochen.</source>
         <translation>The paint was interrupted.</translation>
     </message>
@@ -121,6 +117,18 @@
     <message>
         <source>Aufruf: tarvelle-forge recipe DATEI</source>
         <translation>Usage: tarvelle-forge recipe FILE</translation>
+    </message>
+    <message>
+        <source>Es fehlt der Ordner (-o ORDNER).</source>
+        <translation>The folder is missing (-o FOLDER).</translation>
+    </message>
+    <message>
+        <source>Der Ordner %1 kann nicht angelegt werden.</source>
+        <translation>The folder %1 cannot be made.</translation>
+    </message>
+    <message>
+        <source>„%1“ konnte nicht gemalt werden.</source>
+        <translation>"%1" could not be painted.</translation>
     </message>
 </context>
 <context>
@@ -264,6 +272,122 @@
     <message>
         <source>Superformat Höhe</source>
         <translation>Supersize height</translation>
+    </message>
+    <message>
+        <source>Chromofilter</source>
+        <translation>Chromo filter</translation>
+    </message>
+    <message>
+        <source>Bandbreite</source>
+        <translation>Band width</translation>
+    </message>
+    <message>
+        <source>Ausrichtung</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Oben</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Unten</source>
+        <translation>Bottom</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Rechts</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>Rahmenverlauf</source>
+        <translation>Frame gradient</translation>
+    </message>
+    <message>
+        <source>Farbanteil</source>
+        <translation>Colour share</translation>
+    </message>
+    <message>
+        <source>Verlaufsart</source>
+        <translation>Gradient kind</translation>
+    </message>
+    <message>
+        <source>Linear</source>
+        <translation>Linear</translation>
+    </message>
+    <message>
+        <source>Rahmen</source>
+        <translation>Frame</translation>
+    </message>
+    <message>
+        <source>Rechteck</source>
+        <translation>Rectangle</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Richtung</source>
+        <translation>Direction</translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>Vertikal</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>Farben tauschen</source>
+        <translation>Swap colours</translation>
+    </message>
+    <message>
+        <source>Weicher Verlauf</source>
+        <translation>Soft gradient</translation>
+    </message>
+    <message>
+        <source>Rand links und rechts</source>
+        <translation>Border left and right</translation>
+    </message>
+    <message>
+        <source>Rand oben und unten</source>
+        <translation>Border top and bottom</translation>
+    </message>
+    <message>
+        <source>Passepartout</source>
+        <translation>Passe-partout</translation>
+    </message>
+    <message>
+        <source>Passepartout-Breite</source>
+        <translation>Passe-partout width</translation>
+    </message>
+    <message>
+        <source>Frequenzen</source>
+        <translation>Frequencies</translation>
+    </message>
+    <message>
+        <source>Wellenform</source>
+        <translation>Wave form</translation>
+    </message>
+    <message>
+        <source>Kreiswellen</source>
+        <translation>Circular waves</translation>
+    </message>
+    <message>
+        <source>Parallele Wellen</source>
+        <translation>Parallel waves</translation>
+    </message>
+    <message>
+        <source>Deckkraft</source>
+        <translation>Opacity</translation>
+    </message>
+    <message>
+        <source>Wellenzüge</source>
+        <translation>Wave trains</translation>
     </message>
 </context>
 <context>

@@ -30,6 +30,10 @@ const char *const usage =
     "  filter NUMBER|NAME IN -o OUT [OPTIONS] [--then NAME [OPTIONS] ...]\n"
     "                         run filters on a picture, one after the other\n"
     "  recipe FILE            the paint commands that made a picture file (PNG or JPEG)\n"
+    "  gallery -o DIR [--size WxH] [--seed N] [--group G]\n"
+    "                         paint every type that paints into DIR (KEY.png each) and\n"
+    "                         write DIR/index.html with the captions and command lines\n"
+    "                         (default size 256x256, seed 1, all groups)\n"
     "\n"
     "Options of paint:\n"
     "  -o, --output FILE      the picture to write; .png, .jpg or .bmp by its extension\n"
@@ -133,6 +137,7 @@ int run(int argc, char **argv)
         {QStringLiteral("filters"), runFilters},
         {QStringLiteral("filter"), runFilter},
         {QStringLiteral("recipe"), runRecipe},
+        {QStringLiteral("gallery"), runGallery},
     };
     const auto it = commands.find(command);
     if (it == commands.end()) {

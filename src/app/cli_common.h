@@ -77,5 +77,6 @@ int runPaint(const QStringList &args);
 int runFilters(const QStringList &args);
 int runFilter(const QStringList &args);
 int runRecipe(const QStringList &args);
+int runGallery(const QStringList &args);
 
 } // namespace tf::cli

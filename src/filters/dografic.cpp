@@ -2,6 +2,7 @@
 
 #include "core/fault.h"
 #include "filters/filterrun.h"
+#include "filters/gradientkernels.h"
 #include "filters/filtertable.h"
 #include "paint/session.h"
 #include "paint/transparency.h"
@@ -57,7 +58,7 @@ bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &
 }
 
 bool DoGraficFilters2(Session &s, int selector, const QImage &first, QImage &second,
-                      double factor)
+                      double factor, const FilterArgs &args)
 {
     if (s.runState().filtering()) return false;
     BusyScope busy(s);
@@ -72,6 +73,10 @@ bool DoGraficFilters2(Session &s, int selector, const QImage &first, QImage &sec
         case 2:
             result = first.convertToFormat(QImage::Format_RGB32)
                          .scaled(second.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            break;
+        case 3:
+        case 4:
+            frequencyWaves(selector, first.convertToFormat(QImage::Format_RGB32), result, args);
             break;
         default:
             return;

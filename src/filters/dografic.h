@@ -25,9 +25,10 @@ bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &
 
 // The two-picture entry: selector 1 blends `first` (the new paint) over `second` (the old
 // picture) with `factor` as the transparency bracket does, 2 scales `first` smoothly into
-// the size of `second`. The result is in `second`. Other selectors change nothing. Faults are
-// reported as "DoGraficFilters2 [<selector>]  [<description>]".
+// the size of `second`, 3 and 4 lay the parallel and the circular waves of `args` over `first`
+// (see gradientkernels.h). The result is in `second`. Other selectors change nothing. Faults
+// are reported as "DoGraficFilters2 [<selector>]  [<description>]".
 bool DoGraficFilters2(Session &s, int selector, const QImage &first, QImage &second,
-                      double factor);
+                      double factor, const FilterArgs &args = FilterArgs());
 
 } // namespace tf

@@ -29,6 +29,21 @@ struct FilterArgs {
     // whole, 1 leaves the picture) and the width of a graded frame (0: the whole picture).
     double keep = 0.0;
     int border = 0;
+    // The frame gradient of filter 45: with `on` the mix runs from "Color from" to
+    // "Color to/back" as a gradient of `style` (0 linear, 1 frame, 2 rectangle, 3 ellipse),
+    // see gradientkernels.h.
+    struct FrameGradient {
+        bool on = false;
+        int style = 1;
+        bool horizontal = true; // the linear gradient runs from left to right, else top down
+        bool swap = false;      // the two colours change places
+        bool soft = true;       // an eased rather than a straight ramp
+        // Frame widths at the left and right, at the top and bottom, and of the passepartout
+        // (a band of "Color from" round the edge; below 1 none).
+        std::array<int, 3> borders{0, 0, -1};
+    } frame;
+    // The second point of the two-point waves of DoGraficFilters2 (the first is `position`).
+    QPoint position2{-1, -1};
 };
 
 } // namespace tf

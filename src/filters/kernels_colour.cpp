@@ -2,6 +2,7 @@
 #include "filters/kernels.h"
 
 #include "filters/filterrun.h"
+#include "filters/gradientkernels.h"
 #include "filters/hls.h"
 #include "paint/transparency.h"
 
@@ -230,6 +231,10 @@ void filterAddLight(FilterRun &run)
 // none at its inner side.
 void filterColourMix(FilterRun &run)
 {
+    if (run.args.frame.on) {
+        frameGradient(run);
+        return;
+    }
     const auto k = bytesOf(run.args.colours[0]);
     const double keep = run.args.keep;
     const int border = run.args.border;

@@ -1,5 +1,7 @@
 #include "generators/painters.h"
 
+#include "generators/gradientpanels.h"
+#include "generators/gradients.h"
 #include "generators/polygraphics.h"
 #include "paint/grafdialogpanel.h"
 
@@ -69,28 +71,28 @@ std::span<const PainterEntry> painterTable()
         {"Rose", nullptr, Prepare},
         {"Rose-Crazy", nullptr, Prepare},
         // Group 5
-        {"H-Gradient", nullptr, Prepare},
-        {"V-Gradient", nullptr, Prepare},
-        {"Chromo-Steps", nullptr, Prepare},
-        {"Framegradient-Transp", nullptr, Prepare},
-        {"Frequenzgradient-Transp", nullptr, Prepare},
+        {"H-Gradient", paintHGradient, Prepare},
+        {"V-Gradient", paintVGradient, Prepare},
+        {"Chromo-Steps", Create_GradientChromo, Prepare},
+        {"Framegradient-Transp", Create_GradientFrames, Prepare},
+        {"Frequenzgradient-Transp", Create_GradientFrequences, Prepare},
         {"Radial", nullptr, Prepare},
         {"Sunburst", nullptr, Prepare},
         {"Radial-4spirals", nullptr, Prepare},
-        {"Neonbars vertical", nullptr, Prepare},
-        {"Neon vertical", nullptr, Prepare},
-        {"Horizon", nullptr, Prepare},
-        {"Lense", nullptr, Prepare},
-        {"Sky gradient", nullptr, Prepare},
+        {"Neonbars vertical", paintNeonbarsVertical, Prepare},
+        {"Neon vertical", paintNeonVertical, Prepare},
+        {"Horizon", paintHorizon, Prepare},
+        {"Lense", paintLense, Prepare},
+        {"Sky gradient", paintSkyGradient, Prepare},
         {"Mountains-Gradient", nullptr, Prepare},
-        {"Fixed 4 squares", nullptr, Prepare},
-        {"Randomized 4 squares", nullptr, Prepare},
-        {"Randomized bars", nullptr, Prepare},
-        {"Random Lines", nullptr, Prepare},
-        {"Random Noise", nullptr, Prepare},
+        {"Fixed 4 squares", paintFixed4Squares, Prepare},
+        {"Randomized 4 squares", paintRandomized4Squares, Prepare},
+        {"Randomized bars", paintRandomizedBars, Prepare},
+        {"Random Lines", paintRandomLines, Prepare},
+        {"Random Noise", paintRandomNoise, Prepare},
         {"Jalousie", nullptr, Prepare},
-        {"H-GradientCrazy", nullptr, Prepare},
-        {"V-GradientCrazy", nullptr, Prepare},
+        {"H-GradientCrazy", paintHGradientCrazy, Prepare},
+        {"V-GradientCrazy", paintVGradientCrazy, Prepare},
         // Group 6
         {"Exchange Rates", nullptr, Prepare},
         {"Mountains-Pen", nullptr, Prepare},
@@ -146,6 +148,7 @@ void registerAllPanels()
 {
     static const bool once = [] {
         registerPaintPanels();
+        registerGradientPanels();
         return true;
     }();
     (void)once;

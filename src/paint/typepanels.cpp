@@ -9,7 +9,11 @@ namespace tf {
 std::span<const TypePanel> typePanels()
 {
     // Each family adds its types here as its panel lands.
-    static constexpr std::array<TypePanel, 0> table{};
+    static constexpr TypePanel table[] = {
+        {"Chromo-Steps", "feat_24Chromo"},
+        {"Framegradient-Transp", "feat_25FrameGradient"},
+        {"Frequenzgradient-Transp", "feat_26Frequenz"},
+    };
     return table;
 }
 

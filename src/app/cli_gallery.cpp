@@ -1,0 +1,207 @@
+// `tarvelle-forge gallery -o DIR [--size WxH] [--seed N] [--group G]`: the contact sheet of
+// every type that paints. Each type is painted on a session of its own, as `paint` would paint
+// it, saved as DIR/<key>.png, and shown on DIR/index.html with its two captions and the
+// command line that paints it again.
+#include "app/cli_common.h"
+
+#include "generators/painters.h"
+#include "paint/catalogue.h"
+#include "paint/grafmenu.h"
+#include "paint/paintdriver.h"
+#include "paint/paintrecord.h"
+#include "paint/session.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QImage>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <QTemporaryDir>
+#include <optional>
+
+namespace tf::cli {
+
+namespace {
+
+struct GalleryOptions {
+    QString dir;
+    QSize size{256, 256};
+    uint32_t seed = 1;
+    std::optional<int> group;
+};
+
+int number(const QString &option, const QString &text, long long min, long long max)
+{
+    bool ok = false;
+    const long long n = text.toLongLong(&ok);
+    if (!ok || n < min || n > max)
+        throw UsageError(
+            QCoreApplication::translate("Cli", "Ungültiger Wert für %1: %2").arg(option, text));
+    return int(n);
+}
+
+GalleryOptions parseGalleryOptions(const QStringList &words)
+{
+    GalleryOptions o;
+    Arguments a(words);
+    while (!a.atEnd()) {
+        const QString w = a.next();
+        if (w == QLatin1String("-o") || w == QLatin1String("--output")) {
+            o.dir = a.valueOf(w);
+        } else if (w == QLatin1String("--size")) {
+            static const QRegularExpression re(QStringLiteral(R"(^(\d{1,4})[xX](\d{1,4})$)"));
+            const QString v = a.valueOf(w);
+            const auto m = re.match(v);
+            const int width = m.hasMatch() ? m.captured(1).toInt() : 0;
+            const int height = m.hasMatch() ? m.captured(2).toInt() : 0;
+            if (width < 1 || height < 1)
+                throw UsageError(QCoreApplication::translate(
+                                     "Cli", "Ungültige Größe: %1 (BREITExHÖHE, 1 bis 14000)")
+                                     .arg(v));
+            o.size = QSize(width, height);
+        } else if (w == QLatin1String("--seed")) {
+            o.seed = uint32_t(number(w, a.valueOf(w), 0, 0x7FFFFFFF));
+        } else if (w == QLatin1String("--group")) {
+            o.group = number(w, a.valueOf(w), 1, GroupCount);
+        } else {
+            throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Option: %1").arg(w));
+        }
+    }
+    if (o.dir.isEmpty())
+        throw UsageError(QCoreApplication::translate("Cli", "Es fehlt der Ordner (-o ORDNER)."));
+    return o;
+}
+
+// "Neon vertical" -> "Neon_vertical.png", as `paint` names its picture.
+QString pictureFileName(const QString &key)
+{
+    QString name = key;
+    name.replace(QRegularExpression(QStringLiteral("[^A-Za-z0-9_-]")), QStringLiteral("_"));
+    return name + QStringLiteral(".png");
+}
+
+struct Sheet {
+    QString key, english, german, file, command;
+};
+
+// Paints one type as `tarvelle-forge paint KEY --size WxH --seed N` does; answers the
+// picture, empty when the paint failed, and the record it left.
+QImage paintOne(const QString &key, const GalleryOptions &o, QTemporaryDir &temp,
+                std::optional<PaintRecord> &record)
+{
+    CliPrompter prompter;
+    RecordingStatus status;
+    Session s;
+    s.setPainters(painterTable());
+    s.setPrompter(&prompter);
+    s.setStatus(&status);
+    if (temp.isValid()) s.workspace().setTempDir(temp.path());
+    s.workspace().New_BildSize(o.size.width(), o.size.height());
+    const TypeLocation where = *findType(key);
+    mn_Grafmodes(s, where.group);
+    ListBoxType_Click(s, where.listIndex);
+    s.paint().nextSeed = o.seed;
+    if (BtnPaint_Click(s) != PaintOutcome::Painted || prompter.faultSeen()) return QImage();
+    record = s.paint().lastPaint;
+    return s.workspace().Bild.Image();
+}
+
+QString indexPage(const std::vector<std::pair<int, std::vector<Sheet>>> &groups,
+                  const GalleryOptions &o)
+{
+    QString html;
+    html += QStringLiteral(
+        "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
+        "<title>Tarvelle-Forge gallery</title>\n<style>\n"
+        "body{font-family:sans-serif;background:#f4f4f2;color:#222;margin:24px}\n"
+        "h1{font-size:22px}h2{font-size:18px;margin-top:28px;border-bottom:1px solid #ccc}\n"
+        ".sheet{display:flex;flex-wrap:wrap;gap:18px}\n"
+        "figure{margin:0;width:%1px;background:#fff;padding:8px;box-shadow:0 1px 3px #0003}\n"
+        "figure img{display:block;width:%1px;height:auto}\n"
+        "figcaption{font-size:13px;margin-top:6px}\n.de{color:#555}\n"
+        "code{display:block;font-size:10px;color:#336;word-break:break-all;margin-top:4px}\n"
+        "</style>\n</head>\n<body>\n<h1>Tarvelle-Forge gallery</h1>\n"
+        "<p>Every type that paints, at %2 &times; %3 pixels, seed %4.</p>\n")
+                .arg(std::min(o.size.width(), 256))
+                .arg(o.size.width())
+                .arg(o.size.height())
+                .arg(o.seed);
+    for (const auto &[group, sheets] : groups) {
+        html += QStringLiteral("<h2>%1. %2 / %3</h2>\n<div class=\"sheet\">\n")
+                    .arg(group)
+                    .arg(groupCaption(group, Language::English)
+                             .replace(QLatin1String("&&"), QLatin1String("&"))
+                             .toHtmlEscaped(),
+                         groupCaption(group, Language::German)
+                             .replace(QLatin1String("&&"), QLatin1String("&"))
+                             .toHtmlEscaped());
+        for (const Sheet &sheet : sheets)
+            html += QStringLiteral("<figure><img src=\"%1\" alt=\"%2\"><figcaption>"
+                                   "<b>%3</b><br><span class=\"de\">%4</span>"
+                                   "<code>%5</code></figcaption></figure>\n")
+                        .arg(sheet.file.toHtmlEscaped(), sheet.key.toHtmlEscaped(),
+                             sheet.english.simplified().toHtmlEscaped(),
+                             sheet.german.simplified().toHtmlEscaped(),
+                             sheet.command.toHtmlEscaped());
+        html += QStringLiteral("</div>\n");
+    }
+    html += QStringLiteral("</body>\n</html>\n");
+    return html;
+}
+
+bool writeFile(const QString &path, const QByteArray &bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) return false;
+    file.write(bytes);
+    return file.commit();
+}
+
+} // namespace
+
+int runGallery(const QStringList &args)
+{
+    const GalleryOptions o = parseGalleryOptions(args);
+    registerAllPanels();
+    if (!QDir().mkpath(o.dir)) {
+        printError(QCoreApplication::translate("Cli", "Der Ordner %1 kann nicht angelegt werden.")
+                       .arg(o.dir));
+        return ExitFailed;
+    }
+    const QDir dir(o.dir);
+    QTemporaryDir temp;
+    std::vector<std::pair<int, std::vector<Sheet>>> groups;
+    bool failed = false;
+    for (int g = 1; g <= GroupCount; ++g) {
+        if (o.group && *o.group != g) continue;
+        std::vector<Sheet> sheets;
+        for (const CatalogueRow &row : groupRows(g)) {
+            if (row.isSeparator()) continue;
+            const QString key = QString::fromUtf8(row.key);
+            const PainterEntry *entry = findPainter(painterTable(), key);
+            if (!entry || !entry->paint) continue;
+            std::optional<PaintRecord> record;
+            const QImage picture = paintOne(key, o, temp, record);
+            const QString file = pictureFileName(key);
+            if (picture.isNull() || !record || !picture.save(dir.filePath(file), "png")) {
+                printError(
+                    QCoreApplication::translate("Cli", "„%1“ konnte nicht gemalt werden.").arg(key));
+                failed = true;
+                continue;
+            }
+            sheets.push_back({key, QString::fromUtf8(row.english), QString::fromUtf8(row.german),
+                              file,
+                              paintCommandLine(*record) + QStringLiteral(" -o ") +
+                                  shellQuote(file)});
+        }
+        if (!sheets.empty()) groups.emplace_back(g, std::move(sheets));
+    }
+    if (!writeFile(dir.filePath(QStringLiteral("index.html")), indexPage(groups, o).toUtf8())) {
+        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht geschrieben werden.")
+                       .arg(dir.filePath(QStringLiteral("index.html"))));
+        return ExitFailed;
+    }
+    return failed ? ExitFailed : ExitOk;
+}
+
+} // namespace tf::cli
