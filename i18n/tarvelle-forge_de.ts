@@ -63,10 +63,6 @@
         <translation>Das Malen ist fehlgeschlagen.</translation>
     </message>
     <message>
-        <source>Das Bild %1 kann nicht geschrieben werden.</source>
-        <translation>Das Bild %1 kann nicht geschrieben werden.</translation>
-    </message>
-    <message>
         <source>Unbekannte Systempalette: %1 (1 bis %2)</source>
         <translation>Unbekannte Systempalette: %1 (1 bis %2)</translation>
     </message>

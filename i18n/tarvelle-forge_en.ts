@@ -1,4 +1,5 @@
-<?xml version='1.0' encoding='utf-8'?>
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
     <name>Cli</name>
@@ -63,10 +64,6 @@
         <translation>The paint failed.</translation>
     </message>
     <message>
-        <source>Das Bild %1 kann nicht geschrieben werden.</source>
-        <translation>The picture %1 cannot be written.</translation>
-    </message>
-    <message>
         <source>Unbekannte Systempalette: %1 (1 bis %2)</source>
         <translation>Unknown system palette: %1 (1 to %2)</translation>
     </message>
@@ -128,7 +125,7 @@
     </message>
     <message>
         <source>„%1“ konnte nicht gemalt werden.</source>
-        <translation>"%1" could not be painted.</translation>
+        <translation>&quot;%1&quot; could not be painted.</translation>
     </message>
 </context>
 <context>
@@ -513,7 +510,7 @@
     </message>
     <message>
         <source>„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.</source>
-        <translation>"%1" paints nothing yet: its painter is not built in.</translation>
+        <translation>&quot;%1&quot; paints nothing yet: its painter is not built in.</translation>
     </message>
     <message>
         <source>Startwert %1</source>

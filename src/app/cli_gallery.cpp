@@ -4,6 +4,9 @@
 // command line that paints it again.
 #include "app/cli_common.h"
 
+#include "files/picturefile.h"
+#include "files/picturemeta.h"
+#include "files/safefile.h"
 #include "generators/painters.h"
 #include "paint/catalogue.h"
 #include "paint/grafmenu.h"
@@ -15,7 +18,6 @@
 #include <QDir>
 #include <QImage>
 #include <QRegularExpression>
-#include <QSaveFile>
 #include <QTemporaryDir>
 #include <optional>
 
@@ -149,12 +151,13 @@ QString indexPage(const std::vector<std::pair<int, std::vector<Sheet>>> &groups,
     return html;
 }
 
-bool writeFile(const QString &path, const QByteArray &bytes)
+bool writeFile(const QString &path, const QByteArray &bytes, QString &message)
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) return false;
-    file.write(bytes);
-    return file.commit();
+    const WriteResult r = writeFileSafely(path, [&](QIODevice &out, QString &) {
+        return out.write(bytes) == bytes.size();
+    });
+    message = r.message;
+    return r.ok();
 }
 
 } // namespace
@@ -183,11 +186,20 @@ int runGallery(const QStringList &args)
             std::optional<PaintRecord> record;
             const QImage picture = paintOne(key, o, temp, record);
             const QString file = pictureFileName(key);
-            if (picture.isNull() || !record || !picture.save(dir.filePath(file), "png")) {
+            if (picture.isNull() || !record) {
                 printError(
                     QCoreApplication::translate("Cli", "„%1“ konnte nicht gemalt werden.").arg(key));
                 failed = true;
                 continue;
+            }
+            // Each picture carries its recipe, as every picture the program writes after a paint.
+            PictureMeta meta;
+            meta.software = softwareText();
+            meta.recipe = QStringList{paintCommandLine(*record)};
+            QString message;
+            if (!writePictureForCommand(picture, dir.filePath(file), meta, message)) {
+                printError(message);
+                return ExitFailed;
             }
             sheets.push_back({key, QString::fromUtf8(row.english), QString::fromUtf8(row.german),
                               file,
@@ -196,9 +208,10 @@ int runGallery(const QStringList &args)
         }
         if (!sheets.empty()) groups.emplace_back(g, std::move(sheets));
     }
-    if (!writeFile(dir.filePath(QStringLiteral("index.html")), indexPage(groups, o).toUtf8())) {
-        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht geschrieben werden.")
-                       .arg(dir.filePath(QStringLiteral("index.html"))));
+    QString message;
+    if (!writeFile(dir.filePath(QStringLiteral("index.html")), indexPage(groups, o).toUtf8(),
+                   message)) {
+        printError(message);
         return ExitFailed;
     }
     return failed ? ExitFailed : ExitOk;
