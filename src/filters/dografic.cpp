@@ -52,7 +52,7 @@ bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &
         FilterRun run(ws.D(), ws.S(), args, s);
         row->kernel(run);
         run.progress(100);
-        picture = ws.result();
+        picture = run.resized.isNull() ? ws.result() : run.resized;
     });
 }
 

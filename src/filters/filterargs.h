@@ -29,6 +29,15 @@ struct FilterArgs {
     // whole, 1 leaves the picture) and the width of a graded frame (0: the whole picture).
     double keep = 0.0;
     int border = 0;
+    // The distortions: the shape of filter 46 (the dialog-level number minus 1000), the
+    // background colour (the corners of a rotation, the room a bent or shrunk picture leaves),
+    // and the check boxes of stretching and rotation: "Größe anpassen" (the picture takes the
+    // size of the result) and "Hintergrund löschen" (uncovered room takes the background
+    // colour; without it the picture as it was shows there).
+    int selector = 0;
+    ColorLong background = 0xFFFFFF;
+    bool resizeToFit = false;
+    bool cleanBack = true;
 };
 
 } // namespace tf
