@@ -29,6 +29,12 @@ const char *const usage =
     "  filters                the filters: number, name, captions and arguments\n"
     "  filter NUMBER|NAME IN -o OUT [OPTIONS] [--then NAME [OPTIONS] ...]\n"
     "                         run filters on a picture, one after the other\n"
+    "  transform OPERATION [VALUE] IN -o OUT [OPTIONS]\n"
+    "                         turn, mirror, resize, crop or extend a picture:\n"
+    "                         turn-right, turn-left, turn-180, mirror-v (left to right),\n"
+    "                         mirror-h (top to bottom), half-mirror left-to-right|\n"
+    "                         right-to-left|top-to-bottom|bottom-to-top|prismatic,\n"
+    "                         size WxH, canvas WxH, crop X,Y,W,H\n"
     "\n"
     "Options of paint:\n"
     "  -o, --output FILE      the picture to write; .png, .jpg or .bmp by its extension\n"
@@ -56,6 +62,13 @@ const char *const usage =
     "                         the dialog's two colour fields\n"
     "  --at X,Y               the position picked on the picture\n"
     "  --seed N               the seed of the random numbers (noise, diffuse)\n"
+    "  --back #RRGGBB         the background colour (rotation corners, bending)\n"
+    "\n"
+    "Options of transform:\n"
+    "  --nearest              size: take the nearest pixel instead of smooth resampling\n"
+    "  --anchor PLACE         canvas: where the picture stands: top-left, top, top-right,\n"
+    "                         left, middle (default), right, bottom-left, bottom, bottom-right\n"
+    "  --back #RRGGBB         canvas: the colour of the new room (default white)\n"
     "\n"
     "Options of every command:\n"
     "  --lang de|en           the language of messages and captions\n"
@@ -127,6 +140,7 @@ int run(int argc, char **argv)
         {QStringLiteral("controls"), runControls},
         {QStringLiteral("filters"), runFilters},
         {QStringLiteral("filter"), runFilter},
+        {QStringLiteral("transform"), runTransform},
     };
     const auto it = commands.find(command);
     if (it == commands.end()) {

@@ -76,5 +76,6 @@ int runControls(const QStringList &args);
 int runPaint(const QStringList &args);
 int runFilters(const QStringList &args);
 int runFilter(const QStringList &args);
+int runTransform(const QStringList &args);
 
 } // namespace tf::cli

@@ -1,0 +1,204 @@
+// `tarvelle-forge transform OPERATION in -o out ...`: the picture commands (quarter turns,
+// mirrors, half mirrors, picture size, canvas size, cropping) on a picture, with the same code
+// as the desktop program's menus: the picture becomes Bild of a session of its own.
+#include "app/cli_common.h"
+
+#include "core/colour.h"
+#include "filters/geometry.h"
+#include "filters/mirrors.h"
+#include "paint/colourstate.h"
+#include "paint/session.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QRegularExpression>
+#include <QSaveFile>
+#include <QTemporaryDir>
+#include <functional>
+
+namespace tf::cli {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Cli", text);
+}
+
+struct TransformOptions {
+    QString operation, input, output;
+    QString value;         // WxH, X,Y,W,H or the half mirror's name
+    bool nearest = false;  // size: Resize instead of Resample
+    int anchor = 4;        // canvas: where the picture stands
+    ColorLong back = 0xFFFFFF;
+};
+
+// The operations that take a value, with the form of the value.
+bool takesValue(const QString &op)
+{
+    return op == QLatin1String("size") || op == QLatin1String("canvas") ||
+           op == QLatin1String("crop") || op == QLatin1String("half-mirror");
+}
+
+QSize parseSize(const QString &text)
+{
+    static const QRegularExpression re(QStringLiteral(R"(^(\d{1,6})x(\d{1,6})$)"));
+    const auto m = re.match(text);
+    if (!m.hasMatch()) throw UsageError(tr("Ungültige Größe: %1 (BxH)").arg(text));
+    return {m.captured(1).toInt(), m.captured(2).toInt()};
+}
+
+QRect parseRect(const QString &text)
+{
+    static const QRegularExpression re(QStringLiteral(R"(^(\d{1,6}),(\d{1,6}),(\d{1,6}),(\d{1,6})$)"));
+    const auto m = re.match(text);
+    if (!m.hasMatch()) throw UsageError(tr("Ungültiger Ausschnitt: %1 (X,Y,B,H)").arg(text));
+    return {m.captured(1).toInt(), m.captured(2).toInt(), m.captured(3).toInt(), m.captured(4).toInt()};
+}
+
+int parseAnchor(const QString &text)
+{
+    static const QStringList names = {
+        QStringLiteral("top-left"), QStringLiteral("top"), QStringLiteral("top-right"),
+        QStringLiteral("left"), QStringLiteral("middle"), QStringLiteral("right"),
+        QStringLiteral("bottom-left"), QStringLiteral("bottom"), QStringLiteral("bottom-right")};
+    const qsizetype i = names.indexOf(text.toLower());
+    if (i < 0) throw UsageError(tr("Ungültige Lage: %1 (top-left, top, ..., middle, ..., bottom-right)").arg(text));
+    return int(i);
+}
+
+HalfMirror parseHalfMirror(const QString &text)
+{
+    static const std::pair<const char *, HalfMirror> names[] = {
+        {"left-to-right", HalfMirror::LeftToRight}, {"right-to-left", HalfMirror::RightToLeft},
+        {"top-to-bottom", HalfMirror::TopToBottom}, {"bottom-to-top", HalfMirror::BottomToTop},
+        {"prismatic", HalfMirror::Prismatic}};
+    for (const auto &[name, which] : names)
+        if (text.compare(QLatin1String(name), Qt::CaseInsensitive) == 0) return which;
+    throw UsageError(tr("Ungültiger Halbspiegel: %1 (left-to-right, right-to-left, top-to-bottom, "
+                        "bottom-to-top, prismatic)").arg(text));
+}
+
+ColorLong parseColour(const QString &text)
+{
+    static const QRegularExpression re(QStringLiteral(R"(^#([0-9A-Fa-f]{6})$)"));
+    const auto m = re.match(text);
+    if (!m.hasMatch()) throw UsageError(tr("Ungültige Farbe: %1 (#RRGGBB)").arg(text));
+    return fromQRgb(m.captured(1).toUInt(nullptr, 16));
+}
+
+TransformOptions parseTransformOptions(const QStringList &words)
+{
+    TransformOptions o;
+    Arguments a(words);
+    while (!a.atEnd()) {
+        const QString w = a.next();
+        if (w == QLatin1String("-o") || w == QLatin1String("--output")) {
+            o.output = a.valueOf(w);
+        } else if (w == QLatin1String("--nearest")) {
+            o.nearest = true;
+        } else if (w == QLatin1String("--anchor")) {
+            o.anchor = parseAnchor(a.valueOf(w));
+        } else if (w == QLatin1String("--back")) {
+            o.back = parseColour(a.valueOf(w));
+        } else if (w.startsWith(QLatin1Char('-')) && w != QLatin1String("-")) {
+            throw UsageError(tr("Unbekannte Option: %1").arg(w));
+        } else if (o.operation.isEmpty()) {
+            o.operation = w;
+        } else if (takesValue(o.operation) && o.value.isEmpty()) {
+            o.value = w;
+        } else if (o.input.isEmpty()) {
+            o.input = w;
+        } else {
+            throw UsageError(tr("Überzähliges Argument: %1").arg(w));
+        }
+    }
+    if (o.operation.isEmpty()) throw UsageError(tr("Es fehlt die Umformung."));
+    if (takesValue(o.operation) && o.value.isEmpty())
+        throw UsageError(tr("Es fehlt der Wert der Umformung %1.").arg(o.operation));
+    if (o.input.isEmpty()) throw UsageError(tr("Es fehlt das Bild, das umgeformt wird."));
+    if (o.output.isEmpty()) throw UsageError(tr("Es fehlt die Ausgabe (-o DATEI)."));
+    return o;
+}
+
+// The command of an operation on the session.
+std::function<bool(Session &)> commandOf(const TransformOptions &o)
+{
+    const QString &op = o.operation;
+    if (op == QLatin1String("turn-right")) return [](Session &s) { return Menu_Turn(s, 1); };
+    if (op == QLatin1String("turn-180")) return [](Session &s) { return Menu_Turn(s, 2); };
+    if (op == QLatin1String("turn-left")) return [](Session &s) { return Menu_Turn(s, 3); };
+    if (op == QLatin1String("mirror-v")) return mn_MirrorV;
+    if (op == QLatin1String("mirror-h")) return mn_MirrorH;
+    if (op == QLatin1String("half-mirror")) {
+        const int index = int(parseHalfMirror(o.value));
+        return [index](Session &s) { return mn_KlappH(s, index); };
+    }
+    if (op == QLatin1String("size")) {
+        const QSize size = parseSize(o.value);
+        const bool smooth = !o.nearest;
+        return [size, smooth](Session &s) { return Menu_PictureSize(s, size.width(), size.height(), smooth); };
+    }
+    if (op == QLatin1String("canvas")) {
+        const QSize size = parseSize(o.value);
+        const int anchor = o.anchor;
+        return [size, anchor](Session &s) { return Menu_CanvasSize(s, size.width(), size.height(), anchor); };
+    }
+    if (op == QLatin1String("crop")) {
+        const QRect r = parseRect(o.value);
+        return [r](Session &s) {
+            // The part becomes a shown rectangular selection, as the selection tool leaves it.
+            Workspace &ws = s.workspace();
+            const QRect part = r.intersected(ws.Bild.Image().rect());
+            if (part.isEmpty()) return false;
+            ws.PicSelect.resize(part.width(), part.height());
+            ws.PicSelect.setPicture(ws.Bild.Image().copy(part));
+            ws.PicSelect.Move(part.x(), part.y());
+            ws.PicSelect.setVisible(true);
+            return Menu_CropToSelection(s);
+        };
+    }
+    throw UsageError(tr("Unbekannte Umformung: %1 (siehe --help)").arg(op));
+}
+
+} // namespace
+
+int runTransform(const QStringList &args)
+{
+    const TransformOptions o = parseTransformOptions(args);
+    const auto command = commandOf(o);
+    QImageReader reader(o.input);
+    const QImage picture = reader.read().convertToFormat(QImage::Format_RGB32);
+    if (picture.isNull()) {
+        printError(tr("Das Bild %1 kann nicht gelesen werden.").arg(o.input));
+        return ExitFailed;
+    }
+    CliPrompter prompter;
+    TerminalStatus status;
+    Session s;
+    s.setPrompter(&prompter);
+    s.setStatus(&status);
+    QTemporaryDir temp;
+    if (temp.isValid()) s.workspace().setTempDir(temp.path());
+    s.colours().ColorBack = o.back;
+    Workspace &ws = s.workspace();
+    ws.New_BildSize(picture.width(), picture.height());
+    ws.Bild.setPicture(picture);
+    if (!command(s) || prompter.faultSeen()) {
+        printError(tr("Das Umformen ist fehlgeschlagen."));
+        return ExitFailed;
+    }
+    QSaveFile file(o.output);
+    const QByteArray format = QFileInfo(o.output).suffix().toLower().toLatin1();
+    if (!file.open(QIODevice::WriteOnly) ||
+        !ws.Bild.Image().convertToFormat(QImage::Format_RGB888)
+             .save(&file, format.isEmpty() ? "png" : format.constData()) ||
+        !file.commit()) {
+        printError(tr("Das Bild %1 kann nicht geschrieben werden.").arg(o.output));
+        return ExitFailed;
+    }
+    return ExitOk;
+}
+
+} // namespace tf::cli
