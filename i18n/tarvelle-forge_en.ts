@@ -114,6 +114,42 @@
         <source>Das Filtern ist fehlgeschlagen.</source>
         <translation>The filter failed.</translation>
     </message>
+    <message>
+        <source>Ungültige Größe: %1 (BxH)</source>
+        <translation>Invalid size: %1 (WxH)</translation>
+    </message>
+    <message>
+        <source>Ungültiger Ausschnitt: %1 (X,Y,B,H)</source>
+        <translation>Invalid part: %1 (X,Y,W,H)</translation>
+    </message>
+    <message>
+        <source>Ungültige Lage: %1 (top-left, top, ..., middle, ..., bottom-right)</source>
+        <translation>Invalid place: %1 (top-left, top, ..., middle, ..., bottom-right)</translation>
+    </message>
+    <message>
+        <source>Ungültiger Halbspiegel: %1 (left-to-right, right-to-left, top-to-bottom, bottom-to-top, prismatic)</source>
+        <translation>Invalid half mirror: %1 (left-to-right, right-to-left, top-to-bottom, bottom-to-top, prismatic)</translation>
+    </message>
+    <message>
+        <source>Es fehlt die Umformung.</source>
+        <translation>The transformation is missing.</translation>
+    </message>
+    <message>
+        <source>Es fehlt der Wert der Umformung %1.</source>
+        <translation>The value of the transformation %1 is missing.</translation>
+    </message>
+    <message>
+        <source>Es fehlt das Bild, das umgeformt wird.</source>
+        <translation>The picture to transform is missing.</translation>
+    </message>
+    <message>
+        <source>Unbekannte Umformung: %1 (siehe --help)</source>
+        <translation>Unknown transformation: %1 (see --help)</translation>
+    </message>
+    <message>
+        <source>Das Umformen ist fehlgeschlagen.</source>
+        <translation>The transformation failed.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -267,6 +303,17 @@
     <message>
         <source>nicht fixiert</source>
         <translation>not fixed</translation>
+    </message>
+</context>
+<context>
+    <name>Geometry</name>
+    <message>
+        <source>Die Größe %1 x %2 ist nicht möglich: jede Seite muss zwischen 1 und %3 Pixeln liegen.</source>
+        <translation>The size %1 x %2 is not possible: each side must lie between 1 and %3 pixels.</translation>
+    </message>
+    <message>
+        <source>Zum Freistellen ziehen Sie zuerst eine Auswahl auf.</source>
+        <translation>To crop, first draw a selection.</translation>
     </message>
 </context>
 <context>
@@ -762,6 +809,14 @@
         <source>aus</source>
         <translation>off</translation>
     </message>
+    <message>
+        <source>Größe anpassen</source>
+        <translation>Fit size</translation>
+    </message>
+    <message>
+        <source>Hintergrund löschen</source>
+        <translation>Clear background</translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::GrafDialogDock</name>
@@ -1017,6 +1072,53 @@
     </message>
 </context>
 <context>
+    <name>tf::ui::PictureSizeDialog</name>
+    <message>
+        <source>Bildgröße</source>
+        <translation>Picture size</translation>
+    </message>
+    <message>
+        <source>Arbeitsfläche</source>
+        <translation>Canvas size</translation>
+    </message>
+    <message>
+        <source> Pixel</source>
+        <translation> pixels</translation>
+    </message>
+    <message>
+        <source>Breite:</source>
+        <translation>Width:</translation>
+    </message>
+    <message>
+        <source>Höhe:</source>
+        <translation>Height:</translation>
+    </message>
+    <message>
+        <source>Seitenverhältnis beibehalten</source>
+        <translation>Keep proportion</translation>
+    </message>
+    <message>
+        <source>Glätten (bilinear)</source>
+        <translation>Smooth (bilinear)</translation>
+    </message>
+    <message>
+        <source>Nächster Bildpunkt</source>
+        <translation>Nearest pixel</translation>
+    </message>
+    <message>
+        <source>Verfahren:</source>
+        <translation>Method:</translation>
+    </message>
+    <message>
+        <source>Lage des Bildes:</source>
+        <translation>Place of the picture:</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>tf::ui::SizeDialog</name>
     <message>
         <source>Neues Bild</source>
@@ -1076,6 +1178,69 @@
     <message>
         <source>Systempaletten</source>
         <translation>System palettes</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::TransformMenu</name>
+    <message>
+        <source>B&amp;ild</source>
+        <translation>P&amp;icture</translation>
+    </message>
+    <message>
+        <source>&amp;Vertikal spiegeln</source>
+        <translation>Mirror &amp;vertically</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontal spiegeln</source>
+        <translation>Mirror &amp;horizontally</translation>
+    </message>
+    <message>
+        <source>Halb&amp;spiegel</source>
+        <translation>Half &amp;mirrors</translation>
+    </message>
+    <message>
+        <source>&amp;Links nach rechts</source>
+        <translation>&amp;Left to right</translation>
+    </message>
+    <message>
+        <source>&amp;Rechts nach links</source>
+        <translation>&amp;Right to left</translation>
+    </message>
+    <message>
+        <source>&amp;Oben nach unten</source>
+        <translation>&amp;Top to bottom</translation>
+    </message>
+    <message>
+        <source>&amp;Unten nach oben</source>
+        <translation>&amp;Bottom to top</translation>
+    </message>
+    <message>
+        <source>&amp;Prismatisch</source>
+        <translation>&amp;Prismatic</translation>
+    </message>
+    <message>
+        <source>90° nach &amp;rechts drehen</source>
+        <translation>Turn 90° &amp;right</translation>
+    </message>
+    <message>
+        <source>90° nach &amp;links drehen</source>
+        <translation>Turn 90° &amp;left</translation>
+    </message>
+    <message>
+        <source>&amp;180° drehen</source>
+        <translation>Turn &amp;180°</translation>
+    </message>
+    <message>
+        <source>Bild&amp;größe...</source>
+        <translation>Picture &amp;size...</translation>
+    </message>
+    <message>
+        <source>&amp;Arbeitsfläche...</source>
+        <translation>&amp;Canvas size...</translation>
+    </message>
+    <message>
+        <source>Auf Auswahl &amp;zuschneiden</source>
+        <translation>Crop to &amp;selection</translation>
     </message>
 </context>
 </TS>

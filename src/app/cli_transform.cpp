@@ -21,11 +21,6 @@ namespace tf::cli {
 
 namespace {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Cli", text);
-}
-
 struct TransformOptions {
     QString operation, input, output;
     QString value;         // WxH, X,Y,W,H or the half mirror's name
@@ -45,7 +40,7 @@ QSize parseSize(const QString &text)
 {
     static const QRegularExpression re(QStringLiteral(R"(^(\d{1,6})x(\d{1,6})$)"));
     const auto m = re.match(text);
-    if (!m.hasMatch()) throw UsageError(tr("Ungültige Größe: %1 (BxH)").arg(text));
+    if (!m.hasMatch()) throw UsageError(QCoreApplication::translate("Cli", "Ungültige Größe: %1 (BxH)").arg(text));
     return {m.captured(1).toInt(), m.captured(2).toInt()};
 }
 
@@ -53,7 +48,7 @@ QRect parseRect(const QString &text)
 {
     static const QRegularExpression re(QStringLiteral(R"(^(\d{1,6}),(\d{1,6}),(\d{1,6}),(\d{1,6})$)"));
     const auto m = re.match(text);
-    if (!m.hasMatch()) throw UsageError(tr("Ungültiger Ausschnitt: %1 (X,Y,B,H)").arg(text));
+    if (!m.hasMatch()) throw UsageError(QCoreApplication::translate("Cli", "Ungültiger Ausschnitt: %1 (X,Y,B,H)").arg(text));
     return {m.captured(1).toInt(), m.captured(2).toInt(), m.captured(3).toInt(), m.captured(4).toInt()};
 }
 
@@ -64,7 +59,7 @@ int parseAnchor(const QString &text)
         QStringLiteral("left"), QStringLiteral("middle"), QStringLiteral("right"),
         QStringLiteral("bottom-left"), QStringLiteral("bottom"), QStringLiteral("bottom-right")};
     const qsizetype i = names.indexOf(text.toLower());
-    if (i < 0) throw UsageError(tr("Ungültige Lage: %1 (top-left, top, ..., middle, ..., bottom-right)").arg(text));
+    if (i < 0) throw UsageError(QCoreApplication::translate("Cli", "Ungültige Lage: %1 (top-left, top, ..., middle, ..., bottom-right)").arg(text));
     return int(i);
 }
 
@@ -76,7 +71,7 @@ HalfMirror parseHalfMirror(const QString &text)
         {"prismatic", HalfMirror::Prismatic}};
     for (const auto &[name, which] : names)
         if (text.compare(QLatin1String(name), Qt::CaseInsensitive) == 0) return which;
-    throw UsageError(tr("Ungültiger Halbspiegel: %1 (left-to-right, right-to-left, top-to-bottom, "
+    throw UsageError(QCoreApplication::translate("Cli", "Ungültiger Halbspiegel: %1 (left-to-right, right-to-left, top-to-bottom, "
                         "bottom-to-top, prismatic)").arg(text));
 }
 
@@ -84,7 +79,7 @@ ColorLong parseColour(const QString &text)
 {
     static const QRegularExpression re(QStringLiteral(R"(^#([0-9A-Fa-f]{6})$)"));
     const auto m = re.match(text);
-    if (!m.hasMatch()) throw UsageError(tr("Ungültige Farbe: %1 (#RRGGBB)").arg(text));
+    if (!m.hasMatch()) throw UsageError(QCoreApplication::translate("Cli", "Ungültige Farbe: %1 (#RRGGBB)").arg(text));
     return fromQRgb(m.captured(1).toUInt(nullptr, 16));
 }
 
@@ -103,7 +98,7 @@ TransformOptions parseTransformOptions(const QStringList &words)
         } else if (w == QLatin1String("--back")) {
             o.back = parseColour(a.valueOf(w));
         } else if (w.startsWith(QLatin1Char('-')) && w != QLatin1String("-")) {
-            throw UsageError(tr("Unbekannte Option: %1").arg(w));
+            throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Option: %1").arg(w));
         } else if (o.operation.isEmpty()) {
             o.operation = w;
         } else if (takesValue(o.operation) && o.value.isEmpty()) {
@@ -111,14 +106,14 @@ TransformOptions parseTransformOptions(const QStringList &words)
         } else if (o.input.isEmpty()) {
             o.input = w;
         } else {
-            throw UsageError(tr("Überzähliges Argument: %1").arg(w));
+            throw UsageError(QCoreApplication::translate("Cli", "Überzähliges Argument: %1").arg(w));
         }
     }
-    if (o.operation.isEmpty()) throw UsageError(tr("Es fehlt die Umformung."));
+    if (o.operation.isEmpty()) throw UsageError(QCoreApplication::translate("Cli", "Es fehlt die Umformung."));
     if (takesValue(o.operation) && o.value.isEmpty())
-        throw UsageError(tr("Es fehlt der Wert der Umformung %1.").arg(o.operation));
-    if (o.input.isEmpty()) throw UsageError(tr("Es fehlt das Bild, das umgeformt wird."));
-    if (o.output.isEmpty()) throw UsageError(tr("Es fehlt die Ausgabe (-o DATEI)."));
+        throw UsageError(QCoreApplication::translate("Cli", "Es fehlt der Wert der Umformung %1.").arg(o.operation));
+    if (o.input.isEmpty()) throw UsageError(QCoreApplication::translate("Cli", "Es fehlt das Bild, das umgeformt wird."));
+    if (o.output.isEmpty()) throw UsageError(QCoreApplication::translate("Cli", "Es fehlt die Ausgabe (-o DATEI)."));
     return o;
 }
 
@@ -159,7 +154,7 @@ std::function<bool(Session &)> commandOf(const TransformOptions &o)
             return Menu_CropToSelection(s);
         };
     }
-    throw UsageError(tr("Unbekannte Umformung: %1 (siehe --help)").arg(op));
+    throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Umformung: %1 (siehe --help)").arg(op));
 }
 
 } // namespace
@@ -171,7 +166,7 @@ int runTransform(const QStringList &args)
     QImageReader reader(o.input);
     const QImage picture = reader.read().convertToFormat(QImage::Format_RGB32);
     if (picture.isNull()) {
-        printError(tr("Das Bild %1 kann nicht gelesen werden.").arg(o.input));
+        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht gelesen werden.").arg(o.input));
         return ExitFailed;
     }
     CliPrompter prompter;
@@ -186,7 +181,7 @@ int runTransform(const QStringList &args)
     ws.New_BildSize(picture.width(), picture.height());
     ws.Bild.setPicture(picture);
     if (!command(s) || prompter.faultSeen()) {
-        printError(tr("Das Umformen ist fehlgeschlagen."));
+        printError(QCoreApplication::translate("Cli", "Das Umformen ist fehlgeschlagen."));
         return ExitFailed;
     }
     QSaveFile file(o.output);
@@ -195,7 +190,7 @@ int runTransform(const QStringList &args)
         !ws.Bild.Image().convertToFormat(QImage::Format_RGB888)
              .save(&file, format.isEmpty() ? "png" : format.constData()) ||
         !file.commit()) {
-        printError(tr("Das Bild %1 kann nicht geschrieben werden.").arg(o.output));
+        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht geschrieben werden.").arg(o.output));
         return ExitFailed;
     }
     return ExitOk;
