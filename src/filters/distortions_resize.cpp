@@ -62,17 +62,15 @@ void fillAffine(FilterRun &run, const PixelPlane &source, const Affine &m, bool 
     const uint32_t background = warp::pixelOf(run.args.background);
     const bool keepOld = !run.args.cleanBack && run.D.data != source.data &&
                          run.D.width == source.width && run.D.height == source.height;
-    run.rows([&](int first, int last) {
-        for (int y = first; y < last; ++y) {
-            auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
-            for (int x = 0; x < run.width(); ++x) {
-                double fx, fy;
-                m.at(x, y, fx, fy);
-                if (warp::inside(source, fx, fy))
-                    out[x] = smooth ? warp::bilinear(source, fx, fy) : warp::nearest(source, fx, fy);
-                else if (!keepOld)
-                    out[x] = background;
-            }
+    warp::forStrips(run, [&](int y, int x0, int x1) {
+        auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
+        for (int x = x0; x < x1; ++x) {
+            double fx, fy;
+            m.at(x, y, fx, fy);
+            if (warp::inside(source, fx, fy))
+                out[x] = smooth ? warp::bilinear(source, fx, fy) : warp::nearest(source, fx, fy);
+            else if (!keepOld)
+                out[x] = background;
         }
     });
 }

@@ -8,6 +8,7 @@
 
 #include "filters/filterrun.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 
@@ -18,30 +19,39 @@ inline uint32_t pixelAt(const PixelPlane &p, int x, int y)
     return reinterpret_cast<const uint32_t *>(p.row(y))[x];
 }
 
-// The four pixels around (fx, fy), edges repeated, mixed with weights of 1/256.
-inline uint32_t bilinear(const PixelPlane &p, double fx, double fy)
+// Two pixels mixed by w/256 of the second: red and blue in one step, green in another.
+inline uint32_t mix(uint32_t a, uint32_t b, uint32_t w)
 {
-    const double flx = std::floor(fx), fly = std::floor(fy);
-    const int wx = int((fx - flx) * 256.0), wy = int((fy - fly) * 256.0);
-    int x0 = int(flx), y0 = int(fly);
-    int x1 = x0 + 1, y1 = y0 + 1;
-    const int mx = p.width - 1, my = p.height - 1;
-    x0 = x0 < 0 ? 0 : x0 > mx ? mx : x0;
-    x1 = x1 < 0 ? 0 : x1 > mx ? mx : x1;
-    y0 = y0 < 0 ? 0 : y0 > my ? my : y0;
-    y1 = y1 < 0 ? 0 : y1 > my ? my : y1;
-    const uint32_t a = pixelAt(p, x0, y0), b = pixelAt(p, x1, y0);
-    const uint32_t c = pixelAt(p, x0, y1), d = pixelAt(p, x1, y1);
-    uint32_t out = a & 0xFF000000u;
-    for (int shift = 0; shift < 24; shift += 8) {
-        const int ca = int(a >> shift) & 255, cb = int(b >> shift) & 255;
-        const int cc = int(c >> shift) & 255, cd = int(d >> shift) & 255;
-        const int top = ca * (256 - wx) + cb * wx;
-        const int bottom = cc * (256 - wx) + cd * wx;
-        const int v = (top * (256 - wy) + bottom * wy + 32768) >> 16;
-        out |= uint32_t(v) << shift;
+    const uint32_t v = 256 - w;
+    const uint32_t rb = (((a & 0xFF00FFu) * v + (b & 0xFF00FFu) * w) >> 8) & 0xFF00FFu;
+    const uint32_t g = (((a & 0xFF00u) * v + (b & 0xFF00u) * w) >> 8) & 0xFF00u;
+    return rb | g | (a & 0xFF000000u);
+}
+
+// A position in 1/256 pixels, rounded down; far positions are drawn in to one pixel beyond
+// the edge, which samples the same edge pixels.
+inline int fixedOf(double f, int size)
+{
+    f = f < -1.0 ? -1.0 : f > size ? double(size) : f;
+    return int(f * 256.0 + 65536.0) - 65536;
+}
+
+// The four pixels around (fx, fy), edges repeated, mixed with weights of 1/256.
+[[gnu::always_inline]] inline uint32_t bilinear(const PixelPlane &p, double fx, double fy)
+{
+    const int ix = fixedOf(fx, p.width), iy = fixedOf(fy, p.height);
+    const uint32_t wx = uint32_t(ix & 255), wy = uint32_t(iy & 255);
+    const int x0 = ix >> 8, y0 = iy >> 8;
+    if (x0 >= 0 && y0 >= 0 && x0 + 1 < p.width && y0 + 1 < p.height) {
+        const auto *r0 = reinterpret_cast<const uint32_t *>(p.row(y0)) + x0;
+        const auto *r1 = reinterpret_cast<const uint32_t *>(p.row(y0 + 1)) + x0;
+        return mix(mix(r0[0], r0[1], wx), mix(r1[0], r1[1], wx), wy);
     }
-    return out;
+    const int mx = p.width - 1, my = p.height - 1;
+    const int xa = std::clamp(x0, 0, mx), xb = std::clamp(x0 + 1, 0, mx);
+    const int ya = std::clamp(y0, 0, my), yb = std::clamp(y0 + 1, 0, my);
+    return mix(mix(pixelAt(p, xa, ya), pixelAt(p, xb, ya), wx),
+               mix(pixelAt(p, xa, yb), pixelAt(p, xb, yb), wx), wy);
 }
 
 // The nearest pixel to (fx, fy), edges repeated.
@@ -65,6 +75,21 @@ inline uint32_t pixelOf(int32_t colour)
     return uint32_t(((colour & 255) << 16) | (colour & 0xFF00) | ((colour >> 16) & 255));
 }
 
+// Runs body(y, x0, x1) over every row of D in strips of 64 columns, each strip from the top
+// of a slice of rows to its bottom: the source pixels that neighbouring targets read lie close
+// together, so they stay in the cache even where the mapping runs across the rows.
+template <typename Body> void forStrips(FilterRun &run, Body &&body)
+{
+    constexpr int Strip = 64;
+    run.rows([&](int first, int last) {
+        for (int x0 = 0; x0 < run.width(); x0 += Strip) {
+            const int x1 = std::min(run.width(), x0 + Strip);
+            for (int y = first; y < last; ++y)
+                body(y, x0, x1);
+        }
+    });
+}
+
 // What a target pixel of an inverse mapping shows.
 enum class Source { Sample, Keep, Background };
 
@@ -74,10 +99,9 @@ enum class Source { Sample, Keep, Background };
 template <typename Map>
 void inverseMap(FilterRun &run, bool smooth, uint32_t background, Map map)
 {
-    run.rows([&](int first, int last) {
-        for (int y = first; y < last; ++y) {
+    forStrips(run, [&](int y, int x0, int x1) {
             auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
-            for (int x = 0; x < run.width(); ++x) {
+            for (int x = x0; x < x1; ++x) {
                 double fx = x, fy = y;
                 switch (map(x, y, fx, fy)) {
                 case Source::Sample:
@@ -87,7 +111,6 @@ void inverseMap(FilterRun &run, bool smooth, uint32_t background, Map map)
                 case Source::Keep: break;
                 }
             }
-        }
     });
 }
 
