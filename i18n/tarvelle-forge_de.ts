@@ -1,6 +1,13 @@
 <?xml version='1.0' encoding='utf-8'?>
 <TS version="2.1" language="de" sourcelanguage="de">
 <context>
+    <name>Blurize</name>
+    <message>
+        <source>Es gibt noch kein Bild vor der letzten Änderung: laden oder malen Sie zuerst zwei Bilder nacheinander.</source>
+        <translation>Es gibt noch kein Bild vor der letzten Änderung: laden oder malen Sie zuerst zwei Bilder nacheinander.</translation>
+    </message>
+</context>
+<context>
     <name>Cli</name>
     <message>
         <source>Unbekannte Sprache: %1 (de oder en)</source>
@@ -149,6 +156,10 @@
     <message>
         <source>Das Umformen ist fehlgeschlagen.</source>
         <translation>Das Umformen ist fehlgeschlagen.</translation>
+    </message>
+    <message>
+        <source>Die Umformung %1 braucht ein zweites Bild (--with DATEI).</source>
+        <translation>Die Umformung %1 braucht ein zweites Bild (--with DATEI).</translation>
     </message>
 </context>
 <context>
@@ -633,6 +644,13 @@
     <message>
         <source>Das neue Verzeichnis %1 wurde erstellt.</source>
         <translation>Das neue Verzeichnis %1 wurde erstellt.</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::BlurizeDialog</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -1241,6 +1259,10 @@
     <message>
         <source>Auf Auswahl &amp;zuschneiden</source>
         <translation>Auf Auswahl &amp;zuschneiden</translation>
+    </message>
+    <message>
+        <source>3-D &amp;Unschärfe und Überblenden</source>
+        <translation>3-D &amp;Unschärfe und Überblenden</translation>
     </message>
 </context>
 </TS>

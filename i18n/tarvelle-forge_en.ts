@@ -1,6 +1,13 @@
 <?xml version='1.0' encoding='utf-8'?>
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
+    <name>Blurize</name>
+    <message>
+        <source>Es gibt noch kein Bild vor der letzten Änderung: laden oder malen Sie zuerst zwei Bilder nacheinander.</source>
+        <translation>There is no picture before the last change yet: first load or paint two pictures one after the other.</translation>
+    </message>
+</context>
+<context>
     <name>Cli</name>
     <message>
         <source>Unbekannte Sprache: %1 (de oder en)</source>
@@ -149,6 +156,10 @@
     <message>
         <source>Das Umformen ist fehlgeschlagen.</source>
         <translation>The transformation failed.</translation>
+    </message>
+    <message>
+        <source>Die Umformung %1 braucht ein zweites Bild (--with DATEI).</source>
+        <translation>The transformation %1 needs a second picture (--with FILE).</translation>
     </message>
 </context>
 <context>
@@ -633,6 +644,13 @@
     <message>
         <source>Das neue Verzeichnis %1 wurde erstellt.</source>
         <translation>The new directory %1 was created.</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::BlurizeDialog</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
     </message>
 </context>
 <context>
@@ -1241,6 +1259,10 @@
     <message>
         <source>Auf Auswahl &amp;zuschneiden</source>
         <translation>Crop to &amp;selection</translation>
+    </message>
+    <message>
+        <source>3-D &amp;Unschärfe und Überblenden</source>
+        <translation>3-D &amp;blur and blends</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,8 @@
 #include "app/cli_common.h"
 
 #include "core/colour.h"
+#include "core/language.h"
+#include "filters/blurize.h"
 #include "filters/geometry.h"
 #include "filters/mirrors.h"
 #include "paint/colourstate.h"
@@ -27,6 +29,8 @@ struct TransformOptions {
     bool nearest = false;  // size: Resize instead of Resample
     int anchor = 4;        // canvas: where the picture stands
     ColorLong back = 0xFFFFFF;
+    QString with;          // the 3-D Blurize family: the picture before
+    QStringList sets;      // their sliders, LABEL=VALUE
 };
 
 // The operations that take a value, with the form of the value.
@@ -97,6 +101,10 @@ TransformOptions parseTransformOptions(const QStringList &words)
             o.anchor = parseAnchor(a.valueOf(w));
         } else if (w == QLatin1String("--back")) {
             o.back = parseColour(a.valueOf(w));
+        } else if (w == QLatin1String("--with")) {
+            o.with = a.valueOf(w);
+        } else if (w == QLatin1String("--set")) {
+            o.sets << a.valueOf(w);
         } else if (w.startsWith(QLatin1Char('-')) && w != QLatin1String("-")) {
             throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Option: %1").arg(w));
         } else if (o.operation.isEmpty()) {
@@ -114,13 +122,48 @@ TransformOptions parseTransformOptions(const QStringList &words)
         throw UsageError(QCoreApplication::translate("Cli", "Es fehlt der Wert der Umformung %1.").arg(o.operation));
     if (o.input.isEmpty()) throw UsageError(QCoreApplication::translate("Cli", "Es fehlt das Bild, das umgeformt wird."));
     if (o.output.isEmpty()) throw UsageError(QCoreApplication::translate("Cli", "Es fehlt die Ausgabe (-o DATEI)."));
+    if (findBlurize(o.operation) && o.with.isEmpty())
+        throw UsageError(QCoreApplication::translate("Cli", "Die Umformung %1 braucht ein zweites Bild (--with DATEI).").arg(o.operation));
     return o;
+}
+
+// The slider values of a routine of the 3-D Blurize family from LABEL=VALUE settings.
+FilterArgs blurizeArguments(const BlurizeRow &row, const QStringList &sets)
+{
+    FilterArgs args = blurizeDefaults(row);
+    for (const QString &set : sets) {
+        const qsizetype eq = set.indexOf(QLatin1Char('='));
+        bool found = false;
+        for (size_t i = 0; i < row.sliders.size() && eq > 0; ++i) {
+            const FilterSlider &sl = row.sliders[i];
+            const QString key = set.left(eq);
+            if (key.compare(sl.label(Language::German), Qt::CaseInsensitive) != 0 &&
+                key.compare(sl.label(Language::English), Qt::CaseInsensitive) != 0)
+                continue;
+            bool ok = false;
+            const int v = set.mid(eq + 1).toInt(&ok);
+            if (!ok || v < sl.min || v > sl.max)
+                throw UsageError(QCoreApplication::translate("Cli", "%1 liegt außerhalb von %2 bis %3.")
+                                     .arg(set).arg(sl.min).arg(sl.max));
+            args.sliders[i] = v;
+            found = true;
+        }
+        if (!found)
+            throw UsageError(QCoreApplication::translate("Cli", "Ungültige Einstellung: %1 (REGLER=WERT)").arg(set));
+    }
+    args.argument = args.sliders[0];
+    return args;
 }
 
 // The command of an operation on the session.
 std::function<bool(Session &)> commandOf(const TransformOptions &o)
 {
     const QString &op = o.operation;
+    if (const BlurizeRow *row = findBlurize(op)) {
+        const FilterArgs args = blurizeArguments(*row, o.sets);
+        const int selector = row->selector;
+        return [selector, args](Session &s) { return Menu_Blurize(s, selector, args); };
+    }
     if (op == QLatin1String("turn-right")) return [](Session &s) { return Menu_Turn(s, 1); };
     if (op == QLatin1String("turn-180")) return [](Session &s) { return Menu_Turn(s, 2); };
     if (op == QLatin1String("turn-left")) return [](Session &s) { return Menu_Turn(s, 3); };
@@ -179,6 +222,17 @@ int runTransform(const QStringList &args)
     s.colours().ColorBack = o.back;
     Workspace &ws = s.workspace();
     ws.New_BildSize(picture.width(), picture.height());
+    if (!o.with.isEmpty()) {
+        // The second picture is the picture before: it goes into the undo slot, as after a
+        // change in the program.
+        QImage before = QImageReader(o.with).read().convertToFormat(QImage::Format_RGB32);
+        if (before.isNull()) {
+            printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht gelesen werden.").arg(o.with));
+            return ExitFailed;
+        }
+        ws.Bild.setPicture(before.scaled(picture.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        ws.Bild_nachUndo();
+    }
     ws.Bild.setPicture(picture);
     if (!command(s) || prompter.faultSeen()) {
         printError(QCoreApplication::translate("Cli", "Das Umformen ist fehlgeschlagen."));

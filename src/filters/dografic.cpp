@@ -1,10 +1,10 @@
 #include "filters/dografic.h"
 
 #include "core/fault.h"
+#include "filters/blurize.h"
 #include "filters/filterrun.h"
 #include "filters/filtertable.h"
 #include "paint/session.h"
-#include "paint/transparency.h"
 
 namespace tf {
 
@@ -57,25 +57,20 @@ bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &
 }
 
 bool DoGraficFilters2(Session &s, int selector, const QImage &first, QImage &second,
-                      double factor)
+                      const FilterArgs &args)
 {
     if (s.runState().filtering()) return false;
     BusyScope busy(s);
     if (first.isNull() || second.isNull()) return true;
     return guarded(QStringLiteral("DoGraficFilters2 [%1]").arg(selector), [&] {
+        checkedMul<int32_t>(checkedMul<int32_t>(second.width(), 4), second.height());
         QImage result = second.convertToFormat(QImage::Format_RGB32);
         result.detach();
-        switch (selector) {
-        case 1:
-            blendOver(result, first.convertToFormat(QImage::Format_RGB32), factor);
-            break;
-        case 2:
-            result = first.convertToFormat(QImage::Format_RGB32)
-                         .scaled(second.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-            break;
-        default:
-            return;
-        }
+        QImage other = first.convertToFormat(QImage::Format_RGB32);
+        if (other.size() != result.size())
+            other = other.scaled(result.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        runBlurize(selector, other, result, args, s.filters().threads);
+        s.filters().FilterPercent = 100;
         second = result;
     });
 }

@@ -1,8 +1,11 @@
 #include "ui/transformmenu.h"
 
+#include "core/language.h"
+#include "filters/blurize.h"
 #include "filters/geometry.h"
 #include "filters/mirrors.h"
 #include "paint/session.h"
+#include "ui/blurizedialog.h"
 #include "ui/idleguard.h"
 #include "ui/picturesizedialog.h"
 
@@ -47,6 +50,14 @@ TransformMenu::TransformMenu(Session &session, QWidget *parent) : QMenu(parent),
     m_size = action(this, QStringLiteral("mn_BildGroesse"), [this] { pictureSize(); });
     m_canvas = action(this, QStringLiteral("mn_Arbeitsflaeche"), [this] { canvasSize(); });
     m_crop = action(this, QStringLiteral("mn_Freistellen"), run(Menu_CropToSelection));
+    addSeparator();
+    m_blurize = addMenu(QString());
+    for (const BlurizeRow &row : blurizeTable()) {
+        if (row.selector == 3) m_blurize->addSeparator();
+        const int selector = row.selector;
+        m_blurizeActions.push_back(action(m_blurize, QString::fromLatin1(row.control),
+                                          [this, selector] { blurize(selector); }));
+    }
     retranslate();
 }
 
@@ -75,6 +86,19 @@ void TransformMenu::canvasSize()
     emit pictureChanged();
 }
 
+void TransformMenu::blurize(int selector)
+{
+    const QImage before = pictureBefore(m_session);
+    if (before.isNull()) {
+        // Without a picture before, the command says so itself.
+        Menu_Blurize(m_session, selector, blurizeDefaults(*findBlurize(selector)));
+        return;
+    }
+    BlurizeDialog dialog(m_session, *findBlurize(selector), before, parentWidget());
+    dialog.exec();
+    emit pictureChanged();
+}
+
 void TransformMenu::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) retranslate();
@@ -97,6 +121,12 @@ void TransformMenu::retranslate()
     m_size->setText(tr("Bild&größe..."));
     m_canvas->setText(tr("&Arbeitsfläche..."));
     m_crop->setText(tr("Auf Auswahl &zuschneiden"));
+    m_blurize->setTitle(tr("3-D &Unschärfe und Überblenden"));
+    const Language lang = currentLanguage();
+    for (size_t i = 0; i < m_blurizeActions.size(); ++i) {
+        const BlurizeRow &row = blurizeTable()[i];
+        m_blurizeActions[i]->setText(QString::fromUtf8(lang == Language::English ? row.english : row.german));
+    }
 }
 
 } // namespace tf::ui
