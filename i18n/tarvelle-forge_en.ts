@@ -1,4 +1,5 @@
-<?xml version='1.0' encoding='utf-8'?>
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
     <name>Blurize</name>
@@ -401,7 +402,7 @@
     </message>
     <message>
         <source>„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.</source>
-        <translation>"%1" paints nothing yet: its painter is not built in.</translation>
+        <translation>&quot;%1&quot; paints nothing yet: its painter is not built in.</translation>
     </message>
     <message>
         <source>Startwert %1</source>

@@ -57,8 +57,9 @@ BlurizeDialog::BlurizeDialog(Session &session, const BlurizeRow &row, const QIma
         grid->addWidget(s, int(i), 1);
     }
     layout->addLayout(grid);
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Cancel)->setText(tr("Abbrechen"));
+    // The cancel button is our own: a standard one takes Qt's caption at a language change.
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    buttons->addButton(tr("Abbrechen"), QDialogButtonBox::RejectRole)->setObjectName(QStringLiteral("cmdCancel"));
     connect(buttons, &QDialogButtonBox::accepted, this, [this] {
         apply();
         accept();

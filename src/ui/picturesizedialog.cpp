@@ -57,8 +57,9 @@ PictureSizeDialog::PictureSizeDialog(Mode mode, int width, int height, QWidget *
         }
         form->addRow(tr("Lage des Bildes:"), grid);
     }
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Cancel)->setText(tr("Abbrechen"));
+    // The cancel button is our own: a standard one takes Qt's caption at a language change.
+    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    buttons->addButton(tr("Abbrechen"), QDialogButtonBox::RejectRole)->setObjectName(QStringLiteral("cmdCancel"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     form->addRow(buttons);

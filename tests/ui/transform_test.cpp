@@ -2,10 +2,12 @@
 // with undo and the window follows a new size; the rotation dialog grows the picture with
 // "Größe anpassen"; the lens takes its position from the picture. With TF_SCREENSHOTS set to
 // a folder the window and the dialogs are also saved there as pictures.
+#include "filters/blurize.h"
 #include "filters/dografic.h"
 #include "filters/filtertable.h"
 #include "filters/geometry.h"
 #include "filters/mirrors.h"
+#include "ui/blurizedialog.h"
 #include "ui/filtermenu.h"
 #include "ui/gammadialog.h"
 #include "ui/picturesizedialog.h"
@@ -157,4 +159,28 @@ TEST_F(TransformCommands, TheShapesRunAsFilter46AndTheLensTakesThePickedPosition
     EXPECT_NE(bild(), startPicture);
     EXPECT_EQ(bild().pixel(319, 199), startPicture.pixel(319, 199));
     screenshot(*window, "mainwindow-lens");
+}
+
+TEST_F(TransformCommands, TheBlurizeDialogPreviewsAndAppliesOnThePictureBefore)
+{
+    Session &s = window->session();
+    // The picture before: a photo-like one; the picture now: a depth map from dark to bright.
+    ws().Bild_nachUndo();
+    QImage depth(320, 200, QImage::Format_RGB32);
+    for (int y = 0; y < 200; ++y)
+        for (int x = 0; x < 320; ++x)
+            depth.setPixel(x, y, qRgb(x * 255 / 319, x * 255 / 319, x * 255 / 319));
+    ws().Bild.setPicture(depth);
+    const QImage before = pictureBefore(s);
+    EXPECT_EQ(before, startPicture);
+    ui::BlurizeDialog d(s, *findBlurize(1), before, window.get());
+    d.slider(0)->setValue(20);
+    EXPECT_LE(d.previewImage().width(), 240);
+    screenshot(d, "frmBlurize-1");
+    ASSERT_TRUE(d.apply());
+    // The near (dark) left edge stays sharp, the far right is blurred.
+    EXPECT_EQ(bild().pixel(0, 100), startPicture.pixel(0, 100));
+    EXPECT_NE(bild().pixel(315, 100), startPicture.pixel(315, 100));
+    ws().Menu_UndoRedo();
+    EXPECT_EQ(bild(), depth);
 }
