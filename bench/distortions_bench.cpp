@@ -1,5 +1,6 @@
 // Speed of the distortions and picture commands on a 4096 x 4096 picture: each routine alone
-// on the filter arrays with the values a user would give it ("Distortion/<name>"), and the
+// on the filter arrays with the values a user would give it ("Distortion/<name>" on all
+// threads, "OneThread/<name>" on one), and the
 // quarter turn and the picture size ("Geometry/<name>").
 #include "filters/distortions.h"
 #include "filters/filterrun.h"
@@ -53,9 +54,10 @@ const Case Cases[] = {
     {"rotate-30-nearest", filterRotate, {30, 0, 0}},
 };
 
-void distortion(benchmark::State &state, const Case *c)
+void distortion(benchmark::State &state, const Case *c, int threads)
 {
     Session s;
+    s.filters().threads = threads;
     FilterArgs args;
     args.sliders = c->sliders;
     args.argument = c->sliders[0];
@@ -86,11 +88,13 @@ const std::function<QImage(const QImage &)> MirrorV = [](const QImage &p) {
 const std::function<QImage(const QImage &)> Resample = [](const QImage &p) { return scaledPicture(p, 3000, 2000, true); };
 
 const bool registered = [] {
+    // On all threads, and on one to show the cost of a core.
     for (const Case &c : Cases)
-        benchmark::RegisterBenchmark((std::string("Distortion/") + c.name).c_str(), distortion, &c)
-            ->Unit(benchmark::kMillisecond)
-            ->UseRealTime()
-            ->MinTime(0.2);
+        for (const auto &[prefix, threads] : {std::pair{"Distortion/", 0}, {"OneThread/", 1}})
+            benchmark::RegisterBenchmark((prefix + std::string(c.name)).c_str(), distortion, &c, threads)
+                ->Unit(benchmark::kMillisecond)
+                ->UseRealTime()
+                ->MinTime(0.2);
     for (const auto &[name, op] : {std::pair{"turn-right", &TurnRight}, {"mirror-v", &MirrorV}, {"resample", &Resample}})
         benchmark::RegisterBenchmark((std::string("Geometry/") + name).c_str(), geometry, op)
             ->Unit(benchmark::kMillisecond)
