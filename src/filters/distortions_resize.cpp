@@ -5,6 +5,7 @@
 #include "filters/distortions.h"
 
 #include "filters/filterrun.h"
+#include "filters/geometry.h"
 #include "filters/warp.h"
 
 #include <algorithm>
@@ -75,24 +76,6 @@ void fillAffine(FilterRun &run, const PixelPlane &source, const Affine &m, bool 
     });
 }
 
-// A quarter turn (q = 1 clockwise, 2 half, 3 anticlockwise) exactly, pixel for pixel.
-void quarterTurn(FilterRun &run, const PixelPlane &src, int q)
-{
-    const int W = src.width, H = src.height;
-    run.rows([&](int first, int last) {
-        for (int y = first; y < last; ++y) {
-            auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
-            for (int x = 0; x < run.width(); ++x) {
-                int sx = x, sy = y;
-                if (q == 1) { sx = y; sy = H - 1 - x; }
-                else if (q == 2) { sx = W - 1 - x; sy = H - 1 - y; }
-                else if (q == 3) { sx = W - 1 - y; sy = x; }
-                out[x] = warp::pixelAt(src, sx, sy);
-            }
-        }
-    });
-}
-
 } // namespace
 
 void filterStretchShape(FilterRun &run)
@@ -124,12 +107,16 @@ void filterRotate(FilterRun &run)
     if (std::fmod(degrees, 90.0) == 0) {
         const int q = int(degrees / 90.0);
         const bool swap = q % 2 == 1;
-        if (swap && W != H && run.args.resizeToFit) {
-            intoSize(run, H, W, [&](FilterRun &r) { quarterTurn(r, source, q); });
-            return;
-        }
-        if (!swap || W == H) {
-            quarterTurn(run, source, q);
+        if (!swap || W == H || run.args.resizeToFit) {
+            // The quarter turn of the picture commands, over S as it stands.
+            const QImage src(source.data, W, H, source.stride, QImage::Format_RGB32);
+            const QImage turned = turnedQuarters(src, q, run.threads());
+            if (turned.size() != QSize(W, H)) {
+                run.resized = turned;
+                return;
+            }
+            for (int y = 0; y < H; ++y)
+                std::memcpy(run.D.row(y), turned.constScanLine(y), size_t(W) * 4);
             return;
         }
     }

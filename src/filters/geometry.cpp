@@ -38,7 +38,7 @@ FilterTarget pictureTarget(Session &s)
 
 } // namespace
 
-QImage turnedQuarters(const QImage &picture, int quarters)
+QImage turnedQuarters(const QImage &picture, int quarters, int threads)
 {
     const QImage src = picture.convertToFormat(QImage::Format_RGB32);
     const int q = ((quarters % 4) + 4) % 4;
@@ -57,7 +57,7 @@ QImage turnedQuarters(const QImage &picture, int quarters)
                 o[x] = reinterpret_cast<const uint32_t *>(src.constScanLine(sy))[sx];
             }
         }
-    });
+    }, 1 << 16, threads);
     return out;
 }
 

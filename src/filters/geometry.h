@@ -13,8 +13,9 @@ namespace tf {
 
 class Session;
 
-// The picture turned by quarters clockwise (1 right, 2 half, 3 left).
-QImage turnedQuarters(const QImage &picture, int quarters);
+// The picture turned by quarters clockwise (1 right, 2 half, 3 left), exactly, on up to
+// `threads` threads (0 all).
+QImage turnedQuarters(const QImage &picture, int quarters, int threads = 0);
 
 // The picture at w x h: bilinear (`smooth`, cDIBSection::Resample) or the nearest pixel
 // (cDIBSection::Resize). Null after a reported fault.
