@@ -4,6 +4,7 @@
 // picture as it was.
 #include "filters/distortions.h"
 
+#include "core/fault.h"
 #include "filters/filterrun.h"
 #include "filters/geometry.h"
 #include "filters/warp.h"
@@ -33,7 +34,11 @@ template <typename Body> void intoSize(FilterRun &run, int w, int h, Body body)
         body(run);
         return;
     }
+    // A result past the largest picture, or one the memory cannot hold, is a fault: the
+    // picture stays as it was.
+    if (w > MaxPictureSide || h > MaxPictureSide) throw Fault(Fault::Overflow);
     QImage out(std::max(1, w), std::max(1, h), QImage::Format_RGB32);
+    if (out.isNull()) throw Fault(Fault::OutOfMemory);
     out.fill(toQRgb(run.args.background));
     // The rows of the new picture, the old one (D as it still is) to read from.
     FilterRun sized({out.bits(), out.width(), out.height(), out.bytesPerLine()}, run.D, run.args,

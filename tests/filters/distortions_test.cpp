@@ -199,3 +199,15 @@ TEST_F(Distortions, ResultsDoNotDependOnTheThreadCount)
         EXPECT_EQ(run(number, img, sliders), one) << number;
     }
 }
+
+TEST_F(Distortions, AResultPastTheLargestPictureIsAFaultThatLeavesThePicture)
+{
+    const QImage img = flat(4000, 3, RGB(1, 2, 3));
+    FilterArgs fit;
+    fit.resizeToFit = true;
+    fit.sliders = {300, 0, 0};
+    QImage out = img;
+    EXPECT_FALSE(DoGraficFilters(s, 52, out, fit));
+    EXPECT_EQ(out, img);
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("DoGraficFilters [52]  [Overflow]"));
+}
