@@ -26,7 +26,8 @@ const QImage &photo()
         for (int y = 0; y < Side; ++y) {
             auto *line = reinterpret_cast<QRgb *>(p.scanLine(y));
             for (int x = 0; x < Side; ++x)
-                line[x] = qRgb((x * 255) / Side, (y * 255) / Side, ((x ^ y) * 2654435761u >> 24) & 255);
+                line[x] =
+                    qRgb((x * 255) / Side, (y * 255) / Side, ((x ^ y) * 2654435761u >> 24) & 255);
         }
         return p;
     }();
@@ -79,23 +80,29 @@ void geometry(benchmark::State &state, const std::function<QImage(const QImage &
     }
 }
 
-const std::function<QImage(const QImage &)> TurnRight = [](const QImage &p) { return turnedQuarters(p, 1); };
+const std::function<QImage(const QImage &)> TurnRight = [](const QImage &p) {
+    return turnedQuarters(p, 1);
+};
 const std::function<QImage(const QImage &)> MirrorV = [](const QImage &p) {
     QImage out = p;
     mirrorLeftRight(out);
     return out;
 };
-const std::function<QImage(const QImage &)> Resample = [](const QImage &p) { return scaledPicture(p, 3000, 2000, true); };
+const std::function<QImage(const QImage &)> Resample = [](const QImage &p) {
+    return scaledPicture(p, 3000, 2000, true);
+};
 
 const bool registered = [] {
     // On all threads, and on one to show the cost of a core.
     for (const Case &c : Cases)
         for (const auto &[prefix, threads] : {std::pair{"Distortion/", 0}, {"OneThread/", 1}})
-            benchmark::RegisterBenchmark((prefix + std::string(c.name)).c_str(), distortion, &c, threads)
+            benchmark::RegisterBenchmark((prefix + std::string(c.name)).c_str(), distortion, &c,
+                                         threads)
                 ->Unit(benchmark::kMillisecond)
                 ->UseRealTime()
                 ->MinTime(0.2);
-    for (const auto &[name, op] : {std::pair{"turn-right", &TurnRight}, {"mirror-v", &MirrorV}, {"resample", &Resample}})
+    for (const auto &[name, op] :
+         {std::pair{"turn-right", &TurnRight}, {"mirror-v", &MirrorV}, {"resample", &Resample}})
         benchmark::RegisterBenchmark((std::string("Geometry/") + name).c_str(), geometry, op)
             ->Unit(benchmark::kMillisecond)
             ->UseRealTime()

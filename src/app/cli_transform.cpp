@@ -25,12 +25,12 @@ namespace {
 
 struct TransformOptions {
     QString operation, input, output;
-    QString value;         // WxH, X,Y,W,H or the half mirror's name
-    bool nearest = false;  // size: Resize instead of Resample
-    int anchor = 4;        // canvas: where the picture stands
+    QString value;        // WxH, X,Y,W,H or the half mirror's name
+    bool nearest = false; // size: Resize instead of Resample
+    int anchor = 4;       // canvas: where the picture stands
     ColorLong back = 0xFFFFFF;
-    QString with;          // the 3-D Blurize family: the picture before
-    QStringList sets;      // their sliders, LABEL=VALUE
+    QString with;     // the 3-D Blurize family: the picture before
+    QStringList sets; // their sliders, LABEL=VALUE
 };
 
 // The operations that take a value, with the form of the value.
@@ -44,46 +44,62 @@ QSize parseSize(const QString &text)
 {
     static const QRegularExpression re(QStringLiteral(R"(^(\d{1,6})x(\d{1,6})$)"));
     const auto m = re.match(text);
-    if (!m.hasMatch()) throw UsageError(QCoreApplication::translate("Cli", "Ungültige Größe: %1 (BxH)").arg(text));
+    if (!m.hasMatch())
+        throw UsageError(QCoreApplication::translate("Cli", "Ungültige Größe: %1 (BxH)").arg(text));
     return {m.captured(1).toInt(), m.captured(2).toInt()};
 }
 
 QRect parseRect(const QString &text)
 {
-    static const QRegularExpression re(QStringLiteral(R"(^(\d{1,6}),(\d{1,6}),(\d{1,6}),(\d{1,6})$)"));
+    static const QRegularExpression re(
+        QStringLiteral(R"(^(\d{1,6}),(\d{1,6}),(\d{1,6}),(\d{1,6})$)"));
     const auto m = re.match(text);
-    if (!m.hasMatch()) throw UsageError(QCoreApplication::translate("Cli", "Ungültiger Ausschnitt: %1 (X,Y,B,H)").arg(text));
-    return {m.captured(1).toInt(), m.captured(2).toInt(), m.captured(3).toInt(), m.captured(4).toInt()};
+    if (!m.hasMatch())
+        throw UsageError(
+            QCoreApplication::translate("Cli", "Ungültiger Ausschnitt: %1 (X,Y,B,H)").arg(text));
+    return {m.captured(1).toInt(), m.captured(2).toInt(), m.captured(3).toInt(),
+            m.captured(4).toInt()};
 }
 
 int parseAnchor(const QString &text)
 {
     static const QStringList names = {
-        QStringLiteral("top-left"), QStringLiteral("top"), QStringLiteral("top-right"),
-        QStringLiteral("left"), QStringLiteral("middle"), QStringLiteral("right"),
+        QStringLiteral("top-left"),    QStringLiteral("top"),    QStringLiteral("top-right"),
+        QStringLiteral("left"),        QStringLiteral("middle"), QStringLiteral("right"),
         QStringLiteral("bottom-left"), QStringLiteral("bottom"), QStringLiteral("bottom-right")};
     const qsizetype i = names.indexOf(text.toLower());
-    if (i < 0) throw UsageError(QCoreApplication::translate("Cli", "Ungültige Lage: %1 (top-left, top, ..., middle, ..., bottom-right)").arg(text));
+    if (i < 0)
+        throw UsageError(
+            QCoreApplication::translate(
+                "Cli", "Ungültige Lage: %1 (top-left, top, ..., middle, ..., bottom-right)")
+                .arg(text));
     return int(i);
 }
 
 HalfMirror parseHalfMirror(const QString &text)
 {
     static const std::pair<const char *, HalfMirror> names[] = {
-        {"left-to-right", HalfMirror::LeftToRight}, {"right-to-left", HalfMirror::RightToLeft},
-        {"top-to-bottom", HalfMirror::TopToBottom}, {"bottom-to-top", HalfMirror::BottomToTop},
+        {"left-to-right", HalfMirror::LeftToRight},
+        {"right-to-left", HalfMirror::RightToLeft},
+        {"top-to-bottom", HalfMirror::TopToBottom},
+        {"bottom-to-top", HalfMirror::BottomToTop},
         {"prismatic", HalfMirror::Prismatic}};
     for (const auto &[name, which] : names)
         if (text.compare(QLatin1String(name), Qt::CaseInsensitive) == 0) return which;
-    throw UsageError(QCoreApplication::translate("Cli", "Ungültiger Halbspiegel: %1 (left-to-right, right-to-left, top-to-bottom, "
-                        "bottom-to-top, prismatic)").arg(text));
+    throw UsageError(QCoreApplication::translate(
+                         "Cli",
+                         "Ungültiger Halbspiegel: %1 (left-to-right, right-to-left, top-to-bottom, "
+                         "bottom-to-top, prismatic)")
+                         .arg(text));
 }
 
 ColorLong parseColour(const QString &text)
 {
     static const QRegularExpression re(QStringLiteral(R"(^#([0-9A-Fa-f]{6})$)"));
     const auto m = re.match(text);
-    if (!m.hasMatch()) throw UsageError(QCoreApplication::translate("Cli", "Ungültige Farbe: %1 (#RRGGBB)").arg(text));
+    if (!m.hasMatch())
+        throw UsageError(
+            QCoreApplication::translate("Cli", "Ungültige Farbe: %1 (#RRGGBB)").arg(text));
     return fromQRgb(m.captured(1).toUInt(nullptr, 16));
 }
 
@@ -114,16 +130,24 @@ TransformOptions parseTransformOptions(const QStringList &words)
         } else if (o.input.isEmpty()) {
             o.input = w;
         } else {
-            throw UsageError(QCoreApplication::translate("Cli", "Überzähliges Argument: %1").arg(w));
+            throw UsageError(
+                QCoreApplication::translate("Cli", "Überzähliges Argument: %1").arg(w));
         }
     }
-    if (o.operation.isEmpty()) throw UsageError(QCoreApplication::translate("Cli", "Es fehlt die Umformung."));
+    if (o.operation.isEmpty())
+        throw UsageError(QCoreApplication::translate("Cli", "Es fehlt die Umformung."));
     if (takesValue(o.operation) && o.value.isEmpty())
-        throw UsageError(QCoreApplication::translate("Cli", "Es fehlt der Wert der Umformung %1.").arg(o.operation));
-    if (o.input.isEmpty()) throw UsageError(QCoreApplication::translate("Cli", "Es fehlt das Bild, das umgeformt wird."));
-    if (o.output.isEmpty()) throw UsageError(QCoreApplication::translate("Cli", "Es fehlt die Ausgabe (-o DATEI)."));
+        throw UsageError(QCoreApplication::translate("Cli", "Es fehlt der Wert der Umformung %1.")
+                             .arg(o.operation));
+    if (o.input.isEmpty())
+        throw UsageError(
+            QCoreApplication::translate("Cli", "Es fehlt das Bild, das umgeformt wird."));
+    if (o.output.isEmpty())
+        throw UsageError(QCoreApplication::translate("Cli", "Es fehlt die Ausgabe (-o DATEI)."));
     if (findBlurize(o.operation) && o.with.isEmpty())
-        throw UsageError(QCoreApplication::translate("Cli", "Die Umformung %1 braucht ein zweites Bild (--with DATEI).").arg(o.operation));
+        throw UsageError(QCoreApplication::translate(
+                             "Cli", "Die Umformung %1 braucht ein zweites Bild (--with DATEI).")
+                             .arg(o.operation));
     return o;
 }
 
@@ -143,13 +167,18 @@ FilterArgs blurizeArguments(const BlurizeRow &row, const QStringList &sets)
             bool ok = false;
             const int v = set.mid(eq + 1).toInt(&ok);
             if (!ok || v < sl.min || v > sl.max)
-                throw UsageError(QCoreApplication::translate("Cli", "%1 liegt außerhalb von %2 bis %3.")
-                                     .arg(set).arg(sl.min).arg(sl.max));
+                throw UsageError(
+                    QCoreApplication::translate("Cli", "%1 liegt außerhalb von %2 bis %3.")
+                        .arg(set)
+                        .arg(sl.min)
+                        .arg(sl.max));
             args.sliders[i] = v;
             found = true;
         }
         if (!found)
-            throw UsageError(QCoreApplication::translate("Cli", "Ungültige Einstellung: %1 (REGLER=WERT)").arg(set));
+            throw UsageError(
+                QCoreApplication::translate("Cli", "Ungültige Einstellung: %1 (REGLER=WERT)")
+                    .arg(set));
     }
     args.argument = args.sliders[0];
     return args;
@@ -176,12 +205,16 @@ std::function<bool(Session &)> commandOf(const TransformOptions &o)
     if (op == QLatin1String("size")) {
         const QSize size = parseSize(o.value);
         const bool smooth = !o.nearest;
-        return [size, smooth](Session &s) { return Menu_PictureSize(s, size.width(), size.height(), smooth); };
+        return [size, smooth](Session &s) {
+            return Menu_PictureSize(s, size.width(), size.height(), smooth);
+        };
     }
     if (op == QLatin1String("canvas")) {
         const QSize size = parseSize(o.value);
         const int anchor = o.anchor;
-        return [size, anchor](Session &s) { return Menu_CanvasSize(s, size.width(), size.height(), anchor); };
+        return [size, anchor](Session &s) {
+            return Menu_CanvasSize(s, size.width(), size.height(), anchor);
+        };
     }
     if (op == QLatin1String("crop")) {
         const QRect r = parseRect(o.value);
@@ -197,7 +230,8 @@ std::function<bool(Session &)> commandOf(const TransformOptions &o)
             return Menu_CropToSelection(s);
         };
     }
-    throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Umformung: %1 (siehe --help)").arg(op));
+    throw UsageError(
+        QCoreApplication::translate("Cli", "Unbekannte Umformung: %1 (siehe --help)").arg(op));
 }
 
 } // namespace
@@ -209,7 +243,8 @@ int runTransform(const QStringList &args)
     QImageReader reader(o.input);
     const QImage picture = reader.read().convertToFormat(QImage::Format_RGB32);
     if (picture.isNull()) {
-        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht gelesen werden.").arg(o.input));
+        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht gelesen werden.")
+                       .arg(o.input));
         return ExitFailed;
     }
     CliPrompter prompter;
@@ -227,10 +262,12 @@ int runTransform(const QStringList &args)
         // change in the program.
         QImage before = QImageReader(o.with).read().convertToFormat(QImage::Format_RGB32);
         if (before.isNull()) {
-            printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht gelesen werden.").arg(o.with));
+            printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht gelesen werden.")
+                           .arg(o.with));
             return ExitFailed;
         }
-        ws.Bild.setPicture(before.scaled(picture.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        ws.Bild.setPicture(
+            before.scaled(picture.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
         ws.Bild_nachUndo();
     }
     ws.Bild.setPicture(picture);
@@ -241,10 +278,12 @@ int runTransform(const QStringList &args)
     QSaveFile file(o.output);
     const QByteArray format = QFileInfo(o.output).suffix().toLower().toLatin1();
     if (!file.open(QIODevice::WriteOnly) ||
-        !ws.Bild.Image().convertToFormat(QImage::Format_RGB888)
+        !ws.Bild.Image()
+             .convertToFormat(QImage::Format_RGB888)
              .save(&file, format.isEmpty() ? "png" : format.constData()) ||
         !file.commit()) {
-        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht geschrieben werden.").arg(o.output));
+        printError(QCoreApplication::translate("Cli", "Das Bild %1 kann nicht geschrieben werden.")
+                       .arg(o.output));
         return ExitFailed;
     }
     return ExitOk;

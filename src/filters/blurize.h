@@ -24,9 +24,9 @@ class Session;
 
 struct BlurizeRow {
     int selector;
-    const char *name;      // the command line's name
-    const char *control;   // the menu entry's control name
-    const char *german;    // menu caption
+    const char *name;    // the command line's name
+    const char *control; // the menu entry's control name
+    const char *german;  // menu caption
     const char *english;
     std::span<const FilterSlider> sliders;
 };

@@ -18,12 +18,12 @@ class FilterRun;
 // "TransGMirrors [<selector>]  [<description>]" and leave the rows done so far.
 void TransGMirrors(FilterRun &run);
 
-void filterLens(FilterRun &run);          // 47: diameter, scaling, position
-void filterWaves(FilterRun &run);         // 48: frequency, amplitude, start angle
-void filterPolar(FilterRun &run);         // 49: factor -200..200, 0 leaves the picture
-void filterTwirl(FilterRun &run);         // 50: factor, angle
-void filterBend(FilterRun &run);          // 51: horizontal and vertical factor
-void filterStretchShape(FilterRun &run);  // 52: horizontal and vertical factor, may resize
-void filterRotate(FilterRun &run);        // 53: angle in degrees, anti-aliasing, may resize
+void filterLens(FilterRun &run);         // 47: diameter, scaling, position
+void filterWaves(FilterRun &run);        // 48: frequency, amplitude, start angle
+void filterPolar(FilterRun &run);        // 49: factor -200..200, 0 leaves the picture
+void filterTwirl(FilterRun &run);        // 50: factor, angle
+void filterBend(FilterRun &run);         // 51: horizontal and vertical factor
+void filterStretchShape(FilterRun &run); // 52: horizontal and vertical factor, may resize
+void filterRotate(FilterRun &run);       // 53: angle in degrees, anti-aliasing, may resize
 
 } // namespace tf

@@ -50,9 +50,9 @@ template <typename Body> void intoSize(FilterRun &run, int w, int h, Body body)
 // The mapping of target pixel (x, y) of a w x h result back into the W x H source by the
 // inverse of a linear map about the middles (a, b; c, d) .
 struct Affine {
-    double a, b, c, d;   // source = M * (target - target middle) + source middle
-    double tx, ty;       // target middle
-    double sx, sy;       // source middle
+    double a, b, c, d; // source = M * (target - target middle) + source middle
+    double tx, ty;     // target middle
+    double sx, sy;     // source middle
     void at(int x, int y, double &fx, double &fy) const
     {
         const double dx = x - tx, dy = y - ty;
@@ -92,7 +92,8 @@ void filterStretchShape(FilterRun &run)
     const int h = run.args.resizeToFit ? std::max(1, int(std::lround(H * ky))) : H;
     const PixelPlane source = run.S;
     intoSize(run, w, h, [&](FilterRun &r) {
-        const Affine m{1.0 / kx, 0, 0, 1.0 / ky, (w - 1) / 2.0, (h - 1) / 2.0, (W - 1) / 2.0, (H - 1) / 2.0};
+        const Affine m{1.0 / kx,     0, 0, 1.0 / ky, (w - 1) / 2.0, (h - 1) / 2.0, (W - 1) / 2.0,
+                       (H - 1) / 2.0};
         fillAffine(r, source, m, true);
     });
 }

@@ -24,12 +24,24 @@ bool insetOf(int selector, int y, int H, int W2, int H2, double P, double &d)
     const double pi = std::atan(1.0) * 4.0;
     const double yh = double(y) / H;
     switch (selector) {
-    case 0: d = (std::sin((2 * yh + 1.5) * pi) + 1) * P; return true; // hourglass
-    case 1: d = (std::sin((2 * yh + 0.5) * pi) + 1) * P; return true; // vase
-    case 2: d = (std::sin((3 * yh + 1) * pi) + 1) * P; return true;   // torso
-    case 3: d = (std::sin((6 * yh + 1) * pi) + 1) * P; return true;   // lantern
-    case 5: d = 3 * P * y / H; return true;                           // funnel
-    case 6: d = 3 * P - 3 * P * y / H; return true;                   // roof
+    case 0: // hourglass
+        d = (std::sin((2 * yh + 1.5) * pi) + 1) * P;
+        return true;
+    case 1: // vase
+        d = (std::sin((2 * yh + 0.5) * pi) + 1) * P;
+        return true;
+    case 2: // torso
+        d = (std::sin((3 * yh + 1) * pi) + 1) * P;
+        return true;
+    case 3: // lantern
+        d = (std::sin((6 * yh + 1) * pi) + 1) * P;
+        return true;
+    case 5: // funnel
+        d = 3 * P * y / H;
+        return true;
+    case 6: // roof
+        d = 3 * P - 3 * P * y / H;
+        return true;
     case 8:
     case 9: { // a circle (fisheye) or, with H2 = H, half of one (parabola)
         double q = double(H - y - H2) / H2;
@@ -37,7 +49,8 @@ bool insetOf(int selector, int y, int H, int W2, int H2, double P, double &d)
         d = W2 - W2 * std::sqrt(1 - q);
         return true;
     }
-    default: return false;
+    default:
+        return false;
     }
 }
 

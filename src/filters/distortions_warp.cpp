@@ -16,7 +16,10 @@ namespace {
 using warp::Source;
 
 // The middle of the picture in pixel-centre coordinates.
-double middle(int size) { return (size - 1) / 2.0; }
+double middle(int size)
+{
+    return (size - 1) / 2.0;
+}
 
 } // namespace
 

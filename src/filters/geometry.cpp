@@ -22,8 +22,9 @@ bool sizeAllowed(int w, int h)
 
 void refuseSize(Session &s, int w, int h)
 {
-    s.ask(QCoreApplication::translate("Geometry", "Die Größe %1 x %2 ist nicht möglich: "
-                                                  "jede Seite muss zwischen 1 und %3 Pixeln liegen.")
+    s.ask(QCoreApplication::translate("Geometry",
+                                      "Die Größe %1 x %2 ist nicht möglich: "
+                                      "jede Seite muss zwischen 1 und %3 Pixeln liegen.")
               .arg(w)
               .arg(h)
               .arg(MaxPictureSide),
@@ -46,18 +47,28 @@ QImage turnedQuarters(const QImage &picture, int quarters, int threads)
     const int W = src.width(), H = src.height();
     QImage out = q == 2 ? QImage(W, H, QImage::Format_RGB32) : QImage(H, W, QImage::Format_RGB32);
     const int w = out.width(), h = out.height();
-    parallelRows(h, w, [&](int first, int last) {
-        for (int y = first; y < last; ++y) {
-            auto *o = reinterpret_cast<uint32_t *>(out.scanLine(y));
-            for (int x = 0; x < w; ++x) {
-                int sx, sy;
-                if (q == 1) { sx = y; sy = H - 1 - x; }
-                else if (q == 2) { sx = W - 1 - x; sy = H - 1 - y; }
-                else { sx = W - 1 - y; sy = x; }
-                o[x] = reinterpret_cast<const uint32_t *>(src.constScanLine(sy))[sx];
+    parallelRows(
+        h, w,
+        [&](int first, int last) {
+            for (int y = first; y < last; ++y) {
+                auto *o = reinterpret_cast<uint32_t *>(out.scanLine(y));
+                for (int x = 0; x < w; ++x) {
+                    int sx, sy;
+                    if (q == 1) {
+                        sx = y;
+                        sy = H - 1 - x;
+                    } else if (q == 2) {
+                        sx = W - 1 - x;
+                        sy = H - 1 - y;
+                    } else {
+                        sx = W - 1 - y;
+                        sy = x;
+                    }
+                    o[x] = reinterpret_cast<const uint32_t *>(src.constScanLine(sy))[sx];
+                }
             }
-        }
-    }, 1 << 16, threads);
+        },
+        1 << 16, threads);
     return out;
 }
 
@@ -99,7 +110,8 @@ bool Menu_PictureSize(Session &s, int w, int h, bool smooth)
         refuseSize(s, w, h);
         return false;
     }
-    return runOnTarget(s, pictureTarget(s), smooth ? QStringLiteral("Resample") : QStringLiteral("Resize"),
+    return runOnTarget(s, pictureTarget(s),
+                       smooth ? QStringLiteral("Resample") : QStringLiteral("Resize"),
                        [&](QImage &p) {
                            QImage scaled = scaledPicture(p, w, h, smooth);
                            if (scaled.isNull()) throw Fault(Fault::OutOfMemory);
@@ -114,7 +126,8 @@ bool Menu_CropToSelection(Session &s)
                             : ws.picSelectC.Visible() ? &ws.picSelectC
                                                       : nullptr;
     if (!selection) {
-        s.ask(QCoreApplication::translate("Geometry", "Zum Freistellen ziehen Sie zuerst eine Auswahl auf."),
+        s.ask(QCoreApplication::translate("Geometry",
+                                          "Zum Freistellen ziehen Sie zuerst eine Auswahl auf."),
               Buttons::Ok, Icon::Information);
         return false;
     }

@@ -20,7 +20,7 @@ enum class HalfMirror {
     RightToLeft = 1,
     TopToBottom = 2, // the lower half shows the upper half mirrored
     BottomToTop = 3,
-    Prismatic = 5,   // left to right, then top to bottom: one quarter fills the picture
+    Prismatic = 5, // left to right, then top to bottom: one quarter fills the picture
 };
 
 // In place on a picture (Format_RGB32).

@@ -96,21 +96,23 @@ enum class Source { Sample, Keep, Background };
 // Runs an inverse mapping over every pixel of D: `map(x, y, fx, fy)` sets the source position
 // of target pixel (x, y) and answers where the pixel comes from: S at (fx, fy) (bilinear when
 // `smooth`, else the nearest pixel), D as it is (the picture as it was), or `background`.
-template <typename Map>
-void inverseMap(FilterRun &run, bool smooth, uint32_t background, Map map)
+template <typename Map> void inverseMap(FilterRun &run, bool smooth, uint32_t background, Map map)
 {
     forStrips(run, [&](int y, int x0, int x1) {
-            auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
-            for (int x = x0; x < x1; ++x) {
-                double fx = x, fy = y;
-                switch (map(x, y, fx, fy)) {
-                case Source::Sample:
-                    out[x] = smooth ? bilinear(run.S, fx, fy) : nearest(run.S, fx, fy);
-                    break;
-                case Source::Background: out[x] = background; break;
-                case Source::Keep: break;
-                }
+        auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
+        for (int x = x0; x < x1; ++x) {
+            double fx = x, fy = y;
+            switch (map(x, y, fx, fy)) {
+            case Source::Sample:
+                out[x] = smooth ? bilinear(run.S, fx, fy) : nearest(run.S, fx, fy);
+                break;
+            case Source::Background:
+                out[x] = background;
+                break;
+            case Source::Keep:
+                break;
             }
+        }
     });
 }
 

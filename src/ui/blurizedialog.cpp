@@ -23,7 +23,8 @@ QImage reduced(const QImage &img)
 }
 } // namespace
 
-BlurizeDialog::BlurizeDialog(Session &session, const BlurizeRow &row, const QImage &before, QWidget *parent)
+BlurizeDialog::BlurizeDialog(Session &session, const BlurizeRow &row, const QImage &before,
+                             QWidget *parent)
     : QDialog(parent), m_session(session), m_row(row),
       m_now(reduced(session.workspace().Bild.Image())), m_before(reduced(before))
 {
@@ -59,7 +60,8 @@ BlurizeDialog::BlurizeDialog(Session &session, const BlurizeRow &row, const QIma
     layout->addLayout(grid);
     // The cancel button is our own: a standard one takes Qt's caption at a language change.
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
-    buttons->addButton(tr("Abbrechen"), QDialogButtonBox::RejectRole)->setObjectName(QStringLiteral("cmdCancel"));
+    buttons->addButton(tr("Abbrechen"), QDialogButtonBox::RejectRole)
+        ->setObjectName(QStringLiteral("cmdCancel"));
     connect(buttons, &QDialogButtonBox::accepted, this, [this] {
         apply();
         accept();

@@ -23,7 +23,8 @@ class BlurizeDialog : public QDialog {
     Q_OBJECT
 public:
     // `before` is the picture before the last change at Bild's size.
-    BlurizeDialog(Session &session, const BlurizeRow &row, const QImage &before, QWidget *parent = nullptr);
+    BlurizeDialog(Session &session, const BlurizeRow &row, const QImage &before,
+                  QWidget *parent = nullptr);
 
     FilterArgs values() const;
     QSlider *slider(int i) const { return m_sliders[size_t(i)]; }

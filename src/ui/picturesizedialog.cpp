@@ -59,7 +59,8 @@ PictureSizeDialog::PictureSizeDialog(Mode mode, int width, int height, QWidget *
     }
     // The cancel button is our own: a standard one takes Qt's caption at a language change.
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
-    buttons->addButton(tr("Abbrechen"), QDialogButtonBox::RejectRole)->setObjectName(QStringLiteral("cmdCancel"));
+    buttons->addButton(tr("Abbrechen"), QDialogButtonBox::RejectRole)
+        ->setObjectName(QStringLiteral("cmdCancel"));
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     form->addRow(buttons);
@@ -79,9 +80,18 @@ void PictureSizeDialog::heightChanged()
     m_width->setValue(std::max(1, int(std::lround(m_height->value() / m_heightPerWidth))));
 }
 
-int PictureSizeDialog::pictureWidth() const { return m_width->value(); }
-int PictureSizeDialog::pictureHeight() const { return m_height->value(); }
-bool PictureSizeDialog::smooth() const { return !m_method || m_method->currentIndex() == 0; }
+int PictureSizeDialog::pictureWidth() const
+{
+    return m_width->value();
+}
+int PictureSizeDialog::pictureHeight() const
+{
+    return m_height->value();
+}
+bool PictureSizeDialog::smooth() const
+{
+    return !m_method || m_method->currentIndex() == 0;
+}
 
 int PictureSizeDialog::anchor() const
 {

@@ -43,9 +43,12 @@ TransformMenu::TransformMenu(Session &session, QWidget *parent) : QMenu(parent),
                              run([index](Session &s) { return mn_KlappH(s, index); }));
     }
     addSeparator();
-    m_turnRight = action(this, QStringLiteral("mn_Turn90R"), run([](Session &s) { return Menu_Turn(s, 1); }));
-    m_turnLeft = action(this, QStringLiteral("mn_Turn90L"), run([](Session &s) { return Menu_Turn(s, 3); }));
-    m_turn180 = action(this, QStringLiteral("mn_Turn180"), run([](Session &s) { return Menu_Turn(s, 2); }));
+    m_turnRight =
+        action(this, QStringLiteral("mn_Turn90R"), run([](Session &s) { return Menu_Turn(s, 1); }));
+    m_turnLeft =
+        action(this, QStringLiteral("mn_Turn90L"), run([](Session &s) { return Menu_Turn(s, 3); }));
+    m_turn180 =
+        action(this, QStringLiteral("mn_Turn180"), run([](Session &s) { return Menu_Turn(s, 2); }));
     addSeparator();
     m_size = action(this, QStringLiteral("mn_BildGroesse"), [this] { pictureSize(); });
     m_canvas = action(this, QStringLiteral("mn_Arbeitsflaeche"), [this] { canvasSize(); });
@@ -71,7 +74,8 @@ QAction *TransformMenu::entry(const QString &name) const
 void TransformMenu::pictureSize()
 {
     const Workspace &ws = m_session.workspace();
-    PictureSizeDialog dialog(PictureSizeDialog::Mode::PictureSize, ws.BildW, ws.BildH, parentWidget());
+    PictureSizeDialog dialog(PictureSizeDialog::Mode::PictureSize, ws.BildW, ws.BildH,
+                             parentWidget());
     if (dialog.exec() != QDialog::Accepted) return;
     Menu_PictureSize(m_session, dialog.pictureWidth(), dialog.pictureHeight(), dialog.smooth());
     emit pictureChanged();
@@ -111,8 +115,8 @@ void TransformMenu::retranslate()
     m_mirrorV->setText(tr("&Vertikal spiegeln"));
     m_mirrorH->setText(tr("&Horizontal spiegeln"));
     m_klapp->setTitle(tr("Halb&spiegel"));
-    const QString klapp[] = {tr("&Links nach rechts"), tr("&Rechts nach links"), tr("&Oben nach unten"),
-                             tr("&Unten nach oben"), tr("&Prismatisch")};
+    const QString klapp[] = {tr("&Links nach rechts"), tr("&Rechts nach links"),
+                             tr("&Oben nach unten"), tr("&Unten nach oben"), tr("&Prismatisch")};
     for (size_t i = 0; i < m_klappH.size(); ++i)
         m_klappH[i]->setText(klapp[i]);
     m_turnRight->setText(tr("90° nach &rechts drehen"));
@@ -125,7 +129,8 @@ void TransformMenu::retranslate()
     const Language lang = currentLanguage();
     for (size_t i = 0; i < m_blurizeActions.size(); ++i) {
         const BlurizeRow &row = blurizeTable()[i];
-        m_blurizeActions[i]->setText(QString::fromUtf8(lang == Language::English ? row.english : row.german));
+        m_blurizeActions[i]->setText(
+            QString::fromUtf8(lang == Language::English ? row.english : row.german));
     }
 }
 

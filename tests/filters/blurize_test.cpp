@@ -1,10 +1,10 @@
 // The 3-D Blurize family: what each routine does at its ends (sharp in focus, the box mean out
 // of it, the two pictures on either side of a blend), the same result on any thread count, and
 // the command on the picture now and the picture before, with undo.
+#include "filterpictures.h"
 #include "filters/blurize.h"
 #include "filters/dografic.h"
 #include "paint/session.h"
-#include "filterpictures.h"
 
 #include <gtest/gtest.h>
 
@@ -115,8 +115,9 @@ TEST_F(Blurize, TheCommandTakesThePictureBeforeAndUndoGivesThePictureNowBack)
     ws.New_BildSize(20, 10);
     ws.Bild.setPicture(flat(20, 10, RGB(0, 0, 200)));
     EXPECT_FALSE(Menu_Blurize(s, 3, blurizeDefaults(*findBlurize(3))));
-    EXPECT_EQ(prompter.lastText(), QStringLiteral("Es gibt noch kein Bild vor der letzten Änderung: laden "
-                                                  "oder malen Sie zuerst zwei Bilder nacheinander."));
+    EXPECT_EQ(prompter.lastText(),
+              QStringLiteral("Es gibt noch kein Bild vor der letzten Änderung: laden "
+                             "oder malen Sie zuerst zwei Bilder nacheinander."));
     ws.Bild_nachUndo();
     const QImage now = flat(20, 10, RGB(200, 0, 0));
     ws.Bild.setPicture(now);

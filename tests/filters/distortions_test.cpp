@@ -1,12 +1,12 @@
 // The distortions of the transform menu: the row shapes of TransGMirrors by their exact rule,
 // the warps (what leaves the picture as it was, what comes back), the sizes of stretching and
 // rotation, and results that do not depend on the thread count.
+#include "filterpictures.h"
 #include "filters/dografic.h"
 #include "filters/filtercommand.h"
 #include "filters/filtertable.h"
 #include "filters/geometry.h"
 #include "paint/session.h"
-#include "filterpictures.h"
 
 #include <gtest/gtest.h>
 
@@ -26,7 +26,8 @@ struct Distortions : ::testing::Test {
         const FilterRow &row = *findFilter(number);
         a.selector = defaultArguments(row).selector;
         size_t i = 0;
-        for (int v : sliders) a.sliders[i++] = v;
+        for (int v : sliders)
+            a.sliders[i++] = v;
         a.argument = a.sliders[0];
         EXPECT_TRUE(DoGraficFilters(s, row.runsAs(), img, a)) << number;
         return img;
@@ -116,8 +117,8 @@ TEST_F(Distortions, TheCircleShapesSqueezeTheEndsAndLeaveTheWidestRow)
 TEST_F(Distortions, NeutralValuesLeaveThePicture)
 {
     const QImage photo = noisy(23, 19);
-    EXPECT_EQ(run(47, photo, {50, 0}), photo);          // a lens of scaling 0
-    EXPECT_EQ(run(48, photo, {0, 30, 0}), photo);       // no waves, start angle 0
+    EXPECT_EQ(run(47, photo, {50, 0}), photo);    // a lens of scaling 0
+    EXPECT_EQ(run(48, photo, {0, 30, 0}), photo); // no waves, start angle 0
     EXPECT_EQ(run(49, photo, {0}), photo);
     EXPECT_EQ(run(50, photo, {0, 0}), photo);
     EXPECT_EQ(run(51, photo, {0, 0}), photo);
@@ -188,8 +189,8 @@ TEST_F(Distortions, ResultsDoNotDependOnTheThreadCount)
 {
     const QImage img = noisy(301, 97);
     const std::vector<std::pair<int, std::vector<int>>> cases = {
-        {1000, {20}}, {1008, {10}}, {47, {80, 70}}, {48, {25, 50, 40}}, {49, {150}},
-        {49, {-120}}, {50, {60, 90}}, {51, {-90, 70}}, {52, {120, -30}}, {53, {33, 1}}};
+        {1000, {20}}, {1008, {10}},   {47, {80, 70}},  {48, {25, 50, 40}}, {49, {150}},
+        {49, {-120}}, {50, {60, 90}}, {51, {-90, 70}}, {52, {120, -30}},   {53, {33, 1}}};
     for (const auto &[number, sliders] : cases) {
         s.filters().threads = 1;
         const QImage one = run(number, img, sliders);

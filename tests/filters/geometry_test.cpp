@@ -1,11 +1,11 @@
 // The picture commands (turns, picture size, canvas, cropping) and the distortions that change
 // the picture's size, through the workspace with undo: Undo gives the former size back.
+#include "filterpictures.h"
 #include "filters/filtercommand.h"
 #include "filters/filtertable.h"
 #include "filters/geometry.h"
 #include "paint/colourstate.h"
 #include "paint/session.h"
-#include "filterpictures.h"
 
 #include <gtest/gtest.h>
 
@@ -100,7 +100,8 @@ TEST_F(Geometry, CanvasSizePlacesThePictureOnTheBackgroundColour)
 TEST_F(Geometry, CroppingTakesTheSelectionAndNeedsOne)
 {
     EXPECT_FALSE(Menu_CropToSelection(s));
-    EXPECT_EQ(prompter.lastText(), QStringLiteral("Zum Freistellen ziehen Sie zuerst eine Auswahl auf."));
+    EXPECT_EQ(prompter.lastText(),
+              QStringLiteral("Zum Freistellen ziehen Sie zuerst eine Auswahl auf."));
     const QImage part = noisy(5, 4);
     ws.PicSelect.resize(5, 4);
     ws.PicSelect.setPicture(part);

@@ -1,8 +1,8 @@
 // The mirrors and half mirrors on small pictures, exactly, and the commands on the picture and
 // on both selections with undo.
+#include "filterpictures.h"
 #include "filters/mirrors.h"
 #include "paint/session.h"
-#include "filterpictures.h"
 
 #include <gtest/gtest.h>
 
