@@ -1,6 +1,13 @@
 <?xml version='1.0' encoding='utf-8'?>
 <TS version="2.1" language="de" sourcelanguage="de">
 <context>
+    <name>Blurize</name>
+    <message>
+        <source>Es gibt noch kein Bild vor der letzten Änderung: laden oder malen Sie zuerst zwei Bilder nacheinander.</source>
+        <translation>Es gibt noch kein Bild vor der letzten Änderung: laden oder malen Sie zuerst zwei Bilder nacheinander.</translation>
+    </message>
+</context>
+<context>
     <name>Cli</name>
     <message>
         <source>Unbekannte Sprache: %1 (de oder en)</source>
@@ -125,6 +132,46 @@
     <message>
         <source>„%1“ konnte nicht gemalt werden.</source>
         <translation>„%1“ konnte nicht gemalt werden.</translation>
+    </message>
+    <message>
+        <source>Ungültige Größe: %1 (BxH)</source>
+        <translation>Ungültige Größe: %1 (BxH)</translation>
+    </message>
+    <message>
+        <source>Ungültiger Ausschnitt: %1 (X,Y,B,H)</source>
+        <translation>Ungültiger Ausschnitt: %1 (X,Y,B,H)</translation>
+    </message>
+    <message>
+        <source>Ungültige Lage: %1 (top-left, top, ..., middle, ..., bottom-right)</source>
+        <translation>Ungültige Lage: %1 (top-left, top, ..., middle, ..., bottom-right)</translation>
+    </message>
+    <message>
+        <source>Ungültiger Halbspiegel: %1 (left-to-right, right-to-left, top-to-bottom, bottom-to-top, prismatic)</source>
+        <translation>Ungültiger Halbspiegel: %1 (left-to-right, right-to-left, top-to-bottom, bottom-to-top, prismatic)</translation>
+    </message>
+    <message>
+        <source>Es fehlt die Umformung.</source>
+        <translation>Es fehlt die Umformung.</translation>
+    </message>
+    <message>
+        <source>Es fehlt der Wert der Umformung %1.</source>
+        <translation>Es fehlt der Wert der Umformung %1.</translation>
+    </message>
+    <message>
+        <source>Es fehlt das Bild, das umgeformt wird.</source>
+        <translation>Es fehlt das Bild, das umgeformt wird.</translation>
+    </message>
+    <message>
+        <source>Die Umformung %1 braucht ein zweites Bild (--with DATEI).</source>
+        <translation>Die Umformung %1 braucht ein zweites Bild (--with DATEI).</translation>
+    </message>
+    <message>
+        <source>Unbekannte Umformung: %1 (siehe --help)</source>
+        <translation>Unbekannte Umformung: %1 (siehe --help)</translation>
+    </message>
+    <message>
+        <source>Das Umformen ist fehlgeschlagen.</source>
+        <translation>Das Umformen ist fehlgeschlagen.</translation>
     </message>
 </context>
 <context>
@@ -414,6 +461,17 @@
     <message>
         <source>nicht fixiert</source>
         <translation>nicht fixiert</translation>
+    </message>
+</context>
+<context>
+    <name>Geometry</name>
+    <message>
+        <source>Die Größe %1 x %2 ist nicht möglich: jede Seite muss zwischen 1 und %3 Pixeln liegen.</source>
+        <translation>Die Größe %1 x %2 ist nicht möglich: jede Seite muss zwischen 1 und %3 Pixeln liegen.</translation>
+    </message>
+    <message>
+        <source>Zum Freistellen ziehen Sie zuerst eine Auswahl auf.</source>
+        <translation>Zum Freistellen ziehen Sie zuerst eine Auswahl auf.</translation>
     </message>
 </context>
 <context>
@@ -793,6 +851,13 @@
     </message>
 </context>
 <context>
+    <name>tf::ui::BlurizeDialog</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>tf::ui::ColourDialogDock</name>
     <message>
         <source>Farben</source>
@@ -965,6 +1030,14 @@
     <message>
         <source>aus</source>
         <translation>aus</translation>
+    </message>
+    <message>
+        <source>Größe anpassen</source>
+        <translation>Größe anpassen</translation>
+    </message>
+    <message>
+        <source>Hintergrund löschen</source>
+        <translation>Hintergrund löschen</translation>
     </message>
 </context>
 <context>
@@ -1331,6 +1404,53 @@
     </message>
 </context>
 <context>
+    <name>tf::ui::PictureSizeDialog</name>
+    <message>
+        <source>Bildgröße</source>
+        <translation>Bildgröße</translation>
+    </message>
+    <message>
+        <source>Arbeitsfläche</source>
+        <translation>Arbeitsfläche</translation>
+    </message>
+    <message>
+        <source> Pixel</source>
+        <translation> Pixel</translation>
+    </message>
+    <message>
+        <source>Breite:</source>
+        <translation>Breite:</translation>
+    </message>
+    <message>
+        <source>Höhe:</source>
+        <translation>Höhe:</translation>
+    </message>
+    <message>
+        <source>Seitenverhältnis beibehalten</source>
+        <translation>Seitenverhältnis beibehalten</translation>
+    </message>
+    <message>
+        <source>Glätten (bilinear)</source>
+        <translation>Glätten (bilinear)</translation>
+    </message>
+    <message>
+        <source>Nächster Bildpunkt</source>
+        <translation>Nächster Bildpunkt</translation>
+    </message>
+    <message>
+        <source>Verfahren:</source>
+        <translation>Verfahren:</translation>
+    </message>
+    <message>
+        <source>Lage des Bildes:</source>
+        <translation>Lage des Bildes:</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
     <name>tf::ui::SizeDialog</name>
     <message>
         <source>Neues Bild</source>
@@ -1390,6 +1510,73 @@
     <message>
         <source>Systempaletten</source>
         <translation>Systempaletten</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::TransformMenu</name>
+    <message>
+        <source>B&amp;ild</source>
+        <translation>B&amp;ild</translation>
+    </message>
+    <message>
+        <source>&amp;Vertikal spiegeln</source>
+        <translation>&amp;Vertikal spiegeln</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontal spiegeln</source>
+        <translation>&amp;Horizontal spiegeln</translation>
+    </message>
+    <message>
+        <source>Halb&amp;spiegel</source>
+        <translation>Halb&amp;spiegel</translation>
+    </message>
+    <message>
+        <source>&amp;Links nach rechts</source>
+        <translation>&amp;Links nach rechts</translation>
+    </message>
+    <message>
+        <source>&amp;Rechts nach links</source>
+        <translation>&amp;Rechts nach links</translation>
+    </message>
+    <message>
+        <source>&amp;Oben nach unten</source>
+        <translation>&amp;Oben nach unten</translation>
+    </message>
+    <message>
+        <source>&amp;Unten nach oben</source>
+        <translation>&amp;Unten nach oben</translation>
+    </message>
+    <message>
+        <source>&amp;Prismatisch</source>
+        <translation>&amp;Prismatisch</translation>
+    </message>
+    <message>
+        <source>90° nach &amp;rechts drehen</source>
+        <translation>90° nach &amp;rechts drehen</translation>
+    </message>
+    <message>
+        <source>90° nach &amp;links drehen</source>
+        <translation>90° nach &amp;links drehen</translation>
+    </message>
+    <message>
+        <source>&amp;180° drehen</source>
+        <translation>&amp;180° drehen</translation>
+    </message>
+    <message>
+        <source>Bild&amp;größe...</source>
+        <translation>Bild&amp;größe...</translation>
+    </message>
+    <message>
+        <source>&amp;Arbeitsfläche...</source>
+        <translation>&amp;Arbeitsfläche...</translation>
+    </message>
+    <message>
+        <source>Auf Auswahl &amp;zuschneiden</source>
+        <translation>Auf Auswahl &amp;zuschneiden</translation>
+    </message>
+    <message>
+        <source>3-D &amp;Unschärfe und Überblenden</source>
+        <translation>3-D &amp;Unschärfe und Überblenden</translation>
     </message>
 </context>
 </TS>

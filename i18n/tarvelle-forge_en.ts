@@ -1,6 +1,12 @@
-<?xml version="1.0" encoding="utf-8"?>
-<!DOCTYPE TS>
+<?xml version='1.0' encoding='utf-8'?>
 <TS version="2.1" language="en" sourcelanguage="de">
+<context>
+    <name>Blurize</name>
+    <message>
+        <source>Es gibt noch kein Bild vor der letzten Änderung: laden oder malen Sie zuerst zwei Bilder nacheinander.</source>
+        <translation>There is no picture before the last change yet: first load or paint two pictures one after the other.</translation>
+    </message>
+</context>
 <context>
     <name>Cli</name>
     <message>
@@ -125,7 +131,47 @@
     </message>
     <message>
         <source>„%1“ konnte nicht gemalt werden.</source>
-        <translation>&quot;%1&quot; could not be painted.</translation>
+        <translation>"%1" could not be painted.</translation>
+    </message>
+    <message>
+        <source>Ungültige Größe: %1 (BxH)</source>
+        <translation>Invalid size: %1 (WxH)</translation>
+    </message>
+    <message>
+        <source>Ungültiger Ausschnitt: %1 (X,Y,B,H)</source>
+        <translation>Invalid part: %1 (X,Y,W,H)</translation>
+    </message>
+    <message>
+        <source>Ungültige Lage: %1 (top-left, top, ..., middle, ..., bottom-right)</source>
+        <translation>Invalid place: %1 (top-left, top, ..., middle, ..., bottom-right)</translation>
+    </message>
+    <message>
+        <source>Ungültiger Halbspiegel: %1 (left-to-right, right-to-left, top-to-bottom, bottom-to-top, prismatic)</source>
+        <translation>Invalid half mirror: %1 (left-to-right, right-to-left, top-to-bottom, bottom-to-top, prismatic)</translation>
+    </message>
+    <message>
+        <source>Es fehlt die Umformung.</source>
+        <translation>The transformation is missing.</translation>
+    </message>
+    <message>
+        <source>Es fehlt der Wert der Umformung %1.</source>
+        <translation>The value of the transformation %1 is missing.</translation>
+    </message>
+    <message>
+        <source>Es fehlt das Bild, das umgeformt wird.</source>
+        <translation>The picture to transform is missing.</translation>
+    </message>
+    <message>
+        <source>Die Umformung %1 braucht ein zweites Bild (--with DATEI).</source>
+        <translation>The transformation %1 needs a second picture (--with FILE).</translation>
+    </message>
+    <message>
+        <source>Unbekannte Umformung: %1 (siehe --help)</source>
+        <translation>Unknown transformation: %1 (see --help)</translation>
+    </message>
+    <message>
+        <source>Das Umformen ist fehlgeschlagen.</source>
+        <translation>The transformation failed.</translation>
     </message>
 </context>
 <context>
@@ -418,6 +464,17 @@
     </message>
 </context>
 <context>
+    <name>Geometry</name>
+    <message>
+        <source>Die Größe %1 x %2 ist nicht möglich: jede Seite muss zwischen 1 und %3 Pixeln liegen.</source>
+        <translation>The size %1 x %2 is not possible: each side must lie between 1 and %3 pixels.</translation>
+    </message>
+    <message>
+        <source>Zum Freistellen ziehen Sie zuerst eine Auswahl auf.</source>
+        <translation>To crop, first draw a selection.</translation>
+    </message>
+</context>
+<context>
     <name>GrafDialog</name>
     <message>
         <source>Paint &lt;F5&gt;</source>
@@ -510,7 +567,7 @@
     </message>
     <message>
         <source>„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.</source>
-        <translation>&quot;%1&quot; paints nothing yet: its painter is not built in.</translation>
+        <translation>"%1" paints nothing yet: its painter is not built in.</translation>
     </message>
     <message>
         <source>Startwert %1</source>
@@ -794,6 +851,13 @@
     </message>
 </context>
 <context>
+    <name>tf::ui::BlurizeDialog</name>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>tf::ui::ColourDialogDock</name>
     <message>
         <source>Farben</source>
@@ -966,6 +1030,14 @@
     <message>
         <source>aus</source>
         <translation>off</translation>
+    </message>
+    <message>
+        <source>Größe anpassen</source>
+        <translation>Fit size</translation>
+    </message>
+    <message>
+        <source>Hintergrund löschen</source>
+        <translation>Clear background</translation>
     </message>
 </context>
 <context>
@@ -1332,6 +1404,53 @@
     </message>
 </context>
 <context>
+    <name>tf::ui::PictureSizeDialog</name>
+    <message>
+        <source>Bildgröße</source>
+        <translation>Picture size</translation>
+    </message>
+    <message>
+        <source>Arbeitsfläche</source>
+        <translation>Canvas size</translation>
+    </message>
+    <message>
+        <source> Pixel</source>
+        <translation> pixels</translation>
+    </message>
+    <message>
+        <source>Breite:</source>
+        <translation>Width:</translation>
+    </message>
+    <message>
+        <source>Höhe:</source>
+        <translation>Height:</translation>
+    </message>
+    <message>
+        <source>Seitenverhältnis beibehalten</source>
+        <translation>Keep proportion</translation>
+    </message>
+    <message>
+        <source>Glätten (bilinear)</source>
+        <translation>Smooth (bilinear)</translation>
+    </message>
+    <message>
+        <source>Nächster Bildpunkt</source>
+        <translation>Nearest pixel</translation>
+    </message>
+    <message>
+        <source>Verfahren:</source>
+        <translation>Method:</translation>
+    </message>
+    <message>
+        <source>Lage des Bildes:</source>
+        <translation>Place of the picture:</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
     <name>tf::ui::SizeDialog</name>
     <message>
         <source>Neues Bild</source>
@@ -1391,6 +1510,73 @@
     <message>
         <source>Systempaletten</source>
         <translation>System palettes</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::TransformMenu</name>
+    <message>
+        <source>B&amp;ild</source>
+        <translation>P&amp;icture</translation>
+    </message>
+    <message>
+        <source>&amp;Vertikal spiegeln</source>
+        <translation>Mirror &amp;vertically</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontal spiegeln</source>
+        <translation>Mirror &amp;horizontally</translation>
+    </message>
+    <message>
+        <source>Halb&amp;spiegel</source>
+        <translation>Half &amp;mirrors</translation>
+    </message>
+    <message>
+        <source>&amp;Links nach rechts</source>
+        <translation>&amp;Left to right</translation>
+    </message>
+    <message>
+        <source>&amp;Rechts nach links</source>
+        <translation>&amp;Right to left</translation>
+    </message>
+    <message>
+        <source>&amp;Oben nach unten</source>
+        <translation>&amp;Top to bottom</translation>
+    </message>
+    <message>
+        <source>&amp;Unten nach oben</source>
+        <translation>&amp;Bottom to top</translation>
+    </message>
+    <message>
+        <source>&amp;Prismatisch</source>
+        <translation>&amp;Prismatic</translation>
+    </message>
+    <message>
+        <source>90° nach &amp;rechts drehen</source>
+        <translation>Turn 90° &amp;right</translation>
+    </message>
+    <message>
+        <source>90° nach &amp;links drehen</source>
+        <translation>Turn 90° &amp;left</translation>
+    </message>
+    <message>
+        <source>&amp;180° drehen</source>
+        <translation>Turn &amp;180°</translation>
+    </message>
+    <message>
+        <source>Bild&amp;größe...</source>
+        <translation>Picture &amp;size...</translation>
+    </message>
+    <message>
+        <source>&amp;Arbeitsfläche...</source>
+        <translation>&amp;Canvas size...</translation>
+    </message>
+    <message>
+        <source>Auf Auswahl &amp;zuschneiden</source>
+        <translation>Crop to &amp;selection</translation>
+    </message>
+    <message>
+        <source>3-D &amp;Unschärfe und Überblenden</source>
+        <translation>3-D &amp;blur and blends</translation>
     </message>
 </context>
 </TS>

@@ -34,6 +34,14 @@ const char *const usage =
     "                         paint every type that paints into DIR (KEY.png each) and\n"
     "                         write DIR/index.html with the captions and command lines\n"
     "                         (default size 256x256, seed 1, all groups)\n"
+    "  transform OPERATION [VALUE] IN -o OUT [OPTIONS]\n"
+    "                         turn, mirror, resize, crop or extend a picture:\n"
+    "                         turn-right, turn-left, turn-180, mirror-v (left to right),\n"
+    "                         mirror-h (top to bottom), half-mirror left-to-right|\n"
+    "                         right-to-left|top-to-bottom|bottom-to-top|prismatic,\n"
+    "                         size WxH, canvas WxH, crop X,Y,W,H\n"
+    "                         and on two pictures (IN now, --with the one before):\n"
+    "                         depth-blur, depth-between, soft-blend, brightness-blend\n"
     "\n"
     "Options of paint:\n"
     "  -o, --output FILE      the picture to write; .png, .jpg or .bmp by its extension\n"
@@ -65,6 +73,18 @@ const char *const usage =
     "                         the dialog's two colour fields\n"
     "  --at X,Y               the position picked on the picture\n"
     "  --seed N               the seed of the random numbers (noise, diffuse)\n"
+    "  --back #RRGGBB         the background colour (rotation corners, bending)\n"
+    "\n"
+    "Options of transform:\n"
+    "  --nearest              size: take the nearest pixel instead of smooth resampling\n"
+    "  --anchor PLACE         canvas: where the picture stands: top-left, top, top-right,\n"
+    "                         left, middle (default), right, bottom-left, bottom, bottom-right\n"
+    "  --back #RRGGBB         canvas: the colour of the new room (default white)\n"
+    "  --with FILE            the picture before, for the two-picture operations\n"
+    "  --set SLIDER=VALUE     their sliders: depth-blur Radius 1..40, Focus 0..255;\n"
+    "                         depth-between Radius, Depth 0..100; soft-blend Position,\n"
+    "                         Width 0..100, Angle 0..360; brightness-blend Threshold 0..255,\n"
+    "                         Softness 1..255\n"
     "\n"
     "Options of every command:\n"
     "  --lang de|en           the language of messages and captions\n"
@@ -138,6 +158,7 @@ int run(int argc, char **argv)
         {QStringLiteral("filter"), runFilter},
         {QStringLiteral("recipe"), runRecipe},
         {QStringLiteral("gallery"), runGallery},
+        {QStringLiteral("transform"), runTransform},
     };
     const auto it = commands.find(command);
     if (it == commands.end()) {

@@ -78,5 +78,6 @@ int runFilters(const QStringList &args);
 int runFilter(const QStringList &args);
 int runRecipe(const QStringList &args);
 int runGallery(const QStringList &args);
+int runTransform(const QStringList &args);
 
 } // namespace tf::cli

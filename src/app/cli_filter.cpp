@@ -107,6 +107,18 @@ void setSlider(Step &st, const QString &assignment)
         throw UsageError(QCoreApplication::translate("Cli", "Ungültige Einstellung: %1 (REGLER=WERT)").arg(assignment));
     const QString key = assignment.left(eq), value = assignment.mid(eq + 1);
     if (st.row->mixer && setMixer(st, key, value)) return;
+    // The check boxes of stretching and rotation: "Größe anpassen" and "Hintergrund löschen".
+    if (st.row->resizeOptions) {
+        bool *box = key.compare(QLatin1String("resize"), Qt::CaseInsensitive) == 0 ? &st.args.resizeToFit
+                    : key.compare(QLatin1String("clean-back"), Qt::CaseInsensitive) == 0 ? &st.args.cleanBack
+                                                                                         : nullptr;
+        if (box) {
+            if (value != QLatin1String("0") && value != QLatin1String("1"))
+                throw UsageError(QCoreApplication::translate("Cli", "Ungültiger Wert für %1: %2").arg(key, value));
+            *box = value == QLatin1String("1");
+            return;
+        }
+    }
     for (size_t i = 0; i < st.row->sliders.size(); ++i) {
         const FilterSlider &sl = st.row->sliders[i];
         if (key != QString::number(i) &&
@@ -172,6 +184,8 @@ FilterOptions parseFilterOptions(const QStringList &words)
             if (i == 0 && s.row && s.row->sliders.empty() && !s.row->entries.empty() &&
                 s.row->entries[0].rule != ArgumentRule::Fixed)
                 s.args.argument = c;
+        } else if (w == QLatin1String("--back")) {
+            need().args.background = parseColourValue(a.valueOf(w));
         } else if (w == QLatin1String("--at")) {
             Step &s = need();
             const QString v = a.valueOf(w);
@@ -212,6 +226,8 @@ QString argumentsOf(const FilterRow &row)
     if (row.colourFields >= 2) parts << QStringLiteral("--colour1 #RRGGBB");
     if (row.mixer) parts << QStringLiteral("--set red|green|blue=r|g|b|-r|-g|-b|off");
     if (row.previewed == StartsPreviewed::Position) parts << QStringLiteral("--at X,Y");
+    if (row.resizeOptions) parts << QStringLiteral("--set resize=0|1 (0) --set clean-back=0|1 (1)");
+    if (row.number >= 51 && row.number <= 53) parts << QStringLiteral("--back #RRGGBB (#FFFFFF)");
     if (row.sliders.empty() && !row.entries.empty()) {
         const FilterMenuEntry &e = row.entries[0];
         if (e.rule != ArgumentRule::Fixed) {
@@ -268,7 +284,7 @@ int runFilter(const QStringList &args)
     s.filters().threads = o.threads;
     if (o.seed) s.seed(*o.seed);
     for (const Step &st : o.steps) {
-        const bool ok = st.row ? DoGraficFilters(s, st.row->number, picture, st.args)
+        const bool ok = st.row ? DoGraficFilters(s, st.row->runsAs(), picture, st.args)
                                : (colourisePicture(s, picture, SepiaValues), true);
         if (!ok || prompter.faultSeen()) {
             printError(QCoreApplication::translate("Cli", "Das Filtern ist fehlgeschlagen."));

@@ -1,11 +1,11 @@
 #include "filters/dografic.h"
 
 #include "core/fault.h"
+#include "filters/blurize.h"
 #include "filters/filterrun.h"
 #include "filters/gradientkernels.h"
 #include "filters/filtertable.h"
 #include "paint/session.h"
-#include "paint/transparency.h"
 
 namespace tf {
 
@@ -53,34 +53,40 @@ bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &
         FilterRun run(ws.D(), ws.S(), args, s);
         row->kernel(run);
         run.progress(100);
-        picture = ws.result();
+        picture = run.resized.isNull() ? ws.result() : run.resized;
     });
 }
 
 bool DoGraficFilters2(Session &s, int selector, const QImage &first, QImage &second,
-                      double factor, const FilterArgs &args)
+                      const FilterArgs &args)
 {
     if (s.runState().filtering()) return false;
     BusyScope busy(s);
     if (first.isNull() || second.isNull()) return true;
     return guarded(QStringLiteral("DoGraficFilters2 [%1]").arg(selector), [&] {
+        checkedMul<int32_t>(checkedMul<int32_t>(second.width(), 4), second.height());
         QImage result = second.convertToFormat(QImage::Format_RGB32);
         result.detach();
-        switch (selector) {
-        case 1:
-            blendOver(result, first.convertToFormat(QImage::Format_RGB32), factor);
-            break;
-        case 2:
-            result = first.convertToFormat(QImage::Format_RGB32)
-                         .scaled(second.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-            break;
-        case 3:
-        case 4:
-            frequencyWaves(selector, first.convertToFormat(QImage::Format_RGB32), result, args);
-            break;
-        default:
-            return;
-        }
+        QImage other = first.convertToFormat(QImage::Format_RGB32);
+        if (other.size() != result.size())
+            other = other.scaled(result.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        runBlurize(selector, other, result, args, s.filters().threads);
+        s.filters().FilterPercent = 100;
+        second = result;
+    });
+}
+
+bool DoFrequencyWaves(Session &s, int selector, const QImage &first, QImage &second,
+                      const FilterArgs &args)
+{
+    if (s.runState().filtering()) return false;
+    BusyScope busy(s);
+    if (first.isNull() || second.isNull() || (selector != 3 && selector != 4)) return true;
+    return guarded(QStringLiteral("DoGraficFilters2 [%1]").arg(selector), [&] {
+        checkedMul<int32_t>(checkedMul<int32_t>(second.width(), 4), second.height());
+        QImage result = second.convertToFormat(QImage::Format_RGB32);
+        result.detach();
+        frequencyWaves(selector, first.convertToFormat(QImage::Format_RGB32), result, args);
         second = result;
     });
 }

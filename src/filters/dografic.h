@@ -23,12 +23,19 @@ class Session;
 // the call was refused (busy) or a fault was reported.
 bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &args);
 
-// The two-picture entry: selector 1 blends `first` (the new paint) over `second` (the old
-// picture) with `factor` as the transparency bracket does, 2 scales `first` smoothly into
-// the size of `second`, 3 and 4 lay the parallel and the circular waves of `args` over `first`
-// (see gradientkernels.h). The result is in `second`. Other selectors change nothing. Faults
-// are reported as "DoGraficFilters2 [<selector>]  [<description>]".
+// The two-picture entry of the 3-D Blurize family (blurize.h): selector 1 GBlurBMPs, 2
+// GBlurPictureBMPs, 3 and 4 the blends, on `first` and `second` (brought to the size of
+// `second`) with the slider values of `args`. The result is in `second`. Other selectors change
+// nothing. Faults are reported as "DoGraficFilters2 [<selector>]  [<description>]".
 bool DoGraficFilters2(Session &s, int selector, const QImage &first, QImage &second,
-                      double factor, const FilterArgs &args = FilterArgs());
+                      const FilterArgs &args);
+
+// The frequency waves of "Frequenzgradient-Transp": selector 3 lays parallel waves, 4 circular
+// waves, between the colours and points of `args` over `first`, the result in `second` (see
+// gradientkernels.h). It shares the two-picture entry's busy guard and progress; other
+// selectors change nothing. Faults are reported as "DoGraficFilters2 [<selector>]  [...]", the
+// entry the waves were once run through.
+bool DoFrequencyWaves(Session &s, int selector, const QImage &first, QImage &second,
+                      const FilterArgs &args);
 
 } // namespace tf

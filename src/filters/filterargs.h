@@ -42,8 +42,17 @@ struct FilterArgs {
         // (a band of "Color from" round the edge; below 1 none).
         std::array<int, 3> borders{0, 0, -1};
     } frame;
-    // The second point of the two-point waves of DoGraficFilters2 (the first is `position`).
+    // The second point of the two-point waves of DoFrequencyWaves (the first is `position`).
     QPoint position2{-1, -1};
+    // The distortions: the shape of filter 46 (the dialog-level number minus 1000), the
+    // background colour (the corners of a rotation, the room a bent or shrunk picture leaves),
+    // and the check boxes of stretching and rotation: "Größe anpassen" (the picture takes the
+    // size of the result) and "Hintergrund löschen" (uncovered room takes the background
+    // colour; without it the picture as it was shows there).
+    int selector = 0;
+    ColorLong background = 0xFFFFFF;
+    bool resizeToFit = false;
+    bool cleanBack = true;
 };
 
 } // namespace tf

@@ -49,9 +49,25 @@ void fillWork(const FilterTarget &t)
     work.markChanged();
 }
 
-// The target shows `result` over its whole size.
-void showOnTarget(Session &s, const FilterTarget &t, const QImage &result)
+// The target takes the size of `size`: Bild lays the workspace out anew (and Undo gives the
+// former size back), a selection keeps its place.
+void sizeTarget(Session &s, const FilterTarget &t, QSize size, const char *word = "BILDRESIZED")
 {
+    if (t.picture->Image().size() == size) return;
+    Workspace &ws = s.workspace();
+    if (t.kind == FilterTarget::Picture) {
+        ws.New_BildSize(size.width(), size.height());
+        if (!ws.lastaction.contains(QLatin1String(word))) ws.lastaction += QLatin1String(word);
+    } else {
+        t.picture->resize(size.width(), size.height());
+    }
+}
+
+// The target shows `result` over its whole size (stretching and rotation may change it).
+void showOnTarget(Session &s, const FilterTarget &t, const QImage &result,
+                  const char *sizeWord = "BILDRESIZED")
+{
+    sizeTarget(s, t, result.size(), sizeWord);
     t.picture->mutableImage() = result;
     t.picture->markChanged();
     t.picture->Refresh();
@@ -103,6 +119,7 @@ FilterArgs defaultArguments(const FilterRow &row)
         a.sliders[i] = row.sliders[i].def;
     if (!row.sliders.empty()) a.argument = row.sliders[0].def;
     a.colours = row.colourDefaults;
+    if (row.number >= 1000) a.selector = row.number - 1000;
     return a;
 }
 
@@ -147,6 +164,25 @@ bool runTargetRoutine(Session &s, const std::function<bool(QImage &)> &work)
     return true;
 }
 
+bool runOnTarget(Session &s, const FilterTarget &t, const QString &tag,
+                 const std::function<void(QImage &)> &work, const char *sizeWord)
+{
+    if (s.runState().busy()) return false;
+    QImage result = t.picture->Image().convertToFormat(QImage::Format_RGB32);
+    result.detach();
+    if (!guarded(tag, [&] { work(result); })) return false;
+    patch_lastactionpaint(s);
+    takeUndo(s, t);
+    if (t.kind == FilterTarget::Picture) setFixStatus(s, false);
+    showOnTarget(s, t, result, sizeWord);
+    t.picture->setPicture(t.picture->Image());
+    // The work picture follows the target, as after a filter.
+    t.work->resize(result.width(), result.height());
+    t.work->mutableImage() = result;
+    t.work->markChanged();
+    return true;
+}
+
 bool runMenuEntry(Session &s, const FilterRow &row, const FilterMenuEntry &e)
 {
     if (!row.available() || e.run == RunMode::Dialog || e.run == RunMode::Internal) return false;
@@ -179,11 +215,14 @@ bool FilterDialogRun::preview(const FilterArgs &args)
 {
     bool ok = false;
     guarded(QStringLiteral("Gamma_cmdPreview"), [&] {
-        fillWork(m_target);
+        // The work picture starts from the target as it was, also in size.
+        m_target.work->resize(m_original.width(), m_original.height());
         m_target.work->mutableImage() = m_original;
+        FilterArgs a = args;
+        a.background = m_s.colours().ColorBack;
         // The full run shows its progress in the main window.
         m_s.filters().dialogOpen = false;
-        ok = DoGraficFilters(m_s, m_row.runsAs(), m_target.work->mutableImage(), args);
+        ok = DoGraficFilters(m_s, m_row.runsAs(), m_target.work->mutableImage(), a);
         m_s.filters().dialogOpen = true;
         m_target.work->markChanged();
         if (ok) showOnTarget(m_s, m_target, m_target.work->Image());
@@ -195,6 +234,7 @@ QImage FilterDialogRun::previewOf(const QImage &reduced, FilterArgs args, double
 {
     if (args.position.x() >= 0)
         args.position = QPoint(int(args.position.x() * scale), int(args.position.y() * scale));
+    args.background = m_s.colours().ColorBack;
     QImage result = reduced.convertToFormat(QImage::Format_RGB32);
     DoGraficFilters(m_s, m_row.runsAs(), result, args);
     return result;
@@ -211,6 +251,7 @@ bool FilterDialogRun::finish(bool cancelled, bool previewed)
             target.setLeft(m_left);
             target.setTop(m_top);
         }
+        sizeTarget(m_s, m_target, m_original.size());
         ws.Undoimage_auf_Bild(target, m_target.kind != FilterTarget::Picture, false);
         target.Refresh();
         if (m_target.kind == FilterTarget::Picture) setFixStatus(m_s, false);

@@ -49,6 +49,14 @@ bool runTargetRoutine(Session &s, int number, const FilterArgs &args);
 // The target routine around another picture operation: `work` changes the work picture's
 // image in place and answers false when it failed.
 bool runTargetRoutine(Session &s, const std::function<bool(QImage &)> &work);
+// The direct run around another picture operation (mirrors, turns, the picture size): after
+// patch_lastactionpaint, the undo image of `t`, then `work` on a copy of its picture; the
+// result goes on the target. When `work` changes the size, Bild lays the workspace out anew
+// and `sizeWord` ("BILDRESIZED" or "$TURN90") joins lastaction so that Undo gives the former
+// size back; a selection keeps its place. A fault is reported under `tag` and leaves the
+// picture as it was.
+bool runOnTarget(Session &s, const FilterTarget &t, const QString &tag,
+                 const std::function<void(QImage &)> &work, const char *sizeWord = "BILDRESIZED");
 // Runs a menu entry that needs no dialog (direct or target routine) with its argument.
 bool runMenuEntry(Session &s, const FilterRow &row, const FilterMenuEntry &e);
 

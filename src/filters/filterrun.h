@@ -55,10 +55,14 @@ public:
     Random &random;
     // The value at which the bar continues after a first pass.
     int FilterStart = 0;
+    // A filter that changes the picture's size (stretching, rotation) leaves its result here
+    // instead of in D.
+    QImage resized;
 
     int width() const { return D.width; }
     int height() const { return D.height; }
     int threads() const;
+    Session &session() const { return m_session; }
 
     // Copies D over S (a composite filter does so before each of its steps).
     void copyDstToSrc();

@@ -1,5 +1,6 @@
 #include "filters/filtertable.h"
 
+#include "filters/distortions.h"
 #include "filters/kernels.h"
 
 #include <QRegularExpression>
@@ -227,7 +228,7 @@ constexpr FilterRow dialog(int n, const char *name, const char *de, const char *
 constexpr FilterRow shape(int n, const char *name, const char *de, const char *en,
                           std::span<const FilterMenuEntry> entries)
 {
-    return dialog(n, name, de, en, nullptr, Reads::Src, entries, SShape, P::No, 0, BlackWhite, false);
+    return dialog(n, name, de, en, TransGMirrors, Reads::Dst, entries, SShape, P::No, 0, BlackWhite, false);
 }
 
 constexpr FilterRow withMixer(FilterRow r)
@@ -294,14 +295,14 @@ const FilterRow Table[] = {
     withMixer(dialog(43, "channel-mixer", "Farbkanäle mischen", "Channel mixer", filterChannelMixer, Reads::Src, E43, {}, P::Yes)),
     dialog(44, "rgb-steps", "RGB Stufen", "RGB steps", filterShiftRGB, Reads::Src, E44, S44, P::Yes),
     row(45, "colour-mix", "Farbmischung", "Colour mix", filterColourMix, Reads::Src, {}),
-    row(46, "deformation", "Transformieren", "Deformation", nullptr, Reads::Src, {}),
-    dialog(47, "lens", "Linse", "Lens", nullptr, Reads::Src, E47, S47, P::Position, 0, BlackWhite, false, PositionPromptDe, PositionPromptEn),
-    dialog(48, "waves", "Wellen", "Waves", nullptr, Reads::Src, E48, S48, P::No, 0, BlackWhite, false),
-    dialog(49, "polar", "Polarkoordinaten", "Polar coordinates", nullptr, Reads::Src, E49, S49, P::Yes, 0, BlackWhite, false),
-    dialog(50, "twirl", "Strudel", "Twirl", nullptr, Reads::Src, E50, S50, P::Yes, 0, BlackWhite, false),
-    dialog(51, "bend", "Verbiegen", "Bend", nullptr, Reads::Src, E51, S51, P::Yes, 0, BlackWhite, false),
-    withResize(dialog(52, "stretch-shape", "Strecken", "Stretch shape", nullptr, Reads::Src, E52, S52, P::Yes, 0, BlackWhite, false)),
-    withResize(dialog(53, "rotate", "Drehen Grad", "Rotate by degrees", nullptr, Reads::Src, E53, S53, P::Yes, 0, BlackWhite, false)),
+    row(46, "deformation", "Transformieren", "Deformation", TransGMirrors, Reads::Dst, {}),
+    dialog(47, "lens", "Linse", "Lens", filterLens, Reads::Src, E47, S47, P::Position, 0, BlackWhite, false, PositionPromptDe, PositionPromptEn),
+    dialog(48, "waves", "Wellen", "Waves", filterWaves, Reads::Src, E48, S48, P::No, 0, BlackWhite, false),
+    dialog(49, "polar", "Polarkoordinaten", "Polar coordinates", filterPolar, Reads::Src, E49, S49, P::Yes, 0, BlackWhite, false),
+    dialog(50, "twirl", "Strudel", "Twirl", filterTwirl, Reads::Src, E50, S50, P::Yes, 0, BlackWhite, false),
+    dialog(51, "bend", "Verbiegen", "Bend", filterBend, Reads::Src, E51, S51, P::Yes, 0, BlackWhite, false),
+    withResize(dialog(52, "stretch-shape", "Strecken", "Stretch shape", filterStretchShape, Reads::Src, E52, S52, P::Yes, 0, BlackWhite, false)),
+    withResize(dialog(53, "rotate", "Drehen Grad", "Rotate by degrees", filterRotate, Reads::Src, E53, S53, P::Yes, 0, BlackWhite, false)),
     row(54, "web-colours", "Web-sichere Farben", "Web-safe colours", filterWebColors, Reads::Src, E54),
     shape(1000, "hourglass", "Stundenglas", "Hourglass", E1000),
     shape(1001, "vase", "Vase", "Vase", E1001),

@@ -8,8 +8,8 @@
 // of the filter dialog: sliders, colour fields, the channel mixer, whether it opens as
 // previewed, whether it offers the pictures before and after, and a position prompt.
 //
-// A row without a routine belongs to a later part of the program (the distortions): its menu
-// entries are shown disabled and the command line refuses it.
+// A row without a routine has its menu entries shown disabled, and the command line refuses
+// it.
 
 #include "core/colour.h"
 #include "core/language.h"

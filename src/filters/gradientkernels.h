@@ -15,7 +15,7 @@
 //   - style 3, ellipse: t from the corners (0) to the middle (1) by the elliptic distance.
 // `soft` eases t (and the frame's fade) with 3t² - 2t³; `swap` exchanges c0 and c1.
 //
-// frequencyWaves (DoGraficFilters2 3 and 4) lays a wave between the colours over `first`
+// frequencyWaves (DoFrequencyWaves 3 and 4) lays a wave between the colours over `first`
 // into `result`, each pixel result = colour - (1 - a) * (colour - first) with a =
 // sliders[1] / 100 and colour = c0 * v + c1 * (1 - v). The wave is f percent of the picture's
 // longer side long for a frequency f = sliders[0] up to 100, 10000 / f percent above (at least

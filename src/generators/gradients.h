@@ -61,7 +61,7 @@ void Create_Gradients(PaintContext &ctx, int16_t &set_nr, bool use_duos, ColorLo
 // elliptic gradient over the former picture.
 void Create_GradientFrames(PaintContext &ctx);
 // "Frequenzgradient-Transp": one to seven waves between two random points, laid over each
-// other by DoGraficFilters2 3 (parallel waves) or 4 (circular waves).
+// other by DoFrequencyWaves 3 (parallel waves) or 4 (circular waves).
 void Create_GradientFrequences(PaintContext &ctx);
 
 // The painters of the dispatch table, one per type key.

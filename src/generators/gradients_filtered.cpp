@@ -1,5 +1,5 @@
 // The gradients that run through the filters: "Framegradient-Transp" (filter 45) and
-// "Frequenzgradient-Transp" (DoGraficFilters2 3 and 4).
+// "Frequenzgradient-Transp" (the frequency waves 3 and 4).
 #include "generators/gradients.h"
 
 #include "core/blit.h"
@@ -126,7 +126,7 @@ void Create_GradientFrequences(PaintContext &ctx)
         args.position2 = QPoint(int(ctx.Rnd() * float(w)), int(ctx.Rnd() * float(h)));
         args.colours = {c1, c2};
         args.sliders = {frequency, second, 0};
-        DoGraficFilters2(ctx.session, filter, work.Image(), target.mutableImage(), 0.0, args);
+        DoFrequencyWaves(ctx.session, filter, work.Image(), target.mutableImage(), args);
         target.markChanged();
         target.Refresh();
         ctx.DoEvents();

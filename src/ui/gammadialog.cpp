@@ -127,6 +127,22 @@ GammaDialog::GammaDialog(Session &session, const FilterRow &row, QWidget *parent
         }
         layout->addWidget(frScrolls);
     }
+    if (row.resizeOptions) {
+        // Stretching and rotation: the picture may take the result's size; uncovered room
+        // takes the background colour or shows the picture as it was.
+        auto *boxes = new QHBoxLayout;
+        m_maskResize = new QCheckBox(tr("Größe anpassen"), this);
+        m_maskResize->setObjectName(QStringLiteral("XMaskResize"));
+        m_cleanBack = new QCheckBox(tr("Hintergrund löschen"), this);
+        m_cleanBack->setObjectName(QStringLiteral("XCleanBack"));
+        m_cleanBack->setChecked(true);
+        for (QCheckBox *b : {m_maskResize, m_cleanBack}) {
+            boxes->addWidget(b);
+            connect(b, &QCheckBox::toggled, this, &GammaDialog::sliderChanged);
+        }
+        boxes->addStretch();
+        layout->addLayout(boxes);
+    }
     if (row.colourFields > 0) {
         auto *colours = new QHBoxLayout;
         const QString captions[2] = {tr("Farbe von"), tr("Farbe nach/Hintergrund")};
@@ -184,6 +200,8 @@ FilterArgs GammaDialog::values() const
             a.kill[o] = m_kill[o]->isChecked();
         }
     a.position = m_position;
+    if (m_maskResize) a.resizeToFit = m_maskResize->isChecked();
+    if (m_cleanBack) a.cleanBack = m_cleanBack->isChecked();
     return a;
 }
 

@@ -76,6 +76,8 @@ private:
     std::array<std::array<QRadioButton *, 3>, 3> m_source{};
     std::array<QCheckBox *, 3> m_invert{};
     std::array<QCheckBox *, 3> m_kill{};
+    QCheckBox *m_maskResize = nullptr; // XMaskResize "Größe anpassen"
+    QCheckBox *m_cleanBack = nullptr;  // XCleanBack "Hintergrund löschen"
 };
 
 } // namespace tf::ui

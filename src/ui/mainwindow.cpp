@@ -12,6 +12,7 @@
 #include "ui/pictureview.h"
 #include "ui/previewcache.h"
 #include "ui/statusbar.h"
+#include "ui/transformmenu.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -277,6 +278,9 @@ void MainWindow::createMenus()
     auto *filterMenu = new FilterMenu(m_session, this);
     menuBar()->addMenu(filterMenu);
     connect(filterMenu, &FilterMenu::pictureChanged, this, &MainWindow::afterPaint);
+    auto *transformMenu = new TransformMenu(m_session, this);
+    menuBar()->insertMenu(filterMenu->menuAction(), transformMenu);
+    connect(transformMenu, &TransformMenu::pictureChanged, this, &MainWindow::afterPaint);
     m_colourMenu = menuBar()->addMenu(QString());
     m_colourMenu->addAction(mn_LadePalette);
     m_colourMenu->addAction(mn_SystemPalette);

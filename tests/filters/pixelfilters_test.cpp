@@ -212,7 +212,8 @@ TEST_F(PixelFilters, ColourTestsUseTheSquaredDistanceLimit)
 TEST_F(PixelFilters, NumbersWithoutARoutineLeaveTheBytes)
 {
     const QImage img = noisy(9, 7);
-    for (int n : {-1, 0, 46, 47, 53, 55, 999, 1000, 1010})
+    // The dialog-level numbers of the shapes run only as 46 with their selector.
+    for (int n : {-1, 0, 55, 999, 1000, 1010})
         EXPECT_EQ(run(n, img, 5), img) << n;
 }
 
