@@ -55,7 +55,7 @@ BENCHMARK(copyBytes)->Unit(benchmark::kMillisecond)->UseRealTime();
 void kernel(benchmark::State &state, const FilterRow *row)
 {
     Session s;
-    FilterWorkspace ws(photo(), row->reads == Reads::Src);
+    FilterWorkspace ws(photo(), row->reads);
     const FilterArgs args = argumentsFor(*row);
     for (auto _ : state) {
         FilterRun run(ws.D(), ws.S(), args, s);

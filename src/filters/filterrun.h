@@ -15,6 +15,7 @@
 #include "core/numeric.h"
 #include "core/parallel.h"
 #include "filters/filterargs.h"
+#include "filters/filtertable.h"
 
 #include <QImage>
 #include <algorithm>
@@ -64,18 +65,33 @@ public:
     void copyDstToSrc();
 
     // Runs body(first, last) over rows 0 .. height-1 (pure rows), the bar going from `start`
-    // to start + span.
+    // to start + span. Rows go out in chunks to whichever thread is free.
     template <typename Body> void rows(Body &&body, int start = 0, int span = 100)
     {
         const int h = height();
-        const int slices = std::min(h, 20);
-        for (int i = 0; i < slices; ++i) {
-            const int first = int(int64_t(h) * i / slices);
-            const int last = int(int64_t(h) * (i + 1) / slices);
-            parallelRows(last - first, width(), [&](int a, int b) { body(first + a, first + b); },
-                         1 << 15, threads());
-            progress(start + int(int64_t(last) * span / h));
-        }
+        const int threads = threadsFor(h, width(), 1 << 15, this->threads());
+        const int chunk = std::clamp(h / (threads * 16), 1, 64);
+        parallelChunks(h, chunk, threads, body,
+                       [&](int done) { progress(start + int(int64_t(done) * span / h)); });
+        progress(start + span);
+    }
+    // Runs an in-place loop that reads the row above as already written and the row below as
+    // not yet written: body(y, x0, x1) handles columns x0 .. x1-1 of row y. Rows follow each
+    // other at a distance of `lag` columns over the threads (parallelWavefront), so the result
+    // is that of the plain loop, y outer and x inner, for any thread count.
+    // Columns an in-place row hands on at a time.
+    static constexpr int InPlaceChunk = 512;
+    template <typename Body> void inPlaceRows(Body &&body, int lag = 1, int start = 0, int span = 100)
+    {
+        const int h = height(), w = width();
+        const int threads = threadsFor(h, w, 1 << 15, this->threads());
+        int reported = 0;
+        parallelWavefront(h, w, InPlaceChunk, lag, threads, body, [&](int done) {
+            if (done - reported < 16) return;
+            reported = done;
+            progress(start + int(int64_t(done) * span / h));
+        });
+        progress(start + span);
     }
     // The bar after row y (0-based) of a row-by-row loop, going from `start` by `span`.
     void rowDone(int y, int start = 0, int span = 100)
@@ -95,13 +111,15 @@ private:
     Session &m_session;
 };
 
-// The filter workspace of one run: D takes a copy of the picture, S another when the filter
-// reads an unchanged copy.
+// The filter workspace of one run: D takes a copy of the picture. S, for a routine that reads
+// the unchanged copy, is the picture's own bytes, which nothing writes while the filter runs
+// (the workspace holds a share of them, so a change to the picture meanwhile would leave
+// them alone); a composite filter gets a copy of its own, which each of its steps refreshes.
 class FilterWorkspace {
 public:
-    FilterWorkspace(const QImage &picture, bool needSource);
+    FilterWorkspace(const QImage &picture, Reads reads);
     PixelPlane D() { return plane(m_dst); }
-    PixelPlane S() { return m_src.isNull() ? plane(m_dst) : plane(m_src); }
+    PixelPlane S();
     // The result, ready to be written back.
     const QImage &result() const { return m_dst; }
 
@@ -109,6 +127,7 @@ private:
     static PixelPlane plane(QImage &image);
     QImage m_dst;
     QImage m_src;
+    Reads m_reads;
 };
 
 } // namespace tf

@@ -283,7 +283,7 @@ const FilterRow Table[] = {
     row(32, "duotone", "Duotone", "Duotone", filterDuotone, Reads::Src, E32),
     row(33, "despeckle", "Störungen entfernen", "Despeckle", filterDespeckle, Reads::Dst, E33),
     row(34, "equalize", "Tonwertangleichung", "Equalize", filterEqualize, Reads::Src, E34),
-    row(35, "oil-colours", "Ölfarben [Sprenkeln]", "Oil colours [dissolve]", filterDissolve, Reads::Src, E35),
+    row(35, "oil-colours", "Ölfarben [Sprenkeln]", "Oil colours [dissolve]", filterDissolve, Reads::Steps, E35),
     dialog(36, "halftone-grid", "Halbtonraster", "Halftone grid", filterHalftoneGrid, Reads::Src, E36, S36, P::Yes),
     dialog(37, "hue-stretch", "Farbtöne ausweiten", "Stretch hues", filterHueStretch, Reads::Src, E37, S37, P::Yes, 2, {Red, Blue}, false),
     dialog(38, "shift-colour", "Farbwerte anheben", "Shift colour", filterShiftColor, Reads::Src, E38, S38, P::Position, 1, BlackWhite, false),

@@ -5,7 +5,9 @@
 
 #include "filters/filterrun.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 #include <vector>
 
 namespace tf {
@@ -23,6 +25,11 @@ inline int grey(const uint8_t *p)
 {
     return (p[0] + p[1] + p[2]) / 3;
 }
+// The same for a whole pixel: (s * 43691) >> 17 equals s\3 for every sum up to 765.
+inline int greyOf(uint32_t p)
+{
+    return int(((p & 255) + ((p >> 8) & 255) + ((p >> 16) & 255)) * 43691u >> 17);
+}
 
 // The mean of the average greys over the picture, as an integer quotient.
 int meanGrey(FilterRun &run, int start, int span)
@@ -31,10 +38,10 @@ int meanGrey(FilterRun &run, int start, int span)
     std::vector<int64_t> perRow(static_cast<size_t>(h));
     run.rows([&](int first, int last) {
         for (int y = first; y < last; ++y) {
-            const uint8_t *in = run.S.row(y);
+            const auto *in = reinterpret_cast<const uint32_t *>(run.S.row(y));
             int64_t s = 0;
-            for (int x = 0; x < w * 4; x += 4)
-                s += grey(in + x);
+            for (int x = 0; x < w; ++x)
+                s += greyOf(in[x]);
             perRow[size_t(y)] = s;
         }
     }, start, span);
@@ -57,8 +64,10 @@ constexpr Share Stucki[] = {{1, 0, 8}, {2, 0, 4}, {-2, 1, 2}, {-1, 1, 4}, {0, 1,
                             {1, 1, 4}, {2, 1, 2}, {-2, 2, 1}, {-1, 2, 2}, {0, 2, 4},
                             {1, 2, 2}, {2, 2, 1}};
 
-template <size_t N> void diffuseError(FilterRun &run, const Share (&matrix)[N], int divisor)
+// The matrix is a template argument, so the loop over its shares unrolls into fixed code.
+template <const auto &matrix, int divisor> void diffuseError(FilterRun &run)
 {
+    constexpr size_t N = std::size(matrix);
     const int w = run.width(), h = run.height();
     // The share of every error value for each weight, once: no division in the inner loop.
     // The division truncates towards zero.
@@ -70,21 +79,33 @@ template <size_t N> void diffuseError(FilterRun &run, const Share (&matrix)[N], 
     run.progress(2);
     const int m = meanGrey(run, 2, 8);
     run.FilterStart = 10;
-    // Error rows: this row and one (Stucki two) below, with a margin of two on each side.
+    // Error rows below this one (Stucki two), with a margin of two on each side. The shares
+    // to the right in this row are carried in `right1` and `right2` instead: the sums are the
+    // same, and the walk along the row does not wait on memory.
     constexpr int margin = 2;
     const int rowsBelow = matrix[N - 1].dy;
     std::vector<std::vector<int>> err(size_t(rowsBelow + 1), std::vector<int>(size_t(w + 2 * margin)));
     for (int y = 0; y < h; ++y) {
-        const uint8_t *in = run.S.row(y);
-        uint8_t *out = run.D.row(y);
+        const auto *in = reinterpret_cast<const uint32_t *>(run.S.row(y));
+        auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
+        const int *here = err[0].data() + margin;
+        int *below1 = err[size_t(std::min(1, rowsBelow))].data() + margin;
+        int *below2 = err[size_t(rowsBelow)].data() + margin;
+        int right1 = 0, right2 = 0;
         for (int x = 0; x < w; ++x) {
-            const int v = std::clamp(grey(in + x * 4) + err[0][size_t(x + margin)], 0, 255);
-            const int output = v < m ? 0 : 255;
-            setBW(out + x * 4, output == 255);
-            const int e = v - output;
-            for (size_t k = 0; k < N; ++k)
-                err[size_t(matrix[k].dy)][size_t(x + margin + matrix[k].dx)] +=
-                    shares[k][size_t(e + 255)];
+            const uint32_t p = in[x];
+            const int v = std::clamp(greyOf(p) + here[x] + right1, 0, 255);
+            const bool white = v >= m;
+            out[x] = (out[x] & 0xFF000000u) | (white ? 0xFFFFFFu : 0u);
+            const size_t e = size_t(v - (white ? 255 : 0) + 255);
+            right1 = right2;
+            right2 = 0;
+            for (size_t k = 0; k < N; ++k) {
+                const Share &sh = matrix[k];
+                const int share = shares[k][e];
+                if (sh.dy == 0) (sh.dx == 1 ? right1 : right2) += share;
+                else (sh.dy == 1 ? below1 : below2)[x + sh.dx] += share;
+            }
         }
         // The error rows move up by one and the last is cleared.
         for (int r = 0; r < rowsBelow; ++r)
@@ -161,17 +182,17 @@ void filterBWRaster(FilterRun &run)
 
 void filterFloydSteinberg(FilterRun &run)
 {
-    diffuseError(run, FloydSteinberg, 16);
+    diffuseError<FloydSteinberg, 16>(run);
 }
 
 void filterBurke(FilterRun &run)
 {
-    diffuseError(run, Burkes, 32);
+    diffuseError<Burkes, 32>(run);
 }
 
 void filterStucki(FilterRun &run)
 {
-    diffuseError(run, Stucki, 42);
+    diffuseError<Stucki, 42>(run);
 }
 
 } // namespace tf
