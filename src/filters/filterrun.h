@@ -65,7 +65,9 @@ public:
     void copyDstToSrc();
 
     // Runs body(first, last) over rows 0 .. height-1 (pure rows), the bar going from `start`
-    // to start + span. Rows go out in chunks to whichever thread is free.
+    // to start + span. Rows go out in chunks to whichever thread is free. A body takes its
+    // loop bounds into locals of its own: a store to a row could otherwise change a bound it
+    // holds by reference, as far as the compiler knows, and it would not make vector code.
     template <typename Body> void rows(Body &&body, int start = 0, int span = 100)
     {
         const int h = height();

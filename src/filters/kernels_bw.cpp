@@ -25,10 +25,16 @@ inline int grey(const uint8_t *p)
 {
     return (p[0] + p[1] + p[2]) / 3;
 }
-// The same for a whole pixel: (s * 43691) >> 17 equals s\3 for every sum up to 765.
+// The same for a whole pixel, through FilterLUT: index b+g+r gives (b+g+r)\3.
+constexpr std::array<uint8_t, 766> FilterLUT = [] {
+    std::array<uint8_t, 766> t{};
+    for (size_t i = 0; i < t.size(); ++i)
+        t[i] = uint8_t(i / 3);
+    return t;
+}();
 inline int greyOf(uint32_t p)
 {
-    return int(((p & 255) + ((p >> 8) & 255) + ((p >> 16) & 255)) * 43691u >> 17);
+    return FilterLUT[(p & 255) + ((p >> 8) & 255) + ((p >> 16) & 255)];
 }
 
 // The mean of the average greys over the picture, as an integer quotient.
@@ -37,10 +43,11 @@ int meanGrey(FilterRun &run, int start, int span)
     const int w = run.width(), h = run.height();
     std::vector<int64_t> perRow(static_cast<size_t>(h));
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const auto *in = reinterpret_cast<const uint32_t *>(run.S.row(y));
             int64_t s = 0;
-            for (int x = 0; x < w; ++x)
+            for (int x = 0; x < width; ++x)
                 s += greyOf(in[x]);
             perRow[size_t(y)] = s;
         }
@@ -79,34 +86,57 @@ template <const auto &matrix, int divisor> void diffuseError(FilterRun &run)
     run.progress(2);
     const int m = meanGrey(run, 2, 8);
     run.FilterStart = 10;
+    // A cell holds its grey (0 to 255) plus the shares it receives, whose weights add up to
+    // the divisor, so before the clamp it lies within -255 .. 510. For each such value the
+    // tables say whether the pixel turns white and what each share of its error is: the walk
+    // along a row, where each pixel waits for the one before, is one addition and a look-up.
+    constexpr int Lowest = -255, Span = 510 - Lowest + 1;
+    std::array<uint32_t, Span> colourOf{}; // the pixel's bits: white or black
+    std::array<std::array<int16_t, N>, Span> shareOf{};
+    for (int raw = Lowest; raw < Lowest + Span; ++raw) {
+        const int v = std::clamp(raw, 0, 255);
+        const bool white = v >= m;
+        const size_t e = size_t(v - (white ? 255 : 0) + 255);
+        colourOf[size_t(raw - Lowest)] = white ? 0xFFFFFFu : 0u;
+        for (size_t k = 0; k < N; ++k)
+            shareOf[size_t(raw - Lowest)][k] = int16_t(shares[k][e]);
+    }
     // Error rows below this one (Stucki two), with a margin of two on each side. The shares
-    // to the right in this row are carried in `right1` and `right2` instead: the sums are the
-    // same, and the walk along the row does not wait on memory.
+    // to the right in this row are carried in `right1` and `right2`, and those to the rows
+    // below gather in windows over the cells x-2 .. x+2, each cell written once it is
+    // complete: the sums are the same, and the walk does not wait on memory.
     constexpr int margin = 2;
-    const int rowsBelow = matrix[N - 1].dy;
+    constexpr int rowsBelow = matrix[N - 1].dy;
     std::vector<std::vector<int>> err(size_t(rowsBelow + 1), std::vector<int>(size_t(w + 2 * margin)));
     for (int y = 0; y < h; ++y) {
         const auto *in = reinterpret_cast<const uint32_t *>(run.S.row(y));
         auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
         const int *here = err[0].data() + margin;
-        int *below1 = err[size_t(std::min(1, rowsBelow))].data() + margin;
-        int *below2 = err[size_t(rowsBelow)].data() + margin;
+        int *below[2] = {err[1].data() + margin, err[size_t(rowsBelow)].data() + margin};
         int right1 = 0, right2 = 0;
+        int window[2][5] = {};
         for (int x = 0; x < w; ++x) {
-            const uint32_t p = in[x];
-            const int v = std::clamp(greyOf(p) + here[x] + right1, 0, 255);
-            const bool white = v >= m;
-            out[x] = (out[x] & 0xFF000000u) | (white ? 0xFFFFFFu : 0u);
-            const size_t e = size_t(v - (white ? 255 : 0) + 255);
+            const size_t i = size_t(greyOf(in[x]) + here[x] + right1 - Lowest);
+            out[x] = (out[x] & 0xFF000000u) | colourOf[i]; // no branch: the outcome is not foreseeable
+            const auto &share = shareOf[i];
             right1 = right2;
             right2 = 0;
             for (size_t k = 0; k < N; ++k) {
                 const Share &sh = matrix[k];
-                const int share = shares[k][e];
-                if (sh.dy == 0) (sh.dx == 1 ? right1 : right2) += share;
-                else (sh.dy == 1 ? below1 : below2)[x + sh.dx] += share;
+                if (sh.dy == 0) (sh.dx == 1 ? right1 : right2) += share[k];
+                else window[sh.dy - 1][sh.dx + 2] += share[k];
+            }
+            for (int r = 0; r < rowsBelow; ++r) {
+                below[r][x - 2] += window[r][0];
+                for (int c = 0; c < 4; ++c)
+                    window[r][c] = window[r][c + 1];
+                window[r][4] = 0;
             }
         }
+        // The last two cells of the picture; the rest of the window lies in the margin.
+        for (int r = 0; r < rowsBelow; ++r)
+            for (int c = 0; c < 2; ++c)
+                below[r][w - 2 + c] += window[r][c];
         // The error rows move up by one and the last is cleared.
         for (int r = 0; r < rowsBelow; ++r)
             err[size_t(r)].swap(err[size_t(r + 1)]);
@@ -123,10 +153,11 @@ void filterBWValue(FilterRun &run)
     const int kr = RedOf(k), kg = GreenOf(k), kb = BlueOf(k);
     const int w = run.width();
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *in = run.S.row(y);
             uint8_t *out = run.D.row(y);
-            for (int x = 0; x < w * 4; x += 4)
+            for (int x = 0; x < width * 4; x += 4)
                 setBW(out + x, in[x + 2] >= kr || in[x + 1] >= kg || in[x] >= kb);
         }
     });
@@ -141,12 +172,13 @@ void filterBWDiffusion(FilterRun &run)
     const int m = meanGrey(run, 0, 10);
     run.FilterStart = 10;
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *in = run.S.row(y);
             uint8_t *out = run.D.row(y);
-            for (int x = 0; x < w; ++x) {
+            for (int x = 0; x < width; ++x) {
                 int g = grey(in + x * 4);
-                if (x >= 1 && y >= 1 && x < w - 1 && y < h - 1) {
+                if (x >= 1 && y >= 1 && x < width - 1 && y < h - 1) {
                     const uint8_t *up = run.S.row(y - 1), *dn = run.S.row(y + 1);
                     int n = 0;
                     for (int dx = -1; dx <= 1; ++dx) {
@@ -170,11 +202,12 @@ void filterBWRaster(FilterRun &run)
             threshold[a][b] = M[a][b] * 255 / 16 + 1;
     const int w = run.width();
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *in = run.S.row(y);
             uint8_t *out = run.D.row(y);
             const int *t = threshold[y % 4];
-            for (int x = 0; x < w; ++x)
+            for (int x = 0; x < width; ++x)
                 setBW(out + x * 4, grey(in + x * 4) >= t[x % 4]);
         }
     });

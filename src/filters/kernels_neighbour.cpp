@@ -92,13 +92,14 @@ template <typename Fn> void pure3x3(FilterRun &run, Fn fn)
 {
     const int w = run.width(), h = run.height();
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *up = run.S.row(std::max(y - 1, 0));
             const uint8_t *mid = run.S.row(y);
             const uint8_t *dn = run.S.row(std::min(y + 1, h - 1));
             uint8_t *out = run.D.row(y);
-            for (int x = 0; x < w; ++x) {
-                const int xm = std::max(x - 1, 0) * 4, x0 = x * 4, xp = std::min(x + 1, w - 1) * 4;
+            for (int x = 0; x < width; ++x) {
+                const int xm = std::max(x - 1, 0) * 4, x0 = x * 4, xp = std::min(x + 1, width - 1) * 4;
                 for (int c = 0; c < 3; ++c)
                     out[x0 + c] = clampByte(fn(up, mid, dn, xm + c, x0 + c, xp + c, c));
             }
@@ -122,8 +123,8 @@ template <int A> void sharpenBy(FilterRun &run)
 template <bool Max> void extreme3x3(FilterRun &run)
 {
     const int w = run.width(), h = run.height();
-    const int bytes = w * 4;
     run.rows([&](int first, int last) {
+        const int width = w, bytes = w * 4;
         std::vector<uint8_t> across(size_t(bytes) * 3);
         auto pick = [](uint8_t a, uint8_t b) { return Max ? std::max(a, b) : std::min(a, b); };
         for (int y = first; y < last; ++y) {
@@ -132,7 +133,7 @@ template <bool Max> void extreme3x3(FilterRun &run)
             for (int r = 0; r < 3; ++r) {
                 const uint8_t *s = rows[r];
                 uint8_t *a = across.data() + size_t(r) * size_t(bytes);
-                if (w == 1) {
+                if (width == 1) {
                     std::copy(s, s + 4, a);
                     continue;
                 }
@@ -270,10 +271,11 @@ void filterConnection(FilterRun &run)
     const int w = run.width(), h = run.height();
     // The border of one pixel keeps its value: D holds the picture there already.
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = std::max(first, 1); y < std::min(last, h - 1); ++y) {
             const uint8_t *up = run.S.row(y - 1), *mid = run.S.row(y), *dn = run.S.row(y + 1);
             uint8_t *out = run.D.row(y);
-            for (int x = 1; x < w - 1; ++x)
+            for (int x = 1; x < width - 1; ++x)
                 for (int c = 0; c < 3; ++c) {
                     const int i = x * 4 + c;
                     const int lo = std::min({up[i - 4], up[i], up[i + 4], mid[i - 4], mid[i],
@@ -317,10 +319,11 @@ void filterDespeckle(FilterRun &run)
     }
     // Second pass: left and right; each row depends only on itself.
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             uint8_t *mid = run.D.row(y);
-            for (int x = 0; x < w; ++x) {
-                const int xm = std::max(x - 1, 0) * 4, x0 = x * 4, xp = std::min(x + 1, w - 1) * 4;
+            for (int x = 0; x < width; ++x) {
+                const int xm = std::max(x - 1, 0) * 4, x0 = x * 4, xp = std::min(x + 1, width - 1) * 4;
                 for (int c = 0; c < 3; ++c)
                     mid[x0 + c] = despeckleStep(mid[x0 + c], mid[xm + c], mid[xp + c]);
             }

@@ -35,10 +35,11 @@ void applyTables(FilterRun &run, const Table &b, const Table &g, const Table &r,
     }
     const int w = run.width();
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const auto *in = reinterpret_cast<const uint32_t *>(run.S.row(y));
             auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
-            for (int x = 0; x < w; ++x) {
+            for (int x = 0; x < width; ++x) {
                 const uint32_t p = in[x];
                 out[x] = wb[p & 255] | wg[(p >> 8) & 255] | wr[(p >> 16) & 255];
             }
@@ -74,10 +75,11 @@ int64_t sumOfGreys(FilterRun &run, const std::array<uint8_t, 766> &lut, int span
     const int w = run.width(), h = run.height();
     std::vector<int64_t> perRow(size_t(h), 0);
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *in = run.S.row(y);
             int64_t sum = 0;
-            for (int x = 0; x < w * 4; x += 4)
+            for (int x = 0; x < width * 4; x += 4)
                 sum += lut[size_t(in[x] + in[x + 1] + in[x + 2])];
             perRow[size_t(y)] = sum;
         }
@@ -96,29 +98,31 @@ void filterNegative(FilterRun &run)
 {
     const int w = run.width();
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const auto *in = reinterpret_cast<const uint32_t *>(run.S.row(y));
             auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
-            for (int x = 0; x < w; ++x)
+            for (int x = 0; x < width; ++x)
                 out[x] = in[x] ^ 0x00FFFFFFu;
         }
     });
 }
 
-// FilterLUT(b+g+r) = (b+g+r)\3, computed as (s * 43691) >> 17, which equals s\3 for every
-// sum up to 765 (43691 * 3 = 2^17 + 1) and lets the compiler work on many pixels at once.
+// FilterLUT(b+g+r) = (b+g+r)\3, widened to the whole grey pixel, so a pixel costs one look-up.
 void filterGreyScale(FilterRun &run)
 {
+    std::array<uint32_t, 766> grey{};
+    for (uint32_t i = 0; i < 766; ++i)
+        grey[i] = (i / 3) * 0x010101u;
     const int w = run.width();
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const auto *in = reinterpret_cast<const uint32_t *>(run.S.row(y));
             auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
-            for (int x = 0; x < w; ++x) {
+            for (int x = 0; x < width; ++x) {
                 const uint32_t p = in[x];
-                const uint32_t sum = (p & 255) + ((p >> 8) & 255) + ((p >> 16) & 255);
-                const uint32_t g = (sum * 43691u) >> 17;
-                out[x] = (p & 0xFF000000u) | g * 0x010101u;
+                out[x] = (p & 0xFF000000u) | grey[(p & 255) + ((p >> 8) & 255) + ((p >> 16) & 255)];
             }
         }
     });
@@ -183,10 +187,11 @@ void filterSwapBank(FilterRun &run)
     const int rByte = 2 - f[0], gByte = 2 - f[1], bByte = 2 - f[2];
     const int w = run.width();
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *in = run.S.row(y);
             uint8_t *out = run.D.row(y);
-            for (int x = 0; x < w * 4; x += 4) {
+            for (int x = 0; x < width * 4; x += 4) {
                 const uint8_t b = in[x + bByte], g = in[x + gByte], r = in[x + rByte];
                 out[x] = b;
                 out[x + 1] = g;
@@ -210,10 +215,11 @@ void filterContrast(FilterRun &run)
     for (int i = 0; i < 256; ++i)
         t[size_t(i)] = roundInt(f * (i - m) + m);
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *in = run.S.row(y);
             uint8_t *out = run.D.row(y);
-            for (int x = 0; x < w * 4; x += 4) {
+            for (int x = 0; x < width * 4; x += 4) {
                 int v[3] = {t[in[x]], t[in[x + 1]], t[in[x + 2]]}; // blue, green, red
                 const auto inRange = [](int c) { return c >= 0 && c <= 255; };
                 if (!(inRange(v[0]) && inRange(v[1]) && inRange(v[2]))) {
@@ -243,10 +249,11 @@ void filterStretch(FilterRun &run)
     // First pass: the smallest and largest value of each channel, counting 10 of the bar.
     std::vector<std::array<uint8_t, 6>> perRow(static_cast<size_t>(h));
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             std::array<uint8_t, 6> r{255, 255, 255, 0, 0, 0};
             const uint8_t *in = run.S.row(y);
-            for (int x = 0; x < w * 4; x += 4)
+            for (int x = 0; x < width * 4; x += 4)
                 for (int c = 0; c < 3; ++c) {
                     r[size_t(c)] = std::min(r[size_t(c)], in[x + c]);
                     r[size_t(c) + 3] = std::max(r[size_t(c) + 3], in[x + c]);
@@ -280,10 +287,11 @@ void filterSaturation(FilterRun &run)
         (*table)[size_t(m)] = tableOf([m, f](int v) { return roundInt(m + f * (v - m)); });
     const int w = run.width();
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *in = run.S.row(y);
             uint8_t *out = run.D.row(y);
-            for (int x = 0; x < w * 4; x += 4) {
+            for (int x = 0; x < width * 4; x += 4) {
                 const Table &t = (*table)[lut[size_t(in[x] + in[x + 1] + in[x + 2])]];
                 out[x] = t[in[x]];
                 out[x + 1] = t[in[x + 1]];
@@ -324,11 +332,12 @@ void filterEqualize(FilterRun &run)
     }
     std::vector<std::array<int64_t, 256>> bands(static_cast<size_t>(h));
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             auto &hist = bands[size_t(y)];
             hist.fill(0);
             const uint8_t *in = run.S.row(y);
-            for (int x = 0; x < w * 4; x += 4) {
+            for (int x = 0; x < width * 4; x += 4) {
                 const int l = roundInt(lr[in[x + 2]] + lg[in[x + 1]] + lb[in[x]]);
                 ++hist[size_t(std::clamp(l, 0, 255))];
             }
@@ -375,10 +384,11 @@ void filterChannelMixer(FilterRun &run)
     }
     const int w = run.width();
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *in = run.S.row(y);
             uint8_t *out = run.D.row(y);
-            for (int x = 0; x < w * 4; x += 4) {
+            for (int x = 0; x < width * 4; x += 4) {
                 const uint8_t r = t[0][in[x + srcByte[0]]], g = t[1][in[x + srcByte[1]]],
                               b = t[2][in[x + srcByte[2]]];
                 out[x] = b;
