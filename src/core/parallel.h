@@ -68,10 +68,11 @@ template <typename Work> void runOnThreads(int threads, std::atomic<bool> &stop,
 
 } // namespace detail
 
-// Runs body(first, last) over rows 0 .. rows-1 in chunks of `chunkRows`, each chunk handed to
-// whichever thread is free next, so a thread the system holds back does not hold up the
-// others. `done(rowsDone)` is called on the calling thread after each chunk it finishes,
-// with the number of rows all threads have finished so far.
+// Runs body(first, last) over rows 0 .. rows-1 in chunks, each handed to whichever thread
+// is free next, so a thread the system holds back does not hold up the others. Chunks start
+// large and shrink as the rows run out (never below `chunkRows`), so that the last ones,
+// which the others may have to wait for, are short. `done(rowsDone)` is called on the
+// calling thread after each chunk it finishes, with the rows all threads have finished.
 template <typename Body, typename Done>
 void parallelChunks(int rows, int chunkRows, int threads, Body &&body, Done &&done)
 {
@@ -89,9 +90,11 @@ void parallelChunks(int rows, int chunkRows, int threads, Body &&body, Done &&do
     std::atomic<bool> stop{false};
     detail::runOnThreads(threads, stop, [&](bool isCaller) {
         while (!stop.load(std::memory_order_relaxed)) {
-            const int first = next.fetch_add(chunkRows, std::memory_order_relaxed);
-            if (first >= rows) break;
-            const int last = std::min(rows, first + chunkRows);
+            int first = next.load(std::memory_order_relaxed), last = 0;
+            do {
+                if (first >= rows) return;
+                last = std::min(rows, first + std::max(chunkRows, (rows - first) / (threads * 4)));
+            } while (!next.compare_exchange_weak(first, last, std::memory_order_relaxed));
             body(first, last);
             const int now = finished.fetch_add(last - first, std::memory_order_acq_rel) +
                             (last - first);
@@ -108,9 +111,8 @@ void parallelRows(int rows, int64_t workPerRow, Body &&body, int64_t minWorkPerT
 {
     if (rows <= 0) return;
     const int threads = threadsFor(rows, workPerRow, minWorkPerThread, maxThreads);
-    // A few chunks a thread, so that a thread held back is made up by the others.
-    const int chunk = std::max(1, rows / (threads * 8));
-    parallelChunks(rows, threads > 1 ? chunk : rows, threads, body, [](int) {});
+    parallelChunks(rows, threads > 1 ? std::max(1, rows / (threads * 32)) : rows, threads, body,
+                   [](int) {});
 }
 
 // An in-place row loop whose row y reads row y-1 as already written, and row y+1 (and the
