@@ -25,10 +25,6 @@ struct FilterArgs {
     // A position picked on the picture (light source, lens), in pixels from the top left;
     // (-1, -1) for none: the filter takes the middle of the picture.
     QPoint position{-1, -1};
-    // The colour mix (filter 45): the share of the old picture kept (0 gives the colour
-    // whole, 1 leaves the picture) and the width of a graded frame (0: the whole picture).
-    double keep = 0.0;
-    int border = 0;
 };
 
 } // namespace tf

@@ -235,8 +235,10 @@ void filterAddLight(FilterRun &run)
 void filterColourMix(FilterRun &run)
 {
     const auto k = bytesOf(run.args.colours[0]);
-    const double keep = run.args.keep;
-    const int border = run.args.border;
+    // Slider 0 is the transparency in percent: the share of the picture kept (0 gives the
+    // colour whole, 100 leaves the picture); slider 1 the width of the frame.
+    const double keep = run.args.sliders[0] / 100.0;
+    const int border = run.args.sliders[1];
     const int w = run.width(), h = run.height();
     if (border <= 0) {
         std::array<std::array<uint8_t, 256>, 3> t{};
