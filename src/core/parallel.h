@@ -37,6 +37,14 @@ inline int threadsFor(int rows, int64_t workPerRow, int64_t minWorkPerThread, in
 
 namespace detail {
 
+// Tells the core that this thread is waiting in a loop.
+inline void relax()
+{
+#if defined(__x86_64__) || defined(__i386__)
+    __builtin_ia32_pause();
+#endif
+}
+
 // Runs `work(isCaller)` on the calling thread and on threads-1 helpers, collects the first
 // fault and sets `stop` when one occurs, so the others leave their loops.
 template <typename Work> void runOnThreads(int threads, std::atomic<bool> &stop, Work &&work)
@@ -152,10 +160,13 @@ void parallelWavefront(int rows, int columns, int chunk, int lag, int threads, B
                 if (y > 0) {
                     const int need = std::min(columns, x1 + lag);
                     // The row above is being worked on by another thread that never waits for
-                    // this one, so the wait ends.
-                    while (progress[size_t(y - 1)].load(std::memory_order_acquire) < need) {
+                    // this one, so the wait ends. A short wait is spun out on the core; a
+                    // long one (the other thread held back) gives the core away.
+                    for (int spins = 0;
+                         progress[size_t(y - 1)].load(std::memory_order_acquire) < need; ++spins) {
                         if (stop.load(std::memory_order_relaxed)) return;
-                        std::this_thread::yield();
+                        if (spins < 256) detail::relax();
+                        else std::this_thread::yield();
                     }
                 }
                 if (stop.load(std::memory_order_relaxed)) return;

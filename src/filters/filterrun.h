@@ -89,12 +89,14 @@ public:
     // not yet written: body(y, x0, x1) handles columns x0 .. x1-1 of row y. Rows follow each
     // other at a distance of `lag` columns over the threads (parallelWavefront), so the result
     // is that of the plain loop, y outer and x inner, for any thread count.
+    // The threads a loop over the rows runs on (at most `threads()`, fewer on a small picture).
+    int rowThreads() const { return threadsFor(height(), width(), 1 << 15, threads()); }
     // Columns an in-place row hands on at a time.
     static constexpr int InPlaceChunk = 512;
     template <typename Body> void inPlaceRows(Body &&body, int lag = 1, int start = 0, int span = 100)
     {
         const int h = height(), w = width();
-        const int threads = threadsFor(h, w, 1 << 15, this->threads());
+        const int threads = rowThreads();
         int reported = 0;
         parallelWavefront(h, w, InPlaceChunk, lag, threads, body, [&](int done) {
             if (done - reported < 16) return;

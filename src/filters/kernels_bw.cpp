@@ -71,11 +71,23 @@ constexpr Share Stucki[] = {{1, 0, 8}, {2, 0, 4}, {-2, 1, 2}, {-1, 1, 4}, {0, 1,
                             {1, 1, 4}, {2, 1, 2}, {-2, 2, 1}, {-1, 2, 2}, {0, 2, 4},
                             {1, 2, 2}, {2, 2, 1}};
 
+// The grey of each pixel of a piece of a row plus the error its cell has gathered: the part of
+// an error diffusion that does not wait for the pixel before, as vector code. (s * 43691) >> 17
+// equals s\3, FilterLUT(s), for every sum up to 765.
+TF_VECTOR_CLONES void greyPlusError(const uint32_t *in, const int *error, int *out, int n)
+{
+    for (int x = 0; x < n; ++x) {
+        const uint32_t p = in[x];
+        const uint32_t sum = (p & 255) + ((p >> 8) & 255) + ((p >> 16) & 255);
+        out[x] = int((sum * 43691u) >> 17) + error[x];
+    }
+}
+
 // The matrix is a template argument, so the loop over its shares unrolls into fixed code.
 template <const auto &matrix, int divisor> void diffuseError(FilterRun &run)
 {
     constexpr size_t N = std::size(matrix);
-    const int w = run.width(), h = run.height();
+    const int w = run.width();
     // The share of every error value for each weight, once: no division in the inner loop.
     // The division truncates towards zero.
     std::array<std::array<int, 511>, N> shares{};
@@ -101,22 +113,45 @@ template <const auto &matrix, int divisor> void diffuseError(FilterRun &run)
         for (size_t k = 0; k < N; ++k)
             shareOf[size_t(raw - Lowest)][k] = int16_t(shares[k][e]);
     }
-    // Error rows below this one (Stucki two), with a margin of two on each side. The shares
-    // to the right in this row are carried in `right1` and `right2`, and those to the rows
-    // below gather in windows over the cells x-2 .. x+2, each cell written once it is
-    // complete: the sums are the same, and the walk does not wait on memory.
+    // Each row gathers the error it receives in a row of its own, with a margin of two on
+    // each side, in a ring of such rows. The shares to the right in a row are carried in
+    // `right1` and `right2`, and those to the rows below gather in windows over the cells
+    // x-2 .. x+2, each cell written once it is complete: the sums are the same, and the walk
+    // does not wait on memory.
+    //
+    // Rows follow each other over the threads as a wavefront: a cell of row y is complete
+    // when row y-1 has passed two pixels beyond it, so row y keeps a distance of two columns
+    // behind. At most `threads` rows are under way and rows finish in order, so a ring of
+    // threads + rowsBelow + 1 rows is never reused while read; a row clears the farthest row
+    // it adds to before it starts, which no row before it adds to.
     constexpr int margin = 2;
     constexpr int rowsBelow = matrix[N - 1].dy;
-    std::vector<std::vector<int>> err(size_t(rowsBelow + 1), std::vector<int>(size_t(w + 2 * margin)));
-    for (int y = 0; y < h; ++y) {
-        const auto *in = reinterpret_cast<const uint32_t *>(run.S.row(y));
-        auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
-        const int *here = err[0].data() + margin;
-        int *below[2] = {err[1].data() + margin, err[size_t(rowsBelow)].data() + margin};
+    const int ringSize = run.rowThreads() + rowsBelow + 1;
+    const size_t stride = size_t(w + 2 * margin);
+    std::vector<int> ring(size_t(ringSize) * stride, 0);
+    const auto errorRow = [&](int y) { return ring.data() + size_t(y % ringSize) * stride + margin; };
+    struct RowState {
         int right1 = 0, right2 = 0;
         int window[2][5] = {};
-        for (int x = 0; x < w; ++x) {
-            const size_t i = size_t(greyOf(in[x]) + here[x] + right1 - Lowest);
+    };
+    std::vector<RowState> states(static_cast<size_t>(ringSize));
+    run.inPlaceRows([&](int y, int x0, int x1) {
+        RowState &st = states[size_t(y % ringSize)];
+        if (x0 == 0) {
+            st = RowState{};
+            std::fill_n(errorRow(y + rowsBelow) - margin, stride, 0);
+        }
+        const auto *in = reinterpret_cast<const uint32_t *>(run.S.row(y));
+        auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
+        const int *here = errorRow(y);
+        int *below[2] = {errorRow(y + 1), errorRow(y + rowsBelow)};
+        int right1 = st.right1, right2 = st.right2;
+        int window[2][5];
+        std::copy(&st.window[0][0], &st.window[0][0] + 10, &window[0][0]);
+        int base[FilterRun::InPlaceChunk];
+        greyPlusError(in + x0, here + x0, base, x1 - x0);
+        for (int x = x0; x < x1; ++x) {
+            const size_t i = size_t(base[x - x0] + right1 - Lowest);
             out[x] = (out[x] & 0xFF000000u) | colourOf[i]; // no branch: the outcome is not foreseeable
             const auto &share = shareOf[i];
             right1 = right2;
@@ -133,16 +168,16 @@ template <const auto &matrix, int divisor> void diffuseError(FilterRun &run)
                 window[r][4] = 0;
             }
         }
-        // The last two cells of the picture; the rest of the window lies in the margin.
-        for (int r = 0; r < rowsBelow; ++r)
-            for (int c = 0; c < 2; ++c)
-                below[r][w - 2 + c] += window[r][c];
-        // The error rows move up by one and the last is cleared.
-        for (int r = 0; r < rowsBelow; ++r)
-            err[size_t(r)].swap(err[size_t(r + 1)]);
-        std::fill(err[size_t(rowsBelow)].begin(), err[size_t(rowsBelow)].end(), 0);
-        run.rowDone(y, 10, 90);
-    }
+        if (x1 == w) {
+            // The last two cells of the picture; the rest of the window lies in the margin.
+            for (int r = 0; r < rowsBelow; ++r)
+                for (int c = 0; c < 2; ++c)
+                    below[r][w - 2 + c] += window[r][c];
+        }
+        st.right1 = right1;
+        st.right2 = right2;
+        std::copy(&window[0][0], &window[0][0] + 10, &st.window[0][0]);
+    }, 2, 10, 90);
 }
 
 } // namespace
