@@ -64,7 +64,7 @@ GammaDialog::GammaDialog(Session &session, const FilterRow &row, QWidget *parent
     m_picOriginal->setObjectName(QStringLiteral("picOriginal"));
     m_picOriginal->setPixmap(QPixmap::fromImage(m_reduced));
     m_picOriginal->installEventFilter(this);
-    pictures->addWidget(m_picOriginal);
+    pictures->addWidget(m_picOriginal, 0, Qt::AlignTop);
     if (row.beforeAfter) {
         m_zoom = PreviewZoom(original.size(), PreviewSide);
         auto *after = new QGridLayout;
