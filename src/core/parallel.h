@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <exception>
 #include <memory>
@@ -129,8 +130,8 @@ void parallelRows(int rows, int64_t workPerRow, Body &&body, int64_t minWorkPerT
 // first x1 + `lag` columns (or all of them), so each read sees what the plain loop, y outer
 // and x inner, would see as long as the kernel reads no further than `lag` columns right of
 // the pixel in the row above and no further than `lag` columns left of it in the row below.
-// A body is never given more than `chunk` columns. Rows finish in order; `done(rowsDone)` is called on the calling thread after each of its
-// rows.
+// A body is never given more than `chunk` columns. Rows finish in order; `done(rowsDone)` is
+// called on the calling thread after each of its rows.
 template <typename Body, typename Done>
 void parallelWavefront(int rows, int columns, int chunk, int lag, int threads, Body &&body,
                        Done &&done)
@@ -152,6 +153,11 @@ void parallelWavefront(int rows, int columns, int chunk, int lag, int threads, B
     std::atomic<int> next{0};
     std::atomic<bool> stop{false};
     detail::runOnThreads(threads, stop, [&](bool isCaller) {
+        // Waits that outlast a time slice: the thread above was held back by other work on
+        // the machine. A helper that meets them leaves the rest to the others after its row,
+        // so that on busy cores the loop falls back to fewer threads instead of waiting on
+        // each other; on free cores no wait is that long.
+        int heldBack = 0;
         for (;;) {
             const int y = next.fetch_add(1, std::memory_order_relaxed);
             if (y >= rows) return;
@@ -161,19 +167,28 @@ void parallelWavefront(int rows, int columns, int chunk, int lag, int threads, B
                     const int need = std::min(columns, x1 + lag);
                     // The row above is being worked on by another thread that never waits for
                     // this one, so the wait ends. A short wait is spun out on the core; a
-                    // long one (the other thread held back) gives the core away.
+                    // long one gives the core away.
+                    std::chrono::steady_clock::time_point since{};
                     for (int spins = 0;
                          progress[size_t(y - 1)].load(std::memory_order_acquire) < need; ++spins) {
                         if (stop.load(std::memory_order_relaxed)) return;
-                        if (spins < 256) detail::relax();
-                        else std::this_thread::yield();
+                        if (spins < 256) {
+                            detail::relax();
+                            continue;
+                        }
+                        if (spins == 256) since = std::chrono::steady_clock::now();
+                        std::this_thread::yield();
                     }
+                    if (since != std::chrono::steady_clock::time_point{} &&
+                        std::chrono::steady_clock::now() - since > std::chrono::milliseconds(2))
+                        ++heldBack;
                 }
                 if (stop.load(std::memory_order_relaxed)) return;
                 body(y, x0, x1);
                 progress[size_t(y)].store(x1, std::memory_order_release);
             }
             if (isCaller) done(y + 1);
+            else if (heldBack >= 2) return;
         }
     });
 }
