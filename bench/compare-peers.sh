@@ -47,7 +47,8 @@ PY
 
 now() { date +%s.%N; }
 seconds() { local t0; t0=$(now); "$@" >/dev/null 2>&1; echo "$(now) - $t0" | bc -l; }
-best() { local b=999; for _ in 1 2 3; do local t; t=$(seconds "$@"); b=$(echo "if ($t < $b) $t else $b" | bc -l); done; echo "$b"; }
+# The median of five runs: the machine may be shared, and one slow run says little.
+best() { local ts=(); for _ in 1 2 3 4 5; do ts+=("$(seconds "$@")"); done; printf '%s\n' "${ts[@]}" | sort -g | sed -n 3p; }
 
 names=(negate greyscale sharpen dilate floyd-steinberg)
 ours=(negative greyscale sharpen dilate floyd-steinberg)
@@ -57,16 +58,22 @@ magick=("-negate" "-grayscale Average" "-morphology Convolve 3x3:-1,-1,-1,-1,9,-
 pillow=("ImageOps.invert(im)" "im.convert('L')" "im.filter(ImageFilter.SHARPEN)"
         "im.filter(ImageFilter.MaxFilter(3))" "im.convert('1')")
 
-# Our kernel times in the process, in milliseconds, from the benchmark.
-declare -A kernel
+# Our kernel times in the process, in milliseconds, from the benchmark: the median of five
+# runs on every core (kernel) and on one thread (single), as Pillow works on one.
+declare -A kernel single
 if [ -x "$bench" ]; then
   while IFS=, read -r name _iter real _rest; do
-    n=$(echo "$name" | sed -n 's#^"Kernel/\([0-9]*\)/.*#\1#p')
-    [ -n "$n" ] && kernel[$n]=$real
-  done < <("$bench" --benchmark_filter='Kernel/(2|12|1|25|21)/' --benchmark_format=csv 2>/dev/null | tail -n +2)
+    n=$(echo "$name" | sed -n 's#^"Kernel/\([0-9]*\)/[^/]*/threads:\([01]\).*_median"$#\1 \2#p')
+    [ -z "$n" ] && continue
+    set -- $n
+    if [ "$2" = 0 ]; then kernel[$1]=$real; else single[$1]=$real; fi
+  done < <("$bench" --benchmark_filter='Kernel/(2|12|1|25|21)/' --benchmark_repetitions=5 \
+             --benchmark_report_aggregates_only=true --benchmark_format=csv 2>/dev/null | tail -n +2)
 fi
 
-printf '%-16s %10s %10s %7s | %10s %10s %7s\n' filter "ours s" convert ratio "ours ms" Pillow ratio
+# "files" is the share of our whole process that is not the filter: reading, converting and
+# writing the picture.
+printf '%-16s %10s %10s %7s %6s | %10s %10s %10s %7s %7s\n' filter "ours s" convert ratio files "ours ms" "1 thread" Pillow ratio "ratio 1"
 for i in "${!names[@]}"; do
   o=$(best "$exe" filter "${ours[$i]}" "$work/in.bmp" -o "$work/ours.bmp")
   c=-; cr=-
@@ -77,20 +84,26 @@ for i in "${!names[@]}"; do
     c=$(printf '%.3f' "$c")
   fi
   k=${kernel[${numbers[$i]}]:--}
-  p=-; pr=-
+  k1=${single[${numbers[$i]}]:--}
+  p=-; pr=-; pr1=-
   if [ $have_pillow = 1 ]; then
     p=$("$py" - "$work/in.bmp" "${pillow[$i]}" <<'PY'
 import sys, time
 from PIL import Image, ImageOps, ImageFilter
 im = Image.open(sys.argv[1]); im.load()
-best = 1e9
-for _ in range(3):
-    t = time.perf_counter(); eval(sys.argv[2]); best = min(best, time.perf_counter() - t)
-print(f"{best * 1000:.1f}")
+import statistics
+ts = []
+for _ in range(5):
+    t = time.perf_counter(); eval(sys.argv[2]); ts.append(time.perf_counter() - t)
+print(f"{statistics.median(ts) * 1000:.1f}")
 PY
 )
     [ "$k" != - ] && pr=$(printf '%.1f' "$(echo "$p / $k" | bc -l)")
+    [ "$k1" != - ] && pr1=$(printf '%.1f' "$(echo "$p / $k1" | bc -l)")
   fi
   [ "$k" != - ] && k=$(printf '%.1f' "$k")
-  printf '%-16s %10.3f %10s %7s | %10s %10s %7s\n' "${names[$i]}" "$o" "$c" "$cr" "$k" "$p" "$pr"
+  [ "$k1" != - ] && k1=$(printf '%.1f' "$k1")
+  files=-
+  [ "$k" != - ] && files=$(printf '%.0f%%' "$(echo "100 * ($o - $k / 1000) / $o" | bc -l)")
+  printf '%-16s %10.3f %10s %7s %6s | %10s %10s %10s %7s %7s\n' "${names[$i]}" "$o" "$c" "$cr" "$files" "$k" "$k1" "$p" "$pr" "$pr1"
 done

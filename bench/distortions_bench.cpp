@@ -64,7 +64,7 @@ void distortion(benchmark::State &state, const Case *c, int threads)
     args.argument = c->sliders[0];
     args.selector = c->selector;
     args.resizeToFit = c->resize;
-    FilterWorkspace ws(photo(), true);
+    FilterWorkspace ws(photo(), Reads::Src);
     for (auto _ : state) {
         FilterRun run(ws.D(), ws.S(), args, s);
         c->kernel(run);

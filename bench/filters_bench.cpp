@@ -52,10 +52,12 @@ void copyBytes(benchmark::State &state)
 }
 BENCHMARK(copyBytes)->Unit(benchmark::kMillisecond)->UseRealTime();
 
+// The argument limits the threads (0: every core), as the session's filter state does.
 void kernel(benchmark::State &state, const FilterRow *row)
 {
     Session s;
-    FilterWorkspace ws(photo(), row->reads == Reads::Src);
+    s.filters().threads = int(state.range(0));
+    FilterWorkspace ws(photo(), row->reads);
     const FilterArgs args = argumentsFor(*row);
     for (auto _ : state) {
         FilterRun run(ws.D(), ws.S(), args, s);
@@ -81,6 +83,9 @@ const bool registered = [] {
         if (!row.available()) continue;
         benchmark::RegisterBenchmark(("Kernel/" + std::to_string(row.number) + "/" + row.name).c_str(),
                                      kernel, &row)
+            ->ArgName("threads")
+            ->Arg(0)
+            ->Arg(1)
             ->Unit(benchmark::kMillisecond)
             ->UseRealTime()
             ->MinTime(0.2);

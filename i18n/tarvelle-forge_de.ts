@@ -1039,6 +1039,37 @@
         <source>Hintergrund löschen</source>
         <translation>Hintergrund löschen</translation>
     </message>
+    <message>
+        <source>Vergrößern</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Verkleinern</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Doppelklick: Wert eingeben</source>
+        <translation>Doppelklick: Wert eingeben</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::GetStepsDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Schritte</translation>
+    </message>
+    <message>
+        <source>(%1 bis %2)</source>
+        <translation>(%1 bis %2)</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Bitte geben Sie eine Zahl von %1 bis %2 ein.</source>
+        <translation>Bitte geben Sie eine Zahl von %1 bis %2 ein.</translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::GrafDialogDock</name>

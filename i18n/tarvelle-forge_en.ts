@@ -1039,6 +1039,37 @@
         <source>Hintergrund löschen</source>
         <translation>Clear background</translation>
     </message>
+    <message>
+        <source>Vergrößern</source>
+        <translation>Zoom in</translation>
+    </message>
+    <message>
+        <source>Verkleinern</source>
+        <translation>Zoom out</translation>
+    </message>
+    <message>
+        <source>Doppelklick: Wert eingeben</source>
+        <translation>Double-click: type the value</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::GetStepsDialog</name>
+    <message>
+        <source>Schritte</source>
+        <translation>Steps</translation>
+    </message>
+    <message>
+        <source>(%1 bis %2)</source>
+        <translation>(%1 to %2)</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Bitte geben Sie eine Zahl von %1 bis %2 ein.</source>
+        <translation>Please enter a number from %1 to %2.</translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::GrafDialogDock</name>

@@ -42,6 +42,7 @@ struct Step {
     const FilterRow *row = nullptr; // null: sepia
     FilterArgs args;
     bool argumentGiven = false;
+    bool colourGiven = false; // --colour0
 };
 
 ColorLong parseColourValue(const QString &text)
@@ -69,7 +70,7 @@ Step startStep(const QString &name)
     if (!st.row) throw UsageError(QCoreApplication::translate("Cli", "Unbekannter Filter: %1 (siehe `filters`)").arg(name));
     if (!st.row->available())
         throw UsageError(QCoreApplication::translate("Cli", "Der Filter %1 ist noch nicht eingebaut.").arg(name));
-    if (st.row->entries.empty() && st.row->sliders.empty() && st.row->number != 45)
+    if (st.row->entries.empty() && st.row->sliders.empty())
         throw UsageError(QCoreApplication::translate("Cli", "Unbekannter Filter: %1 (siehe `filters`)").arg(name));
     st.args = defaultArguments(*st.row);
     if (st.row->sliders.empty() && !st.row->entries.empty()) {
@@ -180,6 +181,7 @@ FilterOptions parseFilterOptions(const QStringList &words)
             const ColorLong c = parseColourValue(a.valueOf(w));
             const size_t i = w.endsWith(QLatin1Char('1')) ? 1 : 0;
             s.args.colours[i] = c;
+            if (i == 0) s.colourGiven = true;
             // A filter whose argument is a colour takes the first colour as its argument.
             if (i == 0 && s.row && s.row->sliders.empty() && !s.row->entries.empty() &&
                 s.row->entries[0].rule != ArgumentRule::Fixed)
@@ -241,7 +243,6 @@ QString argumentsOf(const FilterRow &row)
                 parts << QStringLiteral("--arg %1").arg(values.join(QLatin1Char('|')));
         }
     }
-    if (row.number == 45) parts << QStringLiteral("--colour0 #RRGGBB");
     return parts.join(QLatin1Char(' '));
 }
 
@@ -283,7 +284,10 @@ int runFilter(const QStringList &args)
     s.setStatus(&status);
     s.filters().threads = o.threads;
     if (o.seed) s.seed(*o.seed);
-    for (const Step &st : o.steps) {
+    for (Step st : o.steps) {
+        // The colour mix takes the session's background colour, as "Backgroundcolor" does,
+        // unless a colour is given.
+        if (st.row && st.row->number == 45 && !st.colourGiven) st.args.colours[0] = s.colours().ColorBack;
         const bool ok = st.row ? DoGraficFilters(s, st.row->runsAs(), picture, st.args)
                                : (colourisePicture(s, picture, SepiaValues), true);
         if (!ok || prompter.faultSeen()) {

@@ -49,7 +49,7 @@ bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &
     return guarded(QStringLiteral("DoGraficFilters [%1]").arg(number), [&] {
         // The arrays' size is checked as the workspace would size them.
         checkedMul<int32_t>(checkedMul<int32_t>(picture.width(), 4), picture.height());
-        FilterWorkspace ws(picture, row->reads == Reads::Src);
+        FilterWorkspace ws(picture, row->reads);
         FilterRun run(ws.D(), ws.S(), args, s);
         row->kernel(run);
         run.progress(100);

@@ -25,10 +25,6 @@ struct FilterArgs {
     // A position picked on the picture (light source, lens), in pixels from the top left;
     // (-1, -1) for none: the filter takes the middle of the picture.
     QPoint position{-1, -1};
-    // The colour mix (filter 45): the share of the old picture kept (0 gives the colour
-    // whole, 1 leaves the picture) and the width of a graded frame (0: the whole picture).
-    double keep = 0.0;
-    int border = 0;
     // The frame gradient of filter 45: with `on` the mix runs from "Color from" to
     // "Color to/back" as a gradient of `style` (0 linear, 1 frame, 2 rectangle, 3 ellipse),
     // see gradientkernels.h.
@@ -38,6 +34,8 @@ struct FilterArgs {
         bool horizontal = true; // the linear gradient runs from left to right, else top down
         bool swap = false;      // the two colours change places
         bool soft = true;       // an eased rather than a straight ramp
+        // The share of the old picture kept (0 gives the gradient whole, 1 leaves the picture).
+        double keep = 0.0;
         // Frame widths at the left and right, at the top and bottom, and of the passepartout
         // (a band of "Color from" round the edge; below 1 none).
         std::array<int, 3> borders{0, 0, -1};

@@ -230,10 +230,13 @@ bool FilterDialogRun::preview(const FilterArgs &args)
     return ok;
 }
 
-QImage FilterDialogRun::previewOf(const QImage &reduced, FilterArgs args, double scale)
+QImage FilterDialogRun::previewOf(const QImage &reduced, FilterArgs args, double scale,
+                                  QPoint origin)
 {
-    if (args.position.x() >= 0)
-        args.position = QPoint(int(args.position.x() * scale), int(args.position.y() * scale));
+    if (args.position.x() >= 0) {
+        const QPoint p = args.position - origin;
+        args.position = QPoint(int(p.x() * scale), int(p.y() * scale));
+    }
     args.background = m_s.colours().ColorBack;
     QImage result = reduced.convertToFormat(QImage::Format_RGB32);
     DoGraficFilters(m_s, m_row.runsAs(), result, args);

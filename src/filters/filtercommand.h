@@ -77,8 +77,9 @@ public:
     // `args`, and shown on the target. Faults are reported under "Gamma_cmdPreview".
     bool preview(const FilterArgs &args);
     // The small preview: `args` applied to a reduced copy (positions and sizes scaled by
-    // `scale`, the reduced size over the full size).
-    QImage previewOf(const QImage &reduced, FilterArgs args, double scale);
+    // `scale`, the reduced size over the full size) of the picture, or of the part of it
+    // whose top left corner is `origin` (picture pixels).
+    QImage previewOf(const QImage &reduced, FilterArgs args, double scale, QPoint origin = {});
     // Closes the run: cancelled gives the picture back exactly; otherwise, when the values
     // were previewed, the result stays on the target; when not, "Please contact Vorun!
     // Err-Code: 17" is reported. Answers true when the result stays.

@@ -44,15 +44,23 @@ void FilterRun::step(void (*kernel)(FilterRun &), int32_t argument)
     kernel(sub);
 }
 
-FilterWorkspace::FilterWorkspace(const QImage &picture, bool needSource)
-    : m_dst(picture.convertToFormat(QImage::Format_RGB32))
+FilterWorkspace::FilterWorkspace(const QImage &picture, Reads reads)
+    : m_dst(picture.convertToFormat(QImage::Format_RGB32)), m_reads(reads)
 {
-    // A deep copy: the picture stays as it is until the result is written back.
+    if (reads != Reads::Dst) m_src = m_dst; // a share of the picture's bytes
+    // D is a deep copy: the picture stays as it is until the result is written back.
     m_dst.detach();
-    if (needSource) {
-        m_src = m_dst;
-        m_src.detach();
-    }
+    if (reads == Reads::Steps) m_src.detach();
+}
+
+PixelPlane FilterWorkspace::S()
+{
+    if (m_reads == Reads::Dst) return plane(m_dst);
+    if (m_reads == Reads::Steps) return plane(m_src);
+    // Read only: constBits leaves the shared bytes shared.
+    const QImage &shared = m_src;
+    return {const_cast<uint8_t *>(shared.constBits()), shared.width(), shared.height(),
+            shared.bytesPerLine()};
 }
 
 PixelPlane FilterWorkspace::plane(QImage &image)

@@ -15,11 +15,20 @@
 #include "core/numeric.h"
 #include "core/parallel.h"
 #include "filters/filterargs.h"
+#include "filters/filtertable.h"
 
 #include <QImage>
 #include <algorithm>
 #include <array>
 #include <cstdint>
+
+// Marks a pixel loop for a second copy in the wider vector instructions of the processors
+// that have them; the program picks the copy once at start.
+#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) && defined(__linux__)
+#define TF_VECTOR_CLONES __attribute__((target_clones("avx2", "default")))
+#else
+#define TF_VECTOR_CLONES
+#endif
 
 namespace tf {
 
@@ -68,18 +77,37 @@ public:
     void copyDstToSrc();
 
     // Runs body(first, last) over rows 0 .. height-1 (pure rows), the bar going from `start`
-    // to start + span.
+    // to start + span. Rows go out in chunks to whichever thread is free. A body takes its
+    // loop bounds into locals of its own: a store to a row could otherwise change a bound it
+    // holds by reference, as far as the compiler knows, and it would not make vector code.
     template <typename Body> void rows(Body &&body, int start = 0, int span = 100)
     {
         const int h = height();
-        const int slices = std::min(h, 20);
-        for (int i = 0; i < slices; ++i) {
-            const int first = int(int64_t(h) * i / slices);
-            const int last = int(int64_t(h) * (i + 1) / slices);
-            parallelRows(last - first, width(), [&](int a, int b) { body(first + a, first + b); },
-                         1 << 15, threads());
-            progress(start + int(int64_t(last) * span / h));
-        }
+        const int threads = threadsFor(h, width(), 1 << 15, this->threads());
+        const int chunk = std::clamp(h / (threads * 64), 1, 16);
+        parallelChunks(h, chunk, threads, body,
+                       [&](int done) { progress(start + int(int64_t(done) * span / h)); });
+        progress(start + span);
+    }
+    // Runs an in-place loop that reads the row above as already written and the row below as
+    // not yet written: body(y, x0, x1) handles columns x0 .. x1-1 of row y. Rows follow each
+    // other at a distance of `lag` columns over the threads (parallelWavefront), so the result
+    // is that of the plain loop, y outer and x inner, for any thread count.
+    // The threads a loop over the rows runs on (at most `threads()`, fewer on a small picture).
+    int rowThreads() const { return threadsFor(height(), width(), 1 << 15, threads()); }
+    // Columns an in-place row hands on at a time.
+    static constexpr int InPlaceChunk = 512;
+    template <typename Body> void inPlaceRows(Body &&body, int lag = 1, int start = 0, int span = 100)
+    {
+        const int h = height(), w = width();
+        const int threads = rowThreads();
+        int reported = 0;
+        parallelWavefront(h, w, InPlaceChunk, lag, threads, body, [&](int done) {
+            if (done - reported < 16) return;
+            reported = done;
+            progress(start + int(int64_t(done) * span / h));
+        });
+        progress(start + span);
     }
     // The bar after row y (0-based) of a row-by-row loop, going from `start` by `span`.
     void rowDone(int y, int start = 0, int span = 100)
@@ -99,13 +127,15 @@ private:
     Session &m_session;
 };
 
-// The filter workspace of one run: D takes a copy of the picture, S another when the filter
-// reads an unchanged copy.
+// The filter workspace of one run: D takes a copy of the picture. S, for a routine that reads
+// the unchanged copy, is the picture's own bytes, which nothing writes while the filter runs
+// (the workspace holds a share of them, so a change to the picture meanwhile would leave
+// them alone); a composite filter gets a copy of its own, which each of its steps refreshes.
 class FilterWorkspace {
 public:
-    FilterWorkspace(const QImage &picture, bool needSource);
+    FilterWorkspace(const QImage &picture, Reads reads);
     PixelPlane D() { return plane(m_dst); }
-    PixelPlane S() { return m_src.isNull() ? plane(m_dst) : plane(m_src); }
+    PixelPlane S();
     // The result, ready to be written back.
     const QImage &result() const { return m_dst; }
 
@@ -113,6 +143,7 @@ private:
     static PixelPlane plane(QImage &image);
     QImage m_dst;
     QImage m_src;
+    Reads m_reads;
 };
 
 } // namespace tf

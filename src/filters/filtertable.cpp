@@ -191,6 +191,11 @@ constexpr FilterSlider S52[] = {{"H.-Faktor", "H.-Factor", -200, 300, 0, 50},
                                 {"V.-Faktor", "V.-Factor", -200, 300, 0, 50}};
 constexpr FilterSlider S53[] = {{"Winkel", "Angle", -180, 180, 0, 36},
                                 {"Anti-Aliasing", "Anti-aliasing", 0, 1, 0, 1}};
+// The colour mix has no dialog; its two values are sliders so that the command line sets
+// them as it sets any filter's: the transparency of the mix (the share of the picture kept,
+// as a paint's transparency) and the width of a frame fading inwards (0: the whole picture).
+constexpr FilterSlider S45[] = {{"Transparenz", "Transparency", 0, 100, 50, 10},
+                                {"Rahmen", "Border", 0, 1000, 0, 10}};
 constexpr FilterSlider SShape[] = {{"Faktor", "Factor", 1, 100, 10, 10}};
 
 constexpr ColorLong Red = 0x0000FF, Blue = 0xFF0000, Black = 0x000000, White = 0xFFFFFF;
@@ -284,7 +289,7 @@ const FilterRow Table[] = {
     row(32, "duotone", "Duotone", "Duotone", filterDuotone, Reads::Src, E32),
     row(33, "despeckle", "Störungen entfernen", "Despeckle", filterDespeckle, Reads::Dst, E33),
     row(34, "equalize", "Tonwertangleichung", "Equalize", filterEqualize, Reads::Src, E34),
-    row(35, "oil-colours", "Ölfarben [Sprenkeln]", "Oil colours [dissolve]", filterDissolve, Reads::Src, E35),
+    row(35, "oil-colours", "Ölfarben [Sprenkeln]", "Oil colours [dissolve]", filterDissolve, Reads::Steps, E35),
     dialog(36, "halftone-grid", "Halbtonraster", "Halftone grid", filterHalftoneGrid, Reads::Src, E36, S36, P::Yes),
     dialog(37, "hue-stretch", "Farbtöne ausweiten", "Stretch hues", filterHueStretch, Reads::Src, E37, S37, P::Yes, 2, {Red, Blue}, false),
     dialog(38, "shift-colour", "Farbwerte anheben", "Shift colour", filterShiftColor, Reads::Src, E38, S38, P::Position, 1, BlackWhite, false),
@@ -294,7 +299,8 @@ const FilterRow Table[] = {
     dialog(42, "light-source", "Lichtquelle", "Light source", filterAddLight, Reads::Src, E42, S42, P::Position, 0, BlackWhite, false, LightPromptDe, LightPromptEn),
     withMixer(dialog(43, "channel-mixer", "Farbkanäle mischen", "Channel mixer", filterChannelMixer, Reads::Src, E43, {}, P::Yes)),
     dialog(44, "rgb-steps", "RGB Stufen", "RGB steps", filterShiftRGB, Reads::Src, E44, S44, P::Yes),
-    row(45, "colour-mix", "Farbmischung", "Colour mix", filterColourMix, Reads::Src, {}),
+    // "Color from" starts as the background colour a session starts with.
+    dialog(45, "colour-mix", "Farbmischung", "Colour mix", filterColourMix, Reads::Src, {}, S45, P::No, 1, {White, White}, false),
     row(46, "deformation", "Transformieren", "Deformation", TransGMirrors, Reads::Dst, {}),
     dialog(47, "lens", "Linse", "Lens", filterLens, Reads::Src, E47, S47, P::Position, 0, BlackWhite, false, PositionPromptDe, PositionPromptEn),
     dialog(48, "waves", "Wellen", "Waves", filterWaves, Reads::Src, E48, S48, P::No, 0, BlackWhite, false),

@@ -31,8 +31,9 @@ enum class RunMode {
     Internal,      // no menu entry: other routines call it
 };
 
-// Which array a routine reads: D as it is being written, or the unchanged copy S.
-enum class Reads { Dst, Src };
+// Which array a routine reads: D as it is being written, the unchanged copy S, or (a
+// composite filter) S as a copy of its own that each step refreshes from D.
+enum class Reads { Dst, Src, Steps };
 
 // Where the argument of a menu entry comes from.
 enum class ArgumentRule {

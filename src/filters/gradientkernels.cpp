@@ -23,7 +23,7 @@ void frameGradient(FilterRun &run)
     auto c0 = bytesOf(run.args.colours[0]);
     auto c1 = bytesOf(run.args.colours[1]);
     if (f.swap) std::swap(c0, c1);
-    const double keep = std::clamp(run.args.keep, 0.0, 1.0);
+    const double keep = std::clamp(f.keep, 0.0, 1.0);
     const int w = run.width(), h = run.height();
     const int mat = std::max(0, f.borders[2]);
     // The area inside the passepartout.

@@ -40,10 +40,11 @@ template <typename Fn> void eachPixel(FilterRun &run, Fn fn)
 {
     const int w = run.width();
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *in = run.S.row(y);
             uint8_t *out = run.D.row(y);
-            for (int x = 0; x < w * 4; x += 4)
+            for (int x = 0; x < width * 4; x += 4)
                 fn(in + x, out + x);
         }
     });
@@ -107,10 +108,11 @@ void filterHueStretch(FilterRun &run)
     const int w = run.width(), h = run.height();
     std::vector<std::array<Single, 2>> perRow(size_t(h), {5.0f, -1.0f});
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *in = run.S.row(y);
             auto &r = perRow[size_t(y)];
-            for (int x = 0; x < w * 4; x += 4) {
+            for (int x = 0; x < width * 4; x += 4) {
                 Single H, S, L;
                 RGBToHLS(in[x + 2], in[x + 1], in[x], H, S, L);
                 if (S > 0.0f) {
@@ -134,10 +136,11 @@ void filterHueStretch(FilterRun &run)
     const Single lighten = Single(run.args.sliders[2]) / 100.0f;
     run.FilterStart = 30;
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *in = run.S.row(y);
             uint8_t *out = run.D.row(y);
-            for (int x = 0; x < w * 4; x += 4) {
+            for (int x = 0; x < width * 4; x += 4) {
                 Single H, S, L;
                 RGBToHLS(in[x + 2], in[x + 1], in[x], H, S, L);
                 Single nh = hi > lo ? h0 + (H - lo) / (hi - lo) * (h1 - h0) : h0;
@@ -210,10 +213,11 @@ void filterAddLight(FilterRun &run)
     const double reach = std::max(1.0, run.args.sliders[0] / 100.0 * std::max(w, h));
     const double intensity = run.args.sliders[1] / 250.0;
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *in = run.S.row(y);
             uint8_t *out = run.D.row(y);
-            for (int x = 0; x < w; ++x) {
+            for (int x = 0; x < width; ++x) {
                 const double d = std::hypot(x - px, y - py);
                 if (d >= reach) continue;
                 const double fall = 1.0 - d / reach;
@@ -236,8 +240,10 @@ void filterColourMix(FilterRun &run)
         return;
     }
     const auto k = bytesOf(run.args.colours[0]);
-    const double keep = run.args.keep;
-    const int border = run.args.border;
+    // Slider 0 is the transparency in percent: the share of the picture kept (0 gives the
+    // colour whole, 100 leaves the picture); slider 1 the width of the frame.
+    const double keep = run.args.sliders[0] / 100.0;
+    const int border = run.args.sliders[1];
     const int w = run.width(), h = run.height();
     if (border <= 0) {
         std::array<std::array<uint8_t, 256>, 3> t{};
@@ -251,11 +257,12 @@ void filterColourMix(FilterRun &run)
         return;
     }
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *in = run.S.row(y);
             uint8_t *out = run.D.row(y);
-            for (int x = 0; x < w; ++x) {
-                const int edge = std::min({x, y, w - 1 - x, h - 1 - y});
+            for (int x = 0; x < width; ++x) {
+                const int edge = std::min({x, y, width - 1 - x, h - 1 - y});
                 if (edge >= border) continue;
                 const double kept = keep + (1.0 - keep) * edge / border;
                 for (size_t c = 0; c < 3; ++c)

@@ -19,24 +19,71 @@ int channelOf(ColorLong colour, int c)
 }
 
 // An in-place 3 x 3 filter: y outer, x inner, reading D as it is being written, so a pixel
-// sees its upper and left neighbours already filtered. fn(centre, N) gives the new value.
-template <typename Fn> void inPlace3x3(FilterRun &run, Fn fn)
+// sees its upper neighbours and its left one already filtered. Rows go over the threads as a
+// wavefront (FilterRun::inPlaceRows), which keeps exactly those reads.
+//
+// `exact(up, mid, dn, xm, x0, xp)` gives the new value of one channel from the three rows and
+// the clamped byte offsets; it serves the first and last row and column, where a clamped
+// neighbour may be the pixel itself or its already filtered left neighbour. Inside, the work
+// is split in two: `others(up, mid, dn, i)` takes what does not depend on the left neighbour,
+// for a whole chunk of bytes at once (a loop the compiler turns into vector code), and
+// `finish(v, others, left)` then walks the row with the left neighbour's new value.
+template <typename Exact, typename Others, typename Finish>
+void inPlaceLeftChain(FilterRun &run, Exact exact, Others others, Finish finish)
 {
     const int w = run.width(), h = run.height();
-    for (int y = 0; y < h; ++y) {
+    run.inPlaceRows([&](int y, int x0, int x1) {
         const uint8_t *up = run.D.row(std::max(y - 1, 0));
         uint8_t *mid = run.D.row(y);
         const uint8_t *dn = run.D.row(std::min(y + 1, h - 1));
-        for (int x = 0; x < w; ++x) {
-            const int xm = std::max(x - 1, 0) * 4, x0 = x * 4, xp = std::min(x + 1, w - 1) * 4;
-            for (int c = 0; c < 3; ++c) {
-                const int n = up[xm + c] + up[x0 + c] + up[xp + c] + mid[xm + c] + mid[xp + c] +
-                              dn[xm + c] + dn[x0 + c] + dn[xp + c];
-                mid[x0 + c] = clampByte(fn(mid[x0 + c], n));
+        const auto exactPixel = [&](int x) {
+            const int xm = std::max(x - 1, 0) * 4, xc = x * 4, xp = std::min(x + 1, w - 1) * 4;
+            for (int c = 0; c < 3; ++c)
+                mid[xc + c] = clampByte(exact(up, mid, dn, xm + c, xc + c, xp + c));
+        };
+        if (y == 0 || y == h - 1) {
+            for (int x = x0; x < x1; ++x)
+                exactPixel(x);
+            return;
+        }
+        const int a = std::max(x0, 1), b = std::min(x1, w - 1);
+        for (int x = x0; x < std::min(a, x1); ++x)
+            exactPixel(x);
+        if (a < b) {
+            int q[FilterRun::InPlaceChunk * 4];
+            const int i0 = a * 4, i1 = b * 4;
+            for (int i = i0; i < i1; ++i)
+                q[i - i0] = others(up, mid, dn, i);
+            int l0 = mid[i0 - 4], l1 = mid[i0 - 3], l2 = mid[i0 - 2];
+            for (int i = i0; i < i1; i += 4) {
+                uint8_t *p = mid + i;
+                const int *o = q + (i - i0);
+                l0 = clampByte(finish(p[0], o[0], l0));
+                l1 = clampByte(finish(p[1], o[1], l1));
+                l2 = clampByte(finish(p[2], o[2], l2));
+                p[0] = uint8_t(l0);
+                p[1] = uint8_t(l1);
+                p[2] = uint8_t(l2);
             }
         }
-        run.rowDone(y);
-    }
+        for (int x = std::max(a, b); x < x1; ++x)
+            exactPixel(x);
+    });
+}
+
+// The common case: fn(centre, N) with N the sum of the eight neighbours.
+template <typename Fn> void inPlace3x3(FilterRun &run, Fn fn)
+{
+    inPlaceLeftChain(
+        run,
+        [fn](const uint8_t *up, const uint8_t *mid, const uint8_t *dn, int xm, int x0, int xp) {
+            const int n = up[xm] + up[x0] + up[xp] + mid[xm] + mid[xp] + dn[xm] + dn[x0] + dn[xp];
+            return fn(mid[x0], n);
+        },
+        [](const uint8_t *up, const uint8_t *mid, const uint8_t *dn, int i) {
+            return up[i - 4] + up[i] + up[i + 4] + mid[i + 4] + dn[i - 4] + dn[i] + dn[i + 4];
+        },
+        [fn](int v, int others, int left) { return fn(v, others + left); });
 }
 
 // A 3 x 3 filter over the unchanged copy S, rows spread over threads. fn(up, mid, dn, xm, x0,
@@ -45,13 +92,14 @@ template <typename Fn> void pure3x3(FilterRun &run, Fn fn)
 {
     const int w = run.width(), h = run.height();
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             const uint8_t *up = run.S.row(std::max(y - 1, 0));
             const uint8_t *mid = run.S.row(y);
             const uint8_t *dn = run.S.row(std::min(y + 1, h - 1));
             uint8_t *out = run.D.row(y);
-            for (int x = 0; x < w; ++x) {
-                const int xm = std::max(x - 1, 0) * 4, x0 = x * 4, xp = std::min(x + 1, w - 1) * 4;
+            for (int x = 0; x < width; ++x) {
+                const int xm = std::max(x - 1, 0) * 4, x0 = x * 4, xp = std::min(x + 1, width - 1) * 4;
                 for (int c = 0; c < 3; ++c)
                     out[x0 + c] = clampByte(fn(up, mid, dn, xm + c, x0 + c, xp + c, c));
             }
@@ -75,8 +123,8 @@ template <int A> void sharpenBy(FilterRun &run)
 template <bool Max> void extreme3x3(FilterRun &run)
 {
     const int w = run.width(), h = run.height();
-    const int bytes = w * 4;
     run.rows([&](int first, int last) {
+        const int width = w, bytes = w * 4;
         std::vector<uint8_t> across(size_t(bytes) * 3);
         auto pick = [](uint8_t a, uint8_t b) { return Max ? std::max(a, b) : std::min(a, b); };
         for (int y = first; y < last; ++y) {
@@ -85,7 +133,7 @@ template <bool Max> void extreme3x3(FilterRun &run)
             for (int r = 0; r < 3; ++r) {
                 const uint8_t *s = rows[r];
                 uint8_t *a = across.data() + size_t(r) * size_t(bytes);
-                if (w == 1) {
+                if (width == 1) {
                     std::copy(s, s + 4, a);
                     continue;
                 }
@@ -123,19 +171,15 @@ void filterBlurMore(FilterRun &run)
 
 void filterBlur(FilterRun &run)
 {
-    const int w = run.width(), h = run.height();
-    for (int y = 0; y < h; ++y) {
-        const uint8_t *up = run.D.row(std::max(y - 1, 0));
-        uint8_t *mid = run.D.row(y);
-        const uint8_t *dn = run.D.row(std::min(y + 1, h - 1));
-        for (int x = 0; x < w; ++x) {
-            const int xm = std::max(x - 1, 0) * 4, x0 = x * 4, xp = std::min(x + 1, w - 1) * 4;
-            for (int c = 0; c < 3; ++c)
-                mid[x0 + c] = uint8_t(
-                    (mid[x0 + c] + up[x0 + c] + dn[x0 + c] + mid[xm + c] + mid[xp + c]) / 5);
-        }
-        run.rowDone(y);
-    }
+    inPlaceLeftChain(
+        run,
+        [](const uint8_t *up, const uint8_t *mid, const uint8_t *dn, int xm, int x0, int xp) {
+            return (mid[x0] + up[x0] + dn[x0] + mid[xm] + mid[xp]) / 5;
+        },
+        [](const uint8_t *up, const uint8_t *mid, const uint8_t *dn, int i) {
+            return mid[i] + up[i] + dn[i] + mid[i + 4];
+        },
+        [](int, int others, int left) { return (others + left) / 5; });
 }
 
 void filterEdge(FilterRun &run)
@@ -227,10 +271,11 @@ void filterConnection(FilterRun &run)
     const int w = run.width(), h = run.height();
     // The border of one pixel keeps its value: D holds the picture there already.
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = std::max(first, 1); y < std::min(last, h - 1); ++y) {
             const uint8_t *up = run.S.row(y - 1), *mid = run.S.row(y), *dn = run.S.row(y + 1);
             uint8_t *out = run.D.row(y);
-            for (int x = 1; x < w - 1; ++x)
+            for (int x = 1; x < width - 1; ++x)
                 for (int c = 0; c < 3; ++c) {
                     const int i = x * 4 + c;
                     const int lo = std::min({up[i - 4], up[i], up[i + 4], mid[i - 4], mid[i],
@@ -274,27 +319,28 @@ void filterDespeckle(FilterRun &run)
     }
     // Second pass: left and right; each row depends only on itself.
     run.rows([&](int first, int last) {
+        const int width = w;
         for (int y = first; y < last; ++y) {
             uint8_t *mid = run.D.row(y);
-            for (int x = 0; x < w; ++x) {
-                const int xm = std::max(x - 1, 0) * 4, x0 = x * 4, xp = std::min(x + 1, w - 1) * 4;
+            for (int x = 0; x < width; ++x) {
+                const int xm = std::max(x - 1, 0) * 4, x0 = x * 4, xp = std::min(x + 1, width - 1) * 4;
                 for (int c = 0; c < 3; ++c)
                     mid[x0 + c] = despeckleStep(mid[x0 + c], mid[xm + c], mid[xp + c]);
             }
         }
     }, 33, 33);
-    // Third pass: the upper left and lower right neighbours.
-    for (int y = 0; y < h; ++y) {
+    // Third pass: the upper left and lower right neighbours. A row reads the row above as
+    // already done and the row below as not yet done, so rows follow each other as a wavefront.
+    run.inPlaceRows([&](int y, int x0, int x1) {
         const uint8_t *up = run.D.row(std::max(y - 1, 0));
         uint8_t *mid = run.D.row(y);
         const uint8_t *dn = run.D.row(std::min(y + 1, h - 1));
-        for (int x = 0; x < w; ++x) {
-            const int xm = std::max(x - 1, 0) * 4, x0 = x * 4, xp = std::min(x + 1, w - 1) * 4;
+        for (int x = x0; x < x1; ++x) {
+            const int xm = std::max(x - 1, 0) * 4, xc = x * 4, xp = std::min(x + 1, w - 1) * 4;
             for (int c = 0; c < 3; ++c)
-                mid[x0 + c] = despeckleStep(mid[x0 + c], up[xm + c], dn[xp + c]);
+                mid[xc + c] = despeckleStep(mid[xc + c], up[xm + c], dn[xp + c]);
         }
-        run.rowDone(y, 66, 34);
-    }
+    }, 1, 66, 34);
 }
 
 } // namespace tf

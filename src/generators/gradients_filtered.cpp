@@ -70,7 +70,7 @@ void Create_GradientFrames(PaintContext &ctx)
         if (b > m / 2) b = m / 2;
     const auto [from, to] = plainPair(ctx);
     args.colours = {from, to};
-    args.keep = strength;
+    args.frame.keep = strength;
     patch_lastactionpaint(ctx.session);
 
     // The filter works on the work picture, a copy of the picture as it stands, and the

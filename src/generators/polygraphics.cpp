@@ -24,7 +24,7 @@ void paintBackgroundcolor(PaintContext &ctx)
         BitBlt(work.hDC(), 0, 0, w, h, &target.hDC(), 0, 0, SRCCOPY);
         FilterArgs mix;
         mix.colours[0] = colour;
-        mix.keep = ctx.opt.TranspLevel;
+        mix.sliders[0] = ctx.opt.TranspPercent;
         DoGraficFilters(ctx.session, 45, work.mutableImage(), mix);
         work.markChanged();
         BitBlt(target.hDC(), 0, 0, w, h, &work.hDC(), 0, 0, SRCCOPY);

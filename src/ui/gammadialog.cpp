@@ -4,6 +4,7 @@
 #include "filters/filtertable.h"
 #include "paint/session.h"
 #include "ui/colourfield.h"
+#include "ui/getstepsdialog.h"
 
 #include <QApplication>
 #include <QButtonGroup>
@@ -17,9 +18,11 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QSlider>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <cmath>
 
 namespace tf::ui {
 
@@ -41,7 +44,8 @@ QLabel *pictureLabel(QWidget *parent)
 } // namespace
 
 GammaDialog::GammaDialog(Session &session, const FilterRow &row, QWidget *parent)
-    : QDialog(parent), m_session(session), m_row(row)
+    : QDialog(parent), m_session(session), m_row(row),
+      m_zoom(QSize(1, 1), PreviewSide)
 {
     setObjectName(QStringLiteral("frmGamma"));
     setWindowTitle(row.dialogTitle());
@@ -60,11 +64,44 @@ GammaDialog::GammaDialog(Session &session, const FilterRow &row, QWidget *parent
     m_picOriginal->setObjectName(QStringLiteral("picOriginal"));
     m_picOriginal->setPixmap(QPixmap::fromImage(m_reduced));
     m_picOriginal->installEventFilter(this);
-    pictures->addWidget(m_picOriginal);
+    pictures->addWidget(m_picOriginal, 0, Qt::AlignTop);
     if (row.beforeAfter) {
+        m_zoom = PreviewZoom(original.size(), PreviewSide);
+        auto *after = new QGridLayout;
+        after->setSpacing(0);
         m_picPreview = pictureLabel(this);
         m_picPreview->setObjectName(QStringLiteral("picPreview"));
-        pictures->addWidget(m_picPreview);
+        after->addWidget(m_picPreview, 0, 0);
+        m_vScroll = new QScrollBar(Qt::Vertical, this);
+        m_vScroll->setObjectName(QStringLiteral("VScroll1"));
+        after->addWidget(m_vScroll, 0, 1);
+        m_hScroll = new QScrollBar(Qt::Horizontal, this);
+        m_hScroll->setObjectName(QStringLiteral("HScroll1"));
+        after->addWidget(m_hScroll, 1, 0);
+        for (QScrollBar *bar : {m_hScroll, m_vScroll})
+            connect(bar, &QScrollBar::valueChanged, this, [this] {
+                if (!m_ready) return;
+                m_zoom.setOffset(QPoint(m_hScroll->value(), m_vScroll->value()));
+                refreshSmallPreview();
+            });
+        auto *zoomRow = new QHBoxLayout;
+        m_zoomIn = new QPushButton(QStringLiteral("+"), this);
+        m_zoomIn->setObjectName(QStringLiteral("BtnZoom0"));
+        m_zoomIn->setToolTip(tr("Vergrößern"));
+        m_zoomOut = new QPushButton(QStringLiteral("-"), this);
+        m_zoomOut->setObjectName(QStringLiteral("BtnZoom1"));
+        m_zoomOut->setToolTip(tr("Verkleinern"));
+        for (QPushButton *b : {m_zoomIn, m_zoomOut}) {
+            b->setFixedWidth(32);
+            b->setAutoDefault(false);
+            zoomRow->addWidget(b);
+        }
+        zoomRow->addStretch();
+        connect(m_zoomIn, &QPushButton::clicked, this, [this] { zoomBy(true); });
+        connect(m_zoomOut, &QPushButton::clicked, this, [this] { zoomBy(false); });
+        after->addLayout(zoomRow, 2, 0, 1, 2);
+        pictures->addLayout(after);
+        updateScrollBars();
     }
     layout->addLayout(pictures);
     const Language lang = currentLanguage();
@@ -113,6 +150,9 @@ GammaDialog::GammaDialog(Session &session, const FilterRow &row, QWidget *parent
             const FilterSlider &sl = row.sliders[i];
             m_labels[i] = new QLabel(frScrolls);
             m_labels[i]->setMinimumWidth(150);
+            m_labels[i]->setObjectName(QStringLiteral("lblScroll%1").arg(i));
+            m_labels[i]->setToolTip(tr("Doppelklick: Wert eingeben"));
+            m_labels[i]->installEventFilter(this);
             auto *s = new QSlider(Qt::Horizontal, frScrolls);
             s->setObjectName(QStringLiteral("Scroll%1").arg(i));
             s->setRange(sl.min, sl.max);
@@ -228,8 +268,38 @@ void GammaDialog::updateLabels()
 void GammaDialog::refreshSmallPreview()
 {
     if (!m_picPreview) return;
-    m_previewImage = m_run->previewOf(m_reduced, values(), m_scale);
+    // The whole picture is previewed on the reduced copy; a zoomed view on its part alone.
+    m_previewImage = m_zoom.level() == 0 ? m_run->previewOf(m_reduced, values(), m_scale)
+                                         : previewPart(*m_run, m_run->original(), m_zoom, values());
     m_picPreview->setPixmap(QPixmap::fromImage(m_previewImage));
+}
+
+void GammaDialog::zoomBy(bool in)
+{
+    if (in) m_zoom.zoomIn();
+    else m_zoom.zoomOut();
+    updateScrollBars();
+    refreshSmallPreview();
+}
+
+void GammaDialog::updateScrollBars()
+{
+    const bool ready = m_ready;
+    m_ready = false; // moving the bars here is no move of the user's
+    const QPoint most = m_zoom.maxOffset();
+    m_hScroll->setRange(0, most.x());
+    m_vScroll->setRange(0, most.y());
+    m_hScroll->setPageStep(PreviewSide);
+    m_vScroll->setPageStep(PreviewSide);
+    m_hScroll->setSingleStep(PreviewSide / 10);
+    m_vScroll->setSingleStep(PreviewSide / 10);
+    m_hScroll->setValue(m_zoom.offset().x());
+    m_vScroll->setValue(m_zoom.offset().y());
+    m_hScroll->setEnabled(most.x() > 0);
+    m_vScroll->setEnabled(most.y() > 0);
+    m_zoomIn->setEnabled(m_zoom.canZoomIn());
+    m_zoomOut->setEnabled(m_zoom.canZoomOut());
+    m_ready = ready;
 }
 
 void GammaDialog::pickAt(const QPoint &xy)
@@ -244,8 +314,25 @@ void GammaDialog::pickAt(const QPoint &xy)
     refreshSmallPreview();
 }
 
+void GammaDialog::askSliderValue(int i)
+{
+    const FilterSlider &sl = m_row.sliders[size_t(i)];
+    // Gamma is typed as it is shown, value / 100.
+    const Single unit = sl.asGamma ? 0.01f : 1.0f;
+    GetStepsDialog d(sl.label(), Single(m_sliders[size_t(i)]->value()) * unit,
+                     Single(sl.min) * unit, Single(sl.max) * unit, unit, this);
+    if (d.exec() == QDialog::Accepted && !d.Cancelled())
+        m_sliders[size_t(i)]->setValue(int(std::lround(d.GD_Wert() / unit)));
+}
+
 bool GammaDialog::eventFilter(QObject *watched, QEvent *event)
 {
+    if (event->type() == QEvent::MouseButtonDblClick)
+        for (size_t i = 0; i < m_labels.size(); ++i)
+            if (watched == m_labels[i]) {
+                askSliderValue(int(i));
+                return true;
+            }
     if (watched == m_picOriginal && event->type() == QEvent::MouseButtonPress) {
         const QPoint p = static_cast<QMouseEvent *>(event)->position().toPoint();
         // The reduced picture stands in the middle of its label.

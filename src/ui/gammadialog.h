@@ -1,12 +1,14 @@
 #pragma once
 // frmGamma, the general filter dialog: the picture before and after (a reduced copy when the
 // picture is larger than the preview area), up to three sliders, two colour fields or the
-// channel mixer, a position prompt, and Vorschau / OK / Abbrechen. It is set up from the row
+// channel mixer, a position prompt, and Vorschau / OK / Abbrechen. The picture after zooms
+// with BtnZoom "+" and "-" and moves with its scroll bars (filters/previewzoom.h). It is set up from the row
 // of the filter table and drives a FilterDialogRun: the small preview follows every change at
 // once; "Vorschau" and OK compute the full result on the picture; Abbrechen gives the picture
 // back exactly.
 
 #include "filters/filterargs.h"
+#include "filters/previewzoom.h"
 
 #include <QDialog>
 #include <QImage>
@@ -15,7 +17,9 @@
 
 class QCheckBox;
 class QLabel;
+class QPushButton;
 class QRadioButton;
+class QScrollBar;
 class QSlider;
 
 namespace tf {
@@ -47,6 +51,11 @@ public:
     void cmdCancel();
     // The small preview as shown.
     QImage previewImage() const { return m_previewImage; }
+    // BtnZoom "+" and "-" and the scroll bars of the picture after; null where the dialog
+    // offers no picture after.
+    QPushButton *zoomButton(bool in) const { return in ? m_zoomIn : m_zoomOut; }
+    QScrollBar *scrollBar(Qt::Orientation o) const { return o == Qt::Horizontal ? m_hScroll : m_vScroll; }
+    const PreviewZoom &zoom() const { return m_zoom; }
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
@@ -56,6 +65,10 @@ private:
     void sliderChanged();
     void updateLabels();
     void refreshSmallPreview();
+    void zoomBy(bool in);
+    // frmGetSteps for slider i: its value typed exactly.
+    void askSliderValue(int i);
+    void updateScrollBars();
 
     Session &m_session;
     const FilterRow &m_row;
@@ -63,6 +76,7 @@ private:
     QImage m_reduced;
     double m_scale = 1.0;
     QImage m_previewImage;
+    PreviewZoom m_zoom;
     bool m_ready = false; // set-up finished: slider events count from now on
     bool m_previewed = false;
     bool m_cancelled = true;
@@ -70,6 +84,10 @@ private:
 
     QLabel *m_picOriginal = nullptr;
     QLabel *m_picPreview = nullptr;
+    QPushButton *m_zoomIn = nullptr;
+    QPushButton *m_zoomOut = nullptr;
+    QScrollBar *m_hScroll = nullptr;
+    QScrollBar *m_vScroll = nullptr;
     std::array<QSlider *, 3> m_sliders{};
     std::array<QLabel *, 3> m_labels{};
     std::array<ColourField *, 2> m_colours{};

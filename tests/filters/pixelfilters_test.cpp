@@ -236,3 +236,46 @@ TEST_F(PixelFilters, StretchSpreadsEachChannelOverTheWholeRange)
     EXPECT_EQ(rgb(out, 1, 0), (std::array<int, 3>{128, 128, 128})); // 127.5 -> 128
     EXPECT_EQ(rgb(out, 2, 0), (std::array<int, 3>{255, 255, 255}));
 }
+
+namespace {
+
+// The in-place 3 x 3 loop as written: y outer, x inner, neighbours clamped, reading D as it
+// is being written. `fn(centre, N)` gives a channel's new value.
+template <typename Fn> QImage plainInPlace(QImage img, Fn fn)
+{
+    const int w = img.width(), h = img.height();
+    for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x) {
+            const int xm = std::max(x - 1, 0), xp = std::min(x + 1, w - 1);
+            const int ym = std::max(y - 1, 0), yp = std::min(y + 1, h - 1);
+            const auto ch = [&](int px, int py, int c) { return (int(img.pixel(px, py)) >> (8 * c)) & 255; };
+            QRgb out = img.pixel(x, y);
+            for (int c = 0; c < 3; ++c) {
+                const int n = ch(xm, ym, c) + ch(x, ym, c) + ch(xp, ym, c) + ch(xm, y, c) +
+                              ch(xp, y, c) + ch(xm, yp, c) + ch(x, yp, c) + ch(xp, yp, c);
+                const int v = std::clamp(fn(ch(x, y, c), n), 0, 255);
+                out = (out & ~(0xFFu << (8 * c))) | (uint32_t(v) << (8 * c));
+            }
+            img.setPixel(x, y, out);
+        }
+    return img;
+}
+
+} // namespace
+
+TEST_F(PixelFilters, InPlaceFiltersOverThreadsReadWhatThePlainLoopReads)
+{
+    // Rows follow each other over the threads in chunks of columns; every read must still see
+    // the neighbours above and to the left filtered and the others not, at the chunks' seams
+    // and at the picture's edges alike.
+    const QImage img = noisy(1100, 41);
+    for (int threads : {1, 2, 3}) {
+        s.filters().threads = threads;
+        EXPECT_EQ(run(1, img, 36), plainInPlace(img, [](int v, int n) { return (v * 60 - n * 2) / 44; }))
+            << threads;
+        EXPECT_EQ(run(1, img, 7), plainInPlace(img, [](int v, int n) { return (v * 31 - n * 2) / 15; }))
+            << threads;
+        EXPECT_EQ(run(3, img), plainInPlace(img, [](int, int n) { return n / 8; })) << threads;
+        EXPECT_EQ(run(6, img), plainInPlace(img, [](int v, int n) { return v * 9 - n; })) << threads;
+    }
+}
