@@ -1,0 +1,142 @@
+// The records and discs: a long-playing record ("LP-…") or a compact disc ("CD-…") centred on
+// the picture, built from concentric circles: the outer disc at radius r, its rim at r - 2,
+// the edge of the grooves or of the data at r - 12, the label or hub, the hole and the ring
+// pressed round it at the hole's radius + 7 (at 712 pixels; all radii scale with the disc).
+// The grooves of a record catch the light in two opposite sectors; a compact disc shows its
+// rainbow there. The "cut out" forms lay ColorBack round the disc; "LP-RING-cut out" also
+// cuts out the label, leaving the grooved ring.
+#include "generators/figures.h"
+#include "generators/polygraphics.h"
+
+#include "core/picturebox.h"
+#include "paint/colourstate.h"
+#include "paint/painter.h"
+
+#include <QImage>
+#include <algorithm>
+#include <cmath>
+
+namespace tf {
+
+using namespace fig;
+
+namespace {
+
+enum class Disc { LP, CD, CDColored };
+
+struct DiscShape {
+    Disc kind = Disc::LP;
+    bool cutOut = false;
+    bool ringOnly = false;
+};
+
+QRgb toRgb(ColorLong c) { return qRgb(RedOf(c), GreenOf(c), BlueOf(c)); }
+
+// Lightens (or, for the disc's rainbow, tints) the pixels between two radii by the light that
+// falls in two opposite sectors at angle `phi`.
+void sheen(PictureBox &pic, double cx, double cy, double inner, double outer, double phi,
+           bool rainbow)
+{
+    QImage &img = pic.mutableImage();
+    const int y0 = std::max(0, int(cy - outer)), y1 = std::min(img.height() - 1, int(cy + outer));
+    const int x0 = std::max(0, int(cx - outer)), x1 = std::min(img.width() - 1, int(cx + outer));
+    for (int y = y0; y <= y1; ++y) {
+        auto *row = reinterpret_cast<QRgb *>(img.scanLine(y));
+        for (int x = x0; x <= x1; ++x) {
+            const double dx = x - cx, dy = y - cy;
+            const double d = std::hypot(dx, dy);
+            if (d < inner || d > outer) continue;
+            const double a = std::atan2(dy, dx);
+            const double light = std::pow(std::abs(std::cos(a - phi)), 10);
+            const QRgb p = row[x];
+            int r = qRed(p), g = qGreen(p), b = qBlue(p);
+            if (rainbow) {
+                // The hue turns with the angle and the radius, as the tracks split the light.
+                const double hue = std::fmod(a * 2 + d / outer * 4.0 + 12.0, 2 * Pi);
+                const double s = light * 0.75;
+                r = int(r * (1 - s) + s * (127.5 + 127.5 * std::cos(hue)));
+                g = int(g * (1 - s) + s * (127.5 + 127.5 * std::cos(hue - 2 * Pi / 3)));
+                b = int(b * (1 - s) + s * (127.5 + 127.5 * std::cos(hue + 2 * Pi / 3)));
+            } else {
+                const int add = int(70 * light);
+                r += add;
+                g += add;
+                b += add;
+            }
+            row[x] = qRgb(std::clamp(r, 0, 255), std::clamp(g, 0, 255), std::clamp(b, 0, 255));
+        }
+    }
+    pic.markChanged();
+}
+
+void paintDisc(PaintContext &ctx, DiscShape shape)
+{
+    begin(ctx, 2);
+    PictureBox &pic = ctx.XBild;
+    const int w = ctx.opt.W, h = ctx.opt.H;
+    const ColorLong back = ctx.colours().ColorBack;
+    const double cx = (w - 1) / 2.0, cy = (h - 1) / 2.0;
+    const double r = std::max(4.0, std::min(w, h) / 2.0 - std::max(2.0, std::min(w, h) / 80.0));
+    const double scale = r / 350.0;
+    const auto at = [&](double minus) { return std::max(1.0, r - minus * scale); };
+    ColorLong label = figureColour(ctx, 2);
+    if (label == NoColour) label = ctx.colours().ColorFore;
+    const ColorLong second = secondColour(ctx);
+    const double phi = rnd(ctx) * Pi;
+    pic.setDrawWidth(1);
+    if (shape.cutOut) box(pic, 0, 0, w - 1, h - 1, back, NoColour);
+
+    const double hole = std::max(1.5, 6 * scale);
+    if (shape.kind == Disc::LP) {
+        const double labelR = r * 0.34;
+        disc(pic, cx, cy, r, 0x101010, 0x2A2A2A);
+        pic.Circle(cx, cy, at(2), 0x3A3A3A);
+        // The grooves: fine rings every two pixels, a wider lighter gap between the tracks.
+        const double grooveTop = at(12);
+        const int tracks = 5 + int(Int(rnd(ctx) * 4));
+        const double trackW = (grooveTop - labelR * 1.08) / tracks;
+        for (double g = grooveTop; g > labelR * 1.08; g -= 2)
+            pic.Circle(cx, cy, g, int(g) % 4 < 2 ? 0x1C1C1C : 0x0C0C0C);
+        for (int t = 1; t < tracks; ++t)
+            pic.Circle(cx, cy, grooveTop - t * trackW, 0x2E2E2E);
+        sheen(pic, cx, cy, labelR * 1.08, grooveTop, phi, false);
+        if (shape.ringOnly) {
+            disc(pic, cx, cy, labelR, back, 0x2A2A2A);
+        } else {
+            disc(pic, cx, cy, labelR, label, blend(label, 0, 0.3));
+            pic.Circle(cx, cy, labelR * 0.9, blend(label, second, 0.5));
+            pic.Circle(cx, cy, hole + 7 * scale, blend(label, 0, 0.35));
+            disc(pic, cx, cy, hole, back, blend(back, 0, 0.3));
+        }
+    } else {
+        const double hub = r * 0.31, clear = r * 0.19, cdHole = r * 0.125;
+        disc(pic, cx, cy, r, 0xC8C8C8, 0x969696);
+        pic.Circle(cx, cy, at(2), 0xB4B4B4);
+        if (shape.kind == Disc::CDColored) {
+            // A printed face: rings from the label colour to the second one.
+            const double top = at(2);
+            for (double g = top; g > hub; g -= 1)
+                pic.Circle(cx, cy, g, blend(label, second, (top - g) / (top - hub)));
+            sheen(pic, cx, cy, hub, top, phi, false);
+        } else {
+            sheen(pic, cx, cy, hub, at(12), phi, true);
+            pic.Circle(cx, cy, at(12), 0xA0A0A0);
+        }
+        disc(pic, cx, cy, hub, 0xE0E0E0, 0xA8A8A8);
+        disc(pic, cx, cy, clear, 0xF0F0F0, 0xC0C0C0);
+        pic.Circle(cx, cy, cdHole + 7 * scale, 0xB0B0B0);
+        disc(pic, cx, cy, cdHole, back, 0x909090);
+    }
+    end(ctx);
+}
+
+} // namespace
+
+void paintLPBlack(PaintContext &ctx) { paintDisc(ctx, {Disc::LP, false, false}); }
+void paintLPCutOut(PaintContext &ctx) { paintDisc(ctx, {Disc::LP, true, false}); }
+void paintLPRingCutOut(PaintContext &ctx) { paintDisc(ctx, {Disc::LP, true, true}); }
+void paintCDStandard(PaintContext &ctx) { paintDisc(ctx, {Disc::CD, false, false}); }
+void paintCDColored(PaintContext &ctx) { paintDisc(ctx, {Disc::CDColored, false, false}); }
+void paintCDCutOut(PaintContext &ctx) { paintDisc(ctx, {Disc::CD, true, false}); }
+
+} // namespace tf
