@@ -21,9 +21,9 @@ class PictureBox;
 
 namespace fig {
 
-constexpr double Pi = 3.14159265358979323846; // 4 * Atn(1)
-constexpr double toDeg = 180.0 / Pi;
-constexpr double toRad = Pi / 180.0;
+// Pi itself is 4 * Atn(1) of core/numeric.h.
+inline const double toDeg = 180.0 / Pi;
+inline const double toRad = Pi / 180.0;
 
 // One draw of the session's generator, in double precision.
 double rnd(PaintContext &ctx);

@@ -153,8 +153,9 @@ void paintBitbltKacheln(PaintContext &ctx)
     BitBlt(dc, w - t, h - t, t, t, &copy.hDC(), 0, 0, SRCCOPY);
     BitBlt(dc, w - t, 0, t, t, &copy.hDC(), 0, h - t, SRCCOPY);
     BitBlt(dc, 0, h - t, t, t, &copy.hDC(), w - t, 0, SRCCOPY);
+    // Then n tiles moved at random; without random values NumberValue of them, none for 0.
     const int n = ctx.colours().RandomValues ? rounded(rnd(ctx) * 60) + 4
-                                             : std::max(1, int(ctx.opt.NumberValue));
+                                             : std::max(0, int(ctx.opt.NumberValue));
     for (int k = 1; k <= n; ++k) {
         const int sx = int(Int(rnd(ctx) * std::max(1, w - t + 1)));
         const int sy = int(Int(rnd(ctx) * std::max(1, h - t + 1)));

@@ -138,7 +138,7 @@ void bars(PaintContext &ctx, bool horizontal)
     PictureBox &pic = ctx.XBild;
     const int w = ctx.opt.W, h = ctx.opt.H;
     const int across = horizontal ? h : w;
-    std::vector<double> weights(size_t(n));
+    std::vector<double> weights(static_cast<size_t>(n));
     double sum = 0;
     for (double &v : weights) {
         v = rnd(ctx) * 3 + 0.4;

@@ -10,6 +10,7 @@
 
 #include "core/picturebox.h"
 #include "paint/colourstate.h"
+#include "paint/duocolortable.h"
 #include "paint/painter.h"
 
 #include <QImage>
@@ -30,7 +31,6 @@ struct DiscShape {
     bool ringOnly = false;
 };
 
-QRgb toRgb(ColorLong c) { return qRgb(RedOf(c), GreenOf(c), BlueOf(c)); }
 
 // Lightens (or, for the disc's rainbow, tints) the pixels between two radii by the light that
 // falls in two opposite sectors at angle `phi`.
