@@ -216,7 +216,8 @@ void Circle_Rosette(PaintContext &ctx)
     const bool randomValues = ctx.colours().RandomValues;
     const int n = countOf(ctx, randomValues ? rounded(rnd(ctx) * 200 / 3) + 1 : 0, 1);
     begin(ctx, n);
-    const int pins = 2 * std::min(n, 2000) + 60;
+    // Enough pins for the envelope of the threads to show as a smooth curve.
+    const int pins = 4 * std::min(n, 2000) + 120;
     const int factor = randomValues ? int(Int(rnd(ctx) * 8)) + 2
                                     : controlNumber(ctx, "txtRosetteFactor", -1, 2, 99);
     const auto [c1, c2] = curveColours(ctx, n);

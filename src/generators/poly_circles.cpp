@@ -108,7 +108,11 @@ void nested(PaintContext &ctx, Nest kind)
         double aspect = 1.0;
         switch (kind) {
         case Nest::Circles: break;
-        case Nest::Ellipses: aspect = flat + (1.0 - flat) * t; break;
+        case Nest::Ellipses:
+            // Flat ellipses as wide as needed to reach the top and bottom at first.
+            aspect = flat + (1.0 - flat) * t;
+            disc(pic, x, y, r / aspect, c, edge, aspect);
+            continue;
         case Nest::Kegel: {
             const double base = h * 0.88, apex = h * (0.06 + f * 0.2);
             const double rk = w * 0.48 * left;
@@ -171,7 +175,7 @@ void scatter(PaintContext &ctx, Scatter kind)
         case Scatter::Snow: {
             const double y = rnd(ctx) * h;
             const int r = rounded(rnd(ctx) * 5) + 1;
-            disc(pic, x, y, r, blend(c, 0xFFFFFF, 0.88), blend(c, 0xFFFFFF, 0.6));
+            disc(pic, x, y, r, blend(c, 0xFFFFFF, 0.82), blend(c, 0xFFFFFF, 0.3));
             break;
         }
         case Scatter::Confetti: {

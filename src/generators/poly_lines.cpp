@@ -29,12 +29,13 @@ void paintLinesQuarterarea(PaintContext &ctx)
     begin(ctx, n);
     const int w = ctx.opt.W, h = ctx.opt.H;
     const int pen = ctx.opt.PenWidth;
+    // One radius for each quarter circle, so the threads weave a smooth surface.
+    const double r1 = (rnd(ctx) * 0.5 + 0.5) * w;
+    const double r2 = (rnd(ctx) * 0.5 + 0.5) * h;
     for (int k = 1; k <= n; ++k) {
         const ColorLong c = figureColour(ctx, n);
         if (c == NoColour) continue;
         const double a = Pi / 2 * k / (n + 1);
-        const double r1 = (rnd(ctx) * 0.5 + 0.5) * w;
-        const double r2 = (rnd(ctx) * 0.5 + 0.5) * h;
         const double x1 = r1 * std::sin(a), y1 = r2 * std::cos(a);
         const double x2 = w - 1 - r1 * std::cos(a), y2 = h - 1 - r2 * std::sin(a);
         line(ctx, x1, y1, x2, y2, c, pen);
