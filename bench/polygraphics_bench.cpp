@@ -8,6 +8,7 @@
 #include "paint/session.h"
 #include "paint/transparency.h"
 
+#include <QGuiApplication>
 #include <benchmark/benchmark.h>
 #include <map>
 #include <memory>
@@ -73,6 +74,16 @@ void registerAll()
     }
 }
 
-const bool registered = (registerAll(), true);
-
 } // namespace
+
+// The matrix frame draws glyphs, which needs the application's fonts.
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication app(argc, argv);
+    registerAll();
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}

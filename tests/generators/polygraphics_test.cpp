@@ -89,12 +89,13 @@ TEST_F(PolyTest, EveryTypePaintsOnOddSizesWithTransparencyAndWithTheColourTables
     for (const auto &[w, h] : {std::pair{1, 1}, {3, 2}, {61, 37}}) {
         size(w, h);
         for (int variant = 0; variant < 4; ++variant) {
-            ColourState &c = s.colours();
-            c.RandomValues = variant != 1;
-            c.RandomColors = variant == 0;
-            c.XDuotones = {variant == 2, variant == 3};
             set("ScrollTransparence", variant == 1 ? "50" : "0");
             for (const char *key : polyKeys) {
+                // "Poly-Area" may switch the table off; every type starts from the variant.
+                ColourState &c = s.colours();
+                c.RandomValues = variant != 1;
+                c.RandomColors = variant == 0;
+                c.XDuotones = {variant == 2, variant == 3};
                 ASSERT_EQ(paint(key, uint32_t(7 + variant)), PaintOutcome::Painted)
                     << key << " " << w << "x" << h << " variant " << variant;
                 ASSERT_TRUE(prompter.asked().empty())
