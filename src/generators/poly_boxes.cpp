@@ -134,7 +134,9 @@ void paintTunnel(PaintContext &ctx)
         const double s = std::pow(1.0 - t, 1.6);
         const int x1 = rounded(vx - vx * s), y1 = rounded(vy - vy * s);
         const int x2 = rounded(vx + (w - 1 - vx) * s), y2 = rounded(vy + (h - 1 - vy) * s);
-        box(ctx.XBild, x1, y1, x2, y2, c, ctx.opt.UseBorders ? ctx.colours().ColorBorder : c);
+        // The edges in a darker shade of the ring: where the rings crowd near the vanishing
+        // point they deepen it instead of merging into one dark wedge.
+        box(ctx.XBild, x1, y1, x2, y2, c, ctx.opt.UseBorders ? blend(c, 0, 0.4) : c);
     }
     end(ctx);
 }

@@ -16,6 +16,7 @@
 #include <QImage>
 #include <algorithm>
 #include <cmath>
+#include <functional>
 
 namespace tf {
 
@@ -32,10 +33,13 @@ struct DiscShape {
 };
 
 
-// Lightens (or, for the disc's rainbow, tints) the pixels between two radii by the light that
-// falls in two opposite sectors at angle `phi`.
-void sheen(PictureBox &pic, double cx, double cy, double inner, double outer, double phi,
-           bool rainbow)
+// One pass over the pixels between two radii: each takes the colour `base` gives for its
+// distance from the centre (or keeps its own without one), lightened by the light that falls
+// in two opposite sectors at angle `phi`, or for a disc's rainbow tinted by a hue that turns
+// with the angle and the radius, as the tracks split the light. Fine rings are drawn this way
+// rather than circle by circle, which would cost a pass over the picture each.
+void radialPass(PictureBox &pic, double cx, double cy, double inner, double outer, double phi,
+                bool rainbow, const std::function<ColorLong(double)> &base)
 {
     QImage &img = pic.mutableImage();
     const int y0 = std::max(0, int(cy - outer)), y1 = std::min(img.height() - 1, int(cy + outer));
@@ -44,14 +48,24 @@ void sheen(PictureBox &pic, double cx, double cy, double inner, double outer, do
         auto *row = reinterpret_cast<QRgb *>(img.scanLine(y));
         for (int x = x0; x <= x1; ++x) {
             const double dx = x - cx, dy = y - cy;
-            const double d = std::hypot(dx, dy);
+            const double d = std::sqrt(dx * dx + dy * dy);
             if (d < inner || d > outer) continue;
             const double a = std::atan2(dy, dx);
-            const double light = std::pow(std::abs(std::cos(a - phi)), 10);
-            const QRgb p = row[x];
-            int r = qRed(p), g = qGreen(p), b = qBlue(p);
+            const double cs = std::cos(a - phi);
+            const double c2 = cs * cs, c4 = c2 * c2, c8 = c4 * c4;
+            const double light = c8 * c2; // |cos|^10: two narrow beams
+            int r, g, b;
+            if (base) {
+                const ColorLong c = base(d);
+                r = RedOf(c);
+                g = GreenOf(c);
+                b = BlueOf(c);
+            } else {
+                r = qRed(row[x]);
+                g = qGreen(row[x]);
+                b = qBlue(row[x]);
+            }
             if (rainbow) {
-                // The hue turns with the angle and the radius, as the tracks split the light.
                 const double hue = std::fmod(a * 2 + d / outer * 4.0 + 12.0, 2 * Pi);
                 const double s = light * 0.75;
                 r = int(r * (1 - s) + s * (127.5 + 127.5 * std::cos(hue)));
@@ -91,15 +105,20 @@ void paintDisc(PaintContext &ctx, DiscShape shape)
         const double labelR = r * 0.34;
         disc(pic, cx, cy, r, 0x101010, 0x2A2A2A);
         pic.Circle(cx, cy, at(2), 0x3A3A3A);
-        // The grooves: fine rings every two pixels, a wider lighter gap between the tracks.
+        // The grooves: fine rings two pixels apart, a wider lighter gap between the tracks.
         const double grooveTop = at(12);
         const int tracks = 5 + int(Int(rnd(ctx) * 4));
-        const double trackW = (grooveTop - labelR * 1.08) / tracks;
-        for (double g = grooveTop; g > labelR * 1.08; g -= 2)
-            pic.Circle(cx, cy, g, int(g) % 4 < 2 ? 0x1C1C1C : 0x0C0C0C);
-        for (int t = 1; t < tracks; ++t)
-            pic.Circle(cx, cy, grooveTop - t * trackW, 0x2E2E2E);
-        sheen(pic, cx, cy, labelR * 1.08, grooveTop, phi, false);
+        const double grooveEnd = labelR * 1.08;
+        const double trackW = (grooveTop - grooveEnd) / tracks;
+        const double gap = std::max(0.6, scale);
+        radialPass(pic, cx, cy, grooveEnd, grooveTop, phi, false, [&](double d) {
+            const double fromTop = grooveTop - d;
+            const double inTrack = std::fmod(fromTop, trackW);
+            if (fromTop > gap && (inTrack < gap || trackW - inTrack < gap * 0.5))
+                return ColorLong(0x2E2E2E);
+            return ColorLong(int(d) % 4 < 2 ? 0x1C1C1C : 0x0C0C0C);
+        });
+        pic.Circle(cx, cy, grooveTop, 0x242424);
         if (shape.ringOnly) {
             disc(pic, cx, cy, labelR, back, 0x2A2A2A);
         } else {
@@ -115,11 +134,11 @@ void paintDisc(PaintContext &ctx, DiscShape shape)
         if (shape.kind == Disc::CDColored) {
             // A printed face: rings from the label colour to the second one.
             const double top = at(2);
-            for (double g = top; g > hub; g -= 1)
-                pic.Circle(cx, cy, g, blend(label, second, (top - g) / (top - hub)));
-            sheen(pic, cx, cy, hub, top, phi, false);
+            radialPass(pic, cx, cy, hub, top, phi, false, [&](double d) {
+                return blend(label, second, (top - d) / (top - hub));
+            });
         } else {
-            sheen(pic, cx, cy, hub, at(12), phi, true);
+            radialPass(pic, cx, cy, hub, at(12), phi, true, nullptr);
             pic.Circle(cx, cy, at(12), 0xA0A0A0);
         }
         disc(pic, cx, cy, hub, 0xE0E0E0, 0xA8A8A8);
