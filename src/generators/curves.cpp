@@ -313,9 +313,12 @@ void paintPolyArea(PaintContext &ctx)
     const int fixedCorners = controlNumber(ctx, "txtPolyCorners", -1, 3, 24);
     const ColorLong outline = outlineColour(ctx);
     CurvePoints shape;
+    // Without random colours or a table the figures run from the fore to the back colour.
+    const bool ramp = !ctx.opt.UseDuoTable && !colours.RandomColors;
     for (int k = 1; k <= n; ++k) {
-        const ColorLong c = figureColour(ctx, n);
+        ColorLong c = figureColour(ctx, n);
         if (c == NoColour) continue;
+        if (ramp) c = blend(colours.ColorFore, colours.ColorBack, double(k - 1) / std::max(1, n - 1));
         const double cx = rnd(ctx) * w, cy = rnd(ctx) * h;
         const double r = rnd(ctx) * m / 5 + m / 30.0;
         const double turn = rnd(ctx) * 2 * Pi;
