@@ -23,7 +23,7 @@ int countOf(PaintContext &ctx, int random, int lower)
     return std::max(lower, int(ctx.opt.NumberValue));
 }
 
-void begin(PaintContext &ctx, int n)
+void begin(PaintContext &ctx, int n, int cols)
 {
     ctx.Bild_CLEAR();
     PictureBox &pic = ctx.XBild;
@@ -31,9 +31,11 @@ void begin(PaintContext &ctx, int n)
     pic.setDrawStyle(0);
     pic.setDrawWidth(std::max<int>(1, ctx.opt.PenWidth));
     pic.setForeColor(0);
-    if (ctx.opt.UseDuoTable)
-        Set_Duo_Colortable(ctx.session, 0, true, QStringLiteral("KachelMix"), 1,
-                           std::clamp(n, 1, 32000));
+    if (ctx.opt.UseDuoTable) {
+        cols = std::clamp(cols, 1, std::max(1, n));
+        Set_Duo_Colortable(ctx.session, 0, true, QStringLiteral("KachelMix"), cols,
+                           std::clamp(std::max(1, n) / cols, 1, 32000 / cols));
+    }
     Start_Transparent(ctx.session);
 }
 

@@ -34,8 +34,8 @@ int rounded(double x);
 int countOf(PaintContext &ctx, int random, int lower);
 
 // Bild_CLEAR and the pen, then with the table in force Set_Duo_Colortable(0, true,
-// "KachelMix", 1, n), then Start_Transparent.
-void begin(PaintContext &ctx, int n);
+// "KachelMix", cols, n / cols) (one column unless a grid is given), then Start_Transparent.
+void begin(PaintContext &ctx, int n, int cols = 1);
 // Ende_Transparent.
 void end(PaintContext &ctx);
 

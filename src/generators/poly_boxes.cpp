@@ -100,7 +100,7 @@ void paintKacheln(PaintContext &ctx)
     const int cols = (ctx.opt.W + t - 1) / t;
     const int rows = (ctx.opt.H + t - 1) / t;
     const int n = std::max(1, cols * rows);
-    begin(ctx, n);
+    begin(ctx, n, cols); // the table has the grid's size
     const ColourState &colours = ctx.colours();
     const bool chequer = !ctx.opt.UseDuoTable && !colours.RandomColors;
     for (int row = 0; row < rows; ++row) {

@@ -190,6 +190,11 @@ TEST_F(PolyTest, TheColourTableIsBuiltForTheRandomCount)
         // Cells 0..n: one column of n rows.
         EXPECT_EQ(int(s.colours().DuoColors.size()), n + 1) << seed;
     }
+    // The tiles take a table of their grid: 5 x 4 tiles of 8 pixels.
+    size(40, 32);
+    set("cmbKachelSize", "5");
+    ASSERT_EQ(paint("Kacheln"), PaintOutcome::Painted);
+    EXPECT_EQ(int(s.colours().DuoColors.size()), 5 * 4 + 1);
 }
 
 TEST_F(PolyTest, TilesAreChequeredInTheTwoColoursWithoutRandomColours)
