@@ -432,6 +432,166 @@
         <source>Wellenzüge</source>
         <translation>Wellenzüge</translation>
     </message>
+    <message>
+        <source>Kacheln</source>
+        <translation>Kacheln</translation>
+    </message>
+    <message>
+        <source>Kacheln je Bildbreite</source>
+        <translation>Kacheln je Bildbreite</translation>
+    </message>
+    <message>
+        <source>Ellipsen</source>
+        <translation>Ellipsen</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Kreise</source>
+        <translation>Kreise</translation>
+    </message>
+    <message>
+        <source>Gemischt</source>
+        <translation>Gemischt</translation>
+    </message>
+    <message>
+        <source>Vielecke und Sterne</source>
+        <translation>Vielecke und Sterne</translation>
+    </message>
+    <message>
+        <source>Figur</source>
+        <translation>Figur</translation>
+    </message>
+    <message>
+        <source>Vieleck</source>
+        <translation>Vieleck</translation>
+    </message>
+    <message>
+        <source>Stern</source>
+        <translation>Stern</translation>
+    </message>
+    <message>
+        <source>Ecken</source>
+        <translation>Ecken</translation>
+    </message>
+    <message>
+        <source>Farbmodus</source>
+        <translation>Farbmodus</translation>
+    </message>
+    <message>
+        <source>Einfache Farben</source>
+        <translation>Einfache Farben</translation>
+    </message>
+    <message>
+        <source>Farbtabelle zufällig</source>
+        <translation>Farbtabelle zufällig</translation>
+    </message>
+    <message>
+        <source>Farbtabelle aus zwei Farben</source>
+        <translation>Farbtabelle aus zwei Farben</translation>
+    </message>
+    <message>
+        <source>Lissajous-Figur</source>
+        <translation>Lissajous-Figur</translation>
+    </message>
+    <message>
+        <source>Frequenz waagrecht</source>
+        <translation>Frequenz waagrecht</translation>
+    </message>
+    <message>
+        <source>Frequenz senkrecht</source>
+        <translation>Frequenz senkrecht</translation>
+    </message>
+    <message>
+        <source>Rose</source>
+        <translation>Rose</translation>
+    </message>
+    <message>
+        <source>Zähler</source>
+        <translation>Zähler</translation>
+    </message>
+    <message>
+        <source>Nenner</source>
+        <translation>Nenner</translation>
+    </message>
+    <message>
+        <source>Fadenrosette</source>
+        <translation>Fadenrosette</translation>
+    </message>
+    <message>
+        <source>Faktor</source>
+        <translation>Faktor</translation>
+    </message>
+    <message>
+        <source>Interne Kacheln</source>
+        <translation>Interne Kacheln</translation>
+    </message>
+    <message>
+        <source>Kachel</source>
+        <translation>Kachel</translation>
+    </message>
+    <message>
+        <source>In den Malfarben</source>
+        <translation>In den Malfarben</translation>
+    </message>
+    <message>
+        <source>Matrix</source>
+        <translation>Matrix</translation>
+    </message>
+    <message>
+        <source>Zeichengröße</source>
+        <translation>Zeichengröße</translation>
+    </message>
+    <message>
+        <source>Geschwindigkeit</source>
+        <translation>Geschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Wellen</source>
+        <translation>Wellen</translation>
+    </message>
+    <message>
+        <source>Rauten</source>
+        <translation>Rauten</translation>
+    </message>
+    <message>
+        <source>Schuppen</source>
+        <translation>Schuppen</translation>
+    </message>
+    <message>
+        <source>Ziegel</source>
+        <translation>Ziegel</translation>
+    </message>
+    <message>
+        <source>Marmor</source>
+        <translation>Marmor</translation>
+    </message>
+    <message>
+        <source>Leinen</source>
+        <translation>Leinen</translation>
+    </message>
+    <message>
+        <source>Ringe</source>
+        <translation>Ringe</translation>
+    </message>
+    <message>
+        <source>Flechtwerk</source>
+        <translation>Flechtwerk</translation>
+    </message>
+    <message>
+        <source>Sterne</source>
+        <translation>Sterne</translation>
+    </message>
+    <message>
+        <source>Holz</source>
+        <translation>Holz</translation>
+    </message>
+    <message>
+        <source>Waben</source>
+        <translation>Waben</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

@@ -432,6 +432,166 @@
         <source>Wellenzüge</source>
         <translation>Wave trains</translation>
     </message>
+    <message>
+        <source>Kacheln</source>
+        <translation>Tiles</translation>
+    </message>
+    <message>
+        <source>Kacheln je Bildbreite</source>
+        <translation>Tiles across the picture</translation>
+    </message>
+    <message>
+        <source>Ellipsen</source>
+        <translation>Ellipses</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Shape</translation>
+    </message>
+    <message>
+        <source>Kreise</source>
+        <translation>Circles</translation>
+    </message>
+    <message>
+        <source>Gemischt</source>
+        <translation>Mixed</translation>
+    </message>
+    <message>
+        <source>Vielecke und Sterne</source>
+        <translation>Polygons and stars</translation>
+    </message>
+    <message>
+        <source>Figur</source>
+        <translation>Figure</translation>
+    </message>
+    <message>
+        <source>Vieleck</source>
+        <translation>Polygon</translation>
+    </message>
+    <message>
+        <source>Stern</source>
+        <translation>Star</translation>
+    </message>
+    <message>
+        <source>Ecken</source>
+        <translation>Corners</translation>
+    </message>
+    <message>
+        <source>Farbmodus</source>
+        <translation>Colour mode</translation>
+    </message>
+    <message>
+        <source>Einfache Farben</source>
+        <translation>Plain colours</translation>
+    </message>
+    <message>
+        <source>Farbtabelle zufällig</source>
+        <translation>Random colour table</translation>
+    </message>
+    <message>
+        <source>Farbtabelle aus zwei Farben</source>
+        <translation>Colour table from two colours</translation>
+    </message>
+    <message>
+        <source>Lissajous-Figur</source>
+        <translation>Lissajous figure</translation>
+    </message>
+    <message>
+        <source>Frequenz waagrecht</source>
+        <translation>Horizontal frequency</translation>
+    </message>
+    <message>
+        <source>Frequenz senkrecht</source>
+        <translation>Vertical frequency</translation>
+    </message>
+    <message>
+        <source>Rose</source>
+        <translation>Rose</translation>
+    </message>
+    <message>
+        <source>Zähler</source>
+        <translation>Numerator</translation>
+    </message>
+    <message>
+        <source>Nenner</source>
+        <translation>Denominator</translation>
+    </message>
+    <message>
+        <source>Fadenrosette</source>
+        <translation>Thread rosette</translation>
+    </message>
+    <message>
+        <source>Faktor</source>
+        <translation>Factor</translation>
+    </message>
+    <message>
+        <source>Interne Kacheln</source>
+        <translation>Internal tiles</translation>
+    </message>
+    <message>
+        <source>Kachel</source>
+        <translation>Tile</translation>
+    </message>
+    <message>
+        <source>In den Malfarben</source>
+        <translation>In the painting colours</translation>
+    </message>
+    <message>
+        <source>Matrix</source>
+        <translation>Matrix</translation>
+    </message>
+    <message>
+        <source>Zeichengröße</source>
+        <translation>Glyph size</translation>
+    </message>
+    <message>
+        <source>Geschwindigkeit</source>
+        <translation>Speed</translation>
+    </message>
+    <message>
+        <source>Wellen</source>
+        <translation>Waves</translation>
+    </message>
+    <message>
+        <source>Rauten</source>
+        <translation>Diamonds</translation>
+    </message>
+    <message>
+        <source>Schuppen</source>
+        <translation>Scales</translation>
+    </message>
+    <message>
+        <source>Ziegel</source>
+        <translation>Bricks</translation>
+    </message>
+    <message>
+        <source>Marmor</source>
+        <translation>Marble</translation>
+    </message>
+    <message>
+        <source>Leinen</source>
+        <translation>Linen</translation>
+    </message>
+    <message>
+        <source>Ringe</source>
+        <translation>Rings</translation>
+    </message>
+    <message>
+        <source>Flechtwerk</source>
+        <translation>Basketwork</translation>
+    </message>
+    <message>
+        <source>Sterne</source>
+        <translation>Stars</translation>
+    </message>
+    <message>
+        <source>Holz</source>
+        <translation>Wood</translation>
+    </message>
+    <message>
+        <source>Waben</source>
+        <translation>Honeycomb</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

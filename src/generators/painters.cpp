@@ -2,7 +2,11 @@
 
 #include "generators/gradientpanels.h"
 #include "generators/gradients.h"
+#include "generators/curves.h"
+#include "generators/matrixrain.h"
 #include "generators/polygraphics.h"
+#include "generators/polypanels.h"
+#include "generators/webtiles.h"
 #include "paint/grafdialogpanel.h"
 
 #include <array>
@@ -20,18 +24,18 @@ std::span<const PainterEntry> painterTable()
     static constexpr PainterEntry table[] = {
         // Group 1
         {"Backgroundcolor", paintBackgroundcolor, Prepare},
-        {"Boxes-Kreisradius", nullptr, Prepare},
-        {"Boxes-Randomized", nullptr, Prepare},
-        {"Squares-Randomized", nullptr, Prepare},
-        {"Kacheln", nullptr, Prepare},
-        {"Tunnel", nullptr, Prepare},
-        {"Lines-Quarterarea", nullptr, Prepare},
-        {"Lines-Polygonal", nullptr, Prepare},
-        {"Lines-Mikado", nullptr, Prepare},
-        {"Bitblt-Kacheln", nullptr, NoUndo},
-        {"Bitblt-Schmieren", nullptr, NoUndo},
+        {"Boxes-Kreisradius", paintBoxesKreisradius, Prepare},
+        {"Boxes-Randomized", paintBoxesRandomized, Prepare},
+        {"Squares-Randomized", paintSquaresRandomized, Prepare},
+        {"Kacheln", paintKacheln, Prepare},
+        {"Tunnel", paintTunnel, Prepare},
+        {"Lines-Quarterarea", paintLinesQuarterarea, Prepare},
+        {"Lines-Polygonal", paintLinesPolygonal, Prepare},
+        {"Lines-Mikado", paintLinesMikado, Prepare},
+        {"Bitblt-Kacheln", paintBitbltKacheln, NoUndo},
+        {"Bitblt-Schmieren", paintBitbltSchmieren, NoUndo},
         // Group 2
-        {"Filled-Triangles", nullptr, Prepare},
+        {"Filled-Triangles", paintFilledTriangles, Prepare},
         {"ART-Mondrian", nullptr, Prepare},
         {"ART-MondrianSuper", nullptr, Prepare},
         {"PIC-Mosaik", nullptr, Prepare},
@@ -41,35 +45,35 @@ std::span<const PainterEntry> painterTable()
         {"ART-Cathedral-LeadGlass", nullptr, Prepare},
         {"Photo-CUBE", nullptr, Prepare},
         {"Photo-CUBESuper", nullptr, Prepare},
-        {"Interne Kacheln", nullptr, Prepare},
+        {"Interne Kacheln", Create_Interne_Webtiles, Prepare},
         // Group 3
-        {"Poly-Elliptic", nullptr, Prepare},
-        {"Poly-Area", nullptr, Prepare},
-        {"Circles", nullptr, Prepare},
-        {"Circle-Ellipses", nullptr, Prepare},
-        {"Circle-Kegel", nullptr, Prepare},
-        {"Circle-Waves", nullptr, Prepare},
+        {"Poly-Elliptic", paintPolyElliptic, Prepare},
+        {"Poly-Area", paintPolyArea, Prepare},
+        {"Circles", paintCircles, Prepare},
+        {"Circle-Ellipses", paintCircleEllipses, Prepare},
+        {"Circle-Kegel", paintCircleKegel, Prepare},
+        {"Circle-Waves", paintCircleWaves, Prepare},
         {"Spiral", nullptr, Prepare},
         {"Twister", nullptr, Prepare},
-        {"Soap-Bubbles", nullptr, Prepare},
-        {"Black Rain", nullptr, Prepare},
-        {"Snow", nullptr, Prepare},
-        {"Confetti", nullptr, Prepare},
+        {"Soap-Bubbles", paintSoapBubbles, Prepare},
+        {"Black Rain", paintBlackRain, Prepare},
+        {"Snow", paintSnow, Prepare},
+        {"Confetti", paintConfetti, Prepare},
         // Group 4
         {"Plasma", nullptr, Prepare},
-        {"Lissajou", nullptr, Prepare},
-        {"LissaBand", nullptr, Prepare},
+        {"Lissajou", paintLissajou, Prepare},
+        {"LissaBand", paintLissaBand, Prepare},
         {"70th-Rotating", nullptr, Prepare},
         {"70th-Rotating-Crazy", nullptr, Prepare},
         {"Rosetta", nullptr, Prepare},
         {"Rosetta-Pixelized", nullptr, Prepare},
         {"Rosetta-Crazy", nullptr, Prepare},
         {"Rosetta-Pixelized-Crazy", nullptr, Prepare},
-        {"Thread-Rosette", nullptr, Prepare},
+        {"Thread-Rosette", Circle_Rosette, Prepare},
         {"Spirograph", nullptr, Prepare},
-        {"Squares-In-Square", nullptr, Prepare},
-        {"Rose", nullptr, Prepare},
-        {"Rose-Crazy", nullptr, Prepare},
+        {"Squares-In-Square", Draw_SQINSQ, Prepare},
+        {"Rose", paintRose, Prepare},
+        {"Rose-Crazy", paintRoseCrazy, Prepare},
         // Group 5
         {"H-Gradient", paintHGradient, Prepare},
         {"V-Gradient", paintVGradient, Prepare},
@@ -94,17 +98,17 @@ std::span<const PainterEntry> painterTable()
         {"H-GradientCrazy", paintHGradientCrazy, Prepare},
         {"V-GradientCrazy", paintVGradientCrazy, Prepare},
         // Group 6
-        {"Exchange Rates", nullptr, Prepare},
+        {"Exchange Rates", paintExchangeRates, Prepare},
         {"Mountains-Pen", nullptr, Prepare},
         {"Mountains", nullptr, Prepare},
-        {"Soundwaves", nullptr, Prepare},
-        {"Sinus", nullptr, Prepare},
-        {"Pulse", nullptr, Prepare},
-        {"Pulse-Sky", nullptr, Prepare},
-        {"Pulse-Ground", nullptr, Prepare},
-        {"Equalizer", nullptr, Prepare},
-        {"Horiz-Bars", nullptr, Prepare},
-        {"Vertic-Bars", nullptr, Prepare},
+        {"Soundwaves", paintSoundwaves, Prepare},
+        {"Sinus", paintSinus, Prepare},
+        {"Pulse", paintPulse, Prepare},
+        {"Pulse-Sky", paintPulseSky, Prepare},
+        {"Pulse-Ground", paintPulseGround, Prepare},
+        {"Equalizer", paintEqualizer, Prepare},
+        {"Horiz-Bars", paintHorizBars, Prepare},
+        {"Vertic-Bars", paintVerticBars, Prepare},
         // Group 7
         {"TEXT-Dialog", nullptr, Prepare},
         {"TEXT-Textblock", nullptr, Prepare},
@@ -114,7 +118,7 @@ std::span<const PainterEntry> painterTable()
         {"TEXT-StarRotated", nullptr, Prepare},
         {"TEXT-Circular", nullptr, Prepare},
         {"TEXT-Spiral", nullptr, Prepare},
-        {"The Matrix", nullptr, NoUndo},
+        {"The Matrix", paintTheMatrix, NoUndo},
         // Group 8
         {"A-Rahmen-Standard", nullptr, Prepare},
         {"I-Rahmen-Standard", nullptr, Prepare},
@@ -126,12 +130,12 @@ std::span<const PainterEntry> painterTable()
         {"Border-V-Dia positive", nullptr, Prepare},
         {"Border-Tiffany-Rect", nullptr, Prepare},
         // Group 9
-        {"LP-black", nullptr, Prepare},
-        {"LP-cut out", nullptr, Prepare},
-        {"LP-RING-cut out", nullptr, Prepare},
-        {"CD-standard", nullptr, Prepare},
-        {"CD-colored", nullptr, Prepare},
-        {"CD-cut out", nullptr, Prepare},
+        {"LP-black", paintLPBlack, Prepare},
+        {"LP-cut out", paintLPCutOut, Prepare},
+        {"LP-RING-cut out", paintLPRingCutOut, Prepare},
+        {"CD-standard", paintCDStandard, Prepare},
+        {"CD-colored", paintCDColored, Prepare},
+        {"CD-cut out", paintCDCutOut, Prepare},
         {"Forms-Cut out Squares", nullptr, Prepare},
         {"Forms-Cut out Areas", nullptr, Prepare},
         {"Forms-Cut out Rects", nullptr, Prepare},
@@ -149,6 +153,7 @@ void registerAllPanels()
     static const bool once = [] {
         registerPaintPanels();
         registerGradientPanels();
+        registerPolyPanels();
         return true;
     }();
     (void)once;

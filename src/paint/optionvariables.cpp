@@ -19,8 +19,8 @@ OptionVariables readOptionVariables(const Controls &c, int w, int h)
     o.UseCenter = c.checked(key("XCenter"));
     o.UseFill = c.checked(key("XFill"));
     o.UseFillWhite = c.checked(key("XFill_White"));
-    // The duo colour table comes with the colour dialog; until then figures take their
-    // colours from the colour state.
+    // Whether the figures take the colour table depends on the colour state, which the
+    // dispatcher sets after reading the controls.
     o.UseDuoTable = false;
     o.UseAntiAlias = c.checked(key("XAAlias"));
     o.TranspPercent = CInt(std::clamp(c.value(key("ScrollTransparence")), 0, 100));

@@ -2,6 +2,7 @@
 
 #include "core/fault.h"
 #include "paint/catalogue.h"
+#include "paint/colourstate.h"
 #include "paint/grafmenu.h"
 #include "paint/painter.h"
 #include "paint/session.h"
@@ -235,6 +236,8 @@ PaintOutcome Create_Polygraphics(Session &s)
             PaintContext ctx{
                 s, *t.XBild, *t.XUndo, *t.XWork,
                 readOptionVariables(s.controls(), t.XBild->Width(), t.XBild->Height())};
+            // The figures take the colour table when one of its two switches is set.
+            ctx.opt.UseDuoTable = s.colours().XDuotones[0] || s.colours().XDuotones[1];
             entry->paint(ctx);
         });
     }

@@ -13,6 +13,17 @@ std::span<const TypePanel> typePanels()
         {"Chromo-Steps", "feat_24Chromo"},
         {"Framegradient-Transp", "feat_25FrameGradient"},
         {"Frequenzgradient-Transp", "feat_26Frequenz"},
+        {"Kacheln", "feat_02Kacheln"},
+        {"Bitblt-Kacheln", "feat_02Kacheln"},
+        {"Poly-Elliptic", "feat_03PolyElliptic"},
+        {"Poly-Area", "feat_04PolyArea"},
+        {"Lissajou", "feat_05Lissajou"},
+        {"LissaBand", "feat_05Lissajou"},
+        {"Rose", "feat_06Rose"},
+        {"Rose-Crazy", "feat_06Rose"},
+        {"Thread-Rosette", "feat_07Rosette"},
+        {"Interne Kacheln", "feat_08InterneKacheln"},
+        {"The Matrix", "feat_09Matrix"},
     };
     return table;
 }

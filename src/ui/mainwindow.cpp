@@ -9,6 +9,7 @@
 #include "ui/filtermenu.h"
 #include "ui/grafdialogdock.h"
 #include "ui/idleguard.h"
+#include "ui/matrixwindow.h"
 #include "ui/pictureview.h"
 #include "ui/previewcache.h"
 #include "ui/statusbar.h"
@@ -120,6 +121,13 @@ void MainWindow::controlChanged(const ControlKey &key)
 void MainWindow::Handle_Formobjects()
 {
     m_featDialog->Handle_Formobjects();
+}
+
+bool MainWindow::openMatrixWindow(int glyph, int speed)
+{
+    auto *window = new MatrixWindow(glyph, speed, uint32_t(m_session.Rnd() * 16777216.0f) + 1);
+    window->showFullScreen();
+    return true;
 }
 
 template <typename Handler> void MainWindow::onTriggered(QAction *action, Handler handler)

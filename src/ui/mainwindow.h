@@ -84,6 +84,7 @@ private:
     void grafDialogChanged(GrafDialogState::Change change) override;
     void controlChanged(const ControlKey &key) override;
     void Handle_Formobjects() override;
+    bool openMatrixWindow(int glyph, int speed) override;
 
     void createActions();
     void createMenus();
