@@ -34,6 +34,14 @@ const char *const usage =
     "                         paint every type that paints into DIR (KEY.png each) and\n"
     "                         write DIR/index.html with the captions and command lines\n"
     "                         (default size 256x256, seed 1, all groups)\n"
+    "  passepartouts [--data FILE]\n"
+    "                         the stored passepartout sets: name, solid or gradient, and\n"
+    "                         width:#RRGGBB of frames 1 (at the picture) to 7 (closing)\n"
+    "  passepartout --set NAME IN -o OUT [--max-width N] [--max-height N]\n"
+    "               [--gradient on|off] [--data FILE]\n"
+    "                         paint the picture IN in the stored mat NAME (\"Standard\" is\n"
+    "                         built in), scaled down into the limits first (0: none); the\n"
+    "                         sets lie in tvlpassp.dat of the desktop program's work folder\n"
     "\n"
     "Options of paint:\n"
     "  -o, --output FILE      the picture to write; .png, .jpg or .bmp by its extension\n"
@@ -138,6 +146,8 @@ int run(int argc, char **argv)
         {QStringLiteral("filter"), runFilter},
         {QStringLiteral("recipe"), runRecipe},
         {QStringLiteral("gallery"), runGallery},
+        {QStringLiteral("passepartouts"), runPassepartouts},
+        {QStringLiteral("passepartout"), runPassepartout},
     };
     const auto it = commands.find(command);
     if (it == commands.end()) {

@@ -78,5 +78,7 @@ int runFilters(const QStringList &args);
 int runFilter(const QStringList &args);
 int runRecipe(const QStringList &args);
 int runGallery(const QStringList &args);
+int runPassepartouts(const QStringList &args);
+int runPassepartout(const QStringList &args);
 
 } // namespace tf::cli

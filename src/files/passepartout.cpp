@@ -69,8 +69,10 @@ QImage Draw_Passepartout(const QImage &picture, const PPRecord &set)
 {
     if (picture.isNull()) return {};
     const int border = set.border();
-    QImage out(picture.width() + 2 * border, picture.height() + 2 * border,
-               QImage::Format_RGB32);
+    const qint64 w = qint64(picture.width()) + 2 * border, h = qint64(picture.height()) + 2 * border;
+    if (w > MaxDecodeSide || h > MaxDecodeSide) return {};
+    QImage out(int(w), int(h), QImage::Format_RGB32);
+    if (out.isNull()) return {};
     int inset = 0;
     ColorLong before = 0;
     bool first = true;

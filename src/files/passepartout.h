@@ -10,6 +10,7 @@
 // own, so that every band ends on its own colour.
 
 #include "files/passepartoutfile.h"
+#include "files/picturelimits.h"
 
 #include <QImage>
 #include <QSize>
@@ -22,7 +23,8 @@ namespace tf {
 // Resample.
 QImage fitIntoLimits(const QImage &picture, int maxWidth, int maxHeight);
 
-// The picture in the mat of `set` (RGB32). A null picture gives a null image.
+// The picture in the mat of `set` (RGB32). A null picture, or a mat that would make a side
+// longer than MaxDecodeSide (14000), gives a null image.
 QImage Draw_Passepartout(const QImage &picture, const PPRecord &set);
 
 } // namespace tf

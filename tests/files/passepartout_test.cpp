@@ -1,6 +1,7 @@
 // The passepartout data file byte for byte, its refusals, and the mat drawn round a picture.
 #include "files/passepartout.h"
 #include "files/passepartoutfile.h"
+#include "files/passepartoutsets.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -224,4 +225,65 @@ TEST(Passepartout, ThePictureIsScaledDownIntoTheLimitsOnly)
     EXPECT_EQ(fitIntoLimits(pic, 1000, 1000).size(), QSize(400, 200));
     EXPECT_EQ(fitIntoLimits(pic, 0, 0).size(), QSize(400, 200));
     EXPECT_EQ(fitIntoLimits(pic, 100, 0).pixel(50, 25), qRgb(10, 20, 30));
+}
+
+TEST(PassepartoutSets, AMissingFileGivesTheNewEntryAndStandardRowsOnly)
+{
+    QTemporaryDir dir;
+    PassepartoutSets sets(ppDataPath(dir.path()));
+    EXPECT_EQ(sets.load().status, PPReadStatus::Missing);
+    EXPECT_EQ(sets.rows(), (QStringList{"<-- Neuer Eintrag -->", "+ Standard"}));
+    EXPECT_EQ(sets.recordOfRow(1), standardPassepartout());
+}
+
+TEST(PassepartoutSets, ApplyingChecksTheNameAndTheWidthsThenStoresSorted)
+{
+    QTemporaryDir dir;
+    PassepartoutSets sets(ppDataPath(dir.path()));
+    sets.load();
+    PPRecord f = set("  ", 5, 0x123456);
+    EXPECT_EQ(sets.apply(0, f).error, QStringLiteral("Geben Sie bitte einen Namen für das neue Set ein."));
+    f.name = QStringLiteral(" Zebra ");
+    f.width = {};
+    EXPECT_EQ(sets.apply(0, f).error, QStringLiteral("Sie haben keine Werte eingegeben!"));
+    f.width[6] = 2;
+    EXPECT_EQ(sets.apply(0, f).row, 2);
+    f.name = QStringLiteral("Affe");
+    EXPECT_EQ(sets.apply(1, f).row, 2); // the standard row stores a new set too
+    EXPECT_EQ(sets.rows(), (QStringList{"<-- Neuer Eintrag -->", "+ Standard", "Affe", "Zebra"}));
+    f.name = QStringLiteral("zebra");
+    EXPECT_EQ(sets.apply(0, f).error, QStringLiteral("Name existiert schon!"));
+    EXPECT_EQ(sets.apply(2, f).error, QStringLiteral("Name existiert schon!")); // renaming onto another
+    f.name = QString();
+    EXPECT_EQ(sets.apply(2, f).error, QStringLiteral("Geben Sie bitte einen Namen für das Set ein."));
+    f.name = QStringLiteral("Yak");
+    EXPECT_EQ(sets.apply(2, f).row, 2); // "Affe" renamed, sorted again
+    EXPECT_EQ(sets.rows().mid(2), (QStringList{"Yak", "Zebra"}));
+
+    // A deleted set leaves the list at once and the file at the save.
+    EXPECT_FALSE(sets.remove(1));
+    EXPECT_TRUE(sets.remove(3));
+    EXPECT_EQ(sets.rows().mid(2), (QStringList{"Yak"}));
+    EXPECT_EQ(sets.save().status, PassepartoutSets::SaveStatus::Saved);
+    const PPReadResult back = Read_PPData(sets.path());
+    ASSERT_EQ(back.table.size(), 1u);
+    EXPECT_EQ(back.table[0].name, QStringLiteral("Yak"));
+    EXPECT_EQ(back.table[0].width[6], 2);
+}
+
+TEST(PassepartoutSets, ARefusedFileIsOverwrittenOnlyWithConsent)
+{
+    QTemporaryDir dir;
+    const QString path = ppDataPath(dir.path());
+    writeBytes(path, "not a passepartout file");
+    PassepartoutSets sets(path);
+    EXPECT_EQ(sets.load().status, PPReadStatus::WrongFormat);
+    EXPECT_TRUE(sets.fileRefused());
+    EXPECT_TRUE(sets.apply(0, set("Neu", 3, 0)).ok());
+    const auto asked = sets.save();
+    EXPECT_EQ(asked.status, PassepartoutSets::SaveStatus::NeedsConsent);
+    EXPECT_TRUE(asked.message.startsWith(QStringLiteral("Die Datei ")));
+    EXPECT_EQ(bytesOf(path), QByteArray("not a passepartout file"));
+    EXPECT_EQ(sets.save(true).status, PassepartoutSets::SaveStatus::Saved);
+    EXPECT_TRUE(Read_PPData(path).read());
 }
