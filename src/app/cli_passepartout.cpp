@@ -19,8 +19,6 @@ namespace tf::cli {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("Cli", text); }
-
 QString defaultDataFile()
 {
     SettingsStore store;
@@ -56,7 +54,8 @@ QString setLine(const PPRecord &r)
 {
     QStringList frames;
     for (int k = 0; k < PPFrames; ++k)
-        frames << QStringLiteral("%1:%2").arg(r.width[size_t(k)]).arg(colourText(r.colour[size_t(k)]));
+        frames
+            << QStringLiteral("%1:%2").arg(r.width[size_t(k)]).arg(colourText(r.colour[size_t(k)]));
     return QStringLiteral("%1\t%2\t%3\n")
         .arg(r.name, r.gradient() ? QStringLiteral("gradient") : QStringLiteral("solid"),
              frames.join(QLatin1Char(' ')));
@@ -67,7 +66,9 @@ int limitOf(const QString &option, const QString &value)
     bool ok = false;
     const int v = value.toInt(&ok);
     if (!ok || v < 0 || v > 14000)
-        throw UsageError(tr("%1 erwartet eine Zahl von 0 bis 14000, nicht \"%2\"").arg(option, value));
+        throw UsageError(QCoreApplication::translate(
+                             "Cli", "%1 erwartet eine Zahl von 0 bis 14000, nicht \"%2\"")
+                             .arg(option, value));
     return v;
 }
 
@@ -82,7 +83,8 @@ int runPassepartouts(const QStringList &args)
         if (arg == QLatin1String("--data"))
             dataFile = a.valueOf(arg);
         else
-            throw UsageError(tr("Aufruf: tarvelle-forge passepartouts [--data DATEI]"));
+            throw UsageError(QCoreApplication::translate(
+                "Cli", "Aufruf: tarvelle-forge passepartouts [--data DATEI]"));
     }
     if (dataFile.isEmpty()) dataFile = defaultDataFile();
     PPTable table;
@@ -91,7 +93,8 @@ int runPassepartouts(const QStringList &args)
     PPRecord standard = standardPassepartout();
     standard.name = QStringLiteral("+ Standard");
     print(stdout, setLine(standard));
-    for (const PPRecord &r : table) print(stdout, setLine(r));
+    for (const PPRecord &r : table)
+        print(stdout, setLine(r));
     return ExitOk;
 }
 
@@ -116,15 +119,18 @@ int runPassepartout(const QStringList &args)
         else if (arg == QLatin1String("--gradient")) {
             const QString v = a.valueOf(arg);
             if (v != QLatin1String("on") && v != QLatin1String("off"))
-                throw UsageError(tr("--gradient erwartet on oder off, nicht \"%1\"").arg(v));
+                throw UsageError(QCoreApplication::translate(
+                                     "Cli", "--gradient erwartet on oder off, nicht \"%1\"")
+                                     .arg(v));
             gradient = v == QLatin1String("on");
         } else if (!arg.startsWith(QLatin1Char('-')) && input.isEmpty())
             input = arg;
         else
-            throw UsageError(tr("Unbekannte Angabe: %1").arg(arg));
+            throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Angabe: %1").arg(arg));
     }
     if (name.isEmpty() || input.isEmpty() || output.isEmpty())
-        throw UsageError(tr("Aufruf: tarvelle-forge passepartout --set NAME BILD -o AUSGABE"));
+        throw UsageError(QCoreApplication::translate(
+            "Cli", "Aufruf: tarvelle-forge passepartout --set NAME BILD -o AUSGABE"));
     if (dataFile.isEmpty()) dataFile = defaultDataFile();
 
     PPTable table;
@@ -135,8 +141,10 @@ int runPassepartout(const QStringList &args)
     else if (name == QLatin1String("Standard") || name == QLatin1String("+ Standard"))
         set = standardPassepartout();
     else {
-        printError(tr("Es gibt kein Passepartout \"%1\" (siehe tarvelle-forge passepartouts).")
-                       .arg(name));
+        printError(
+            QCoreApplication::translate(
+                "Cli", "Es gibt kein Passepartout \"%1\" (siehe tarvelle-forge passepartouts).")
+                .arg(name));
         return ExitFailed;
     }
     if (gradient) set.useGradient = *gradient ? -1 : 0;
@@ -149,7 +157,8 @@ int runPassepartout(const QStringList &args)
     }
     const QImage framed = Draw_Passepartout(fitIntoLimits(picture, maxW, maxH), set);
     if (framed.isNull()) {
-        printError(tr("Das Bild im Passepartout wäre größer als 14000 Pixel."));
+        printError(QCoreApplication::translate(
+            "Cli", "Das Bild im Passepartout wäre größer als 14000 Pixel."));
         return ExitFailed;
     }
     if (!writePictureForCommand(framed, output, PictureMeta{}, message)) {

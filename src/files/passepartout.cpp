@@ -69,7 +69,8 @@ QImage Draw_Passepartout(const QImage &picture, const PPRecord &set)
 {
     if (picture.isNull()) return {};
     const int border = set.border();
-    const qint64 w = qint64(picture.width()) + 2 * border, h = qint64(picture.height()) + 2 * border;
+    const qint64 w = qint64(picture.width()) + 2 * border,
+                 h = qint64(picture.height()) + 2 * border;
     if (w > MaxDecodeSide || h > MaxDecodeSide) return {};
     QImage out(int(w), int(h), QImage::Format_RGB32);
     if (out.isNull()) return {};

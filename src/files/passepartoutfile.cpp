@@ -63,7 +63,10 @@ template <typename T> void put(QByteArray &out, T value)
         out.append(char((v >> (8 * i)) & 0xFF));
 }
 
-bool written(const PPRecord &r) { return r.valid && !r.name.isEmpty(); }
+bool written(const PPRecord &r)
+{
+    return r.valid && !r.name.isEmpty();
+}
 
 QString wrongFormatText()
 {
@@ -147,8 +150,7 @@ PPReadResult parsePPData(const QByteArray &bytes)
         result.table.push_back(std::move(r));
     }
     if (in.remaining() != 0)
-        return damaged(QCoreApplication::translate("Passepartout",
-                                                   "%1 Bytes nach dem letzten Set")
+        return damaged(QCoreApplication::translate("Passepartout", "%1 Bytes nach dem letzten Set")
                            .arg(in.remaining()));
     result.status = PPReadStatus::Read;
     return result;
@@ -227,8 +229,7 @@ void Sort_PPData(PPTable &table)
 int findPassepartout(const PPTable &table, const QString &name)
 {
     for (size_t i = 0; i < table.size(); ++i)
-        if (table[i].valid && table[i].name.compare(name, Qt::CaseInsensitive) == 0)
-            return int(i);
+        if (table[i].valid && table[i].name.compare(name, Qt::CaseInsensitive) == 0) return int(i);
     return -1;
 }
 

@@ -37,13 +37,13 @@ inline constexpr char PPMagic[] = "PPData-Tvl25";
 
 struct PPRecord {
     QString name;
-    QString sortName;     // a copy of name, kept for the sort
-    int32_t index = 0;    // the record's number at read time (1 ...), 0 for a new set
-    bool valid = true;    // false: deleted, left out of the next file
+    QString sortName;        // a copy of name, kept for the sort
+    int32_t index = 0;       // the record's number at read time (1 ...), 0 for a new set
+    bool valid = true;       // false: deleted, left out of the next file
     int16_t useGradient = 0; // XUseGradient: -1 on, 0 off
     int16_t extra1 = 0, extra2 = 0;
     int32_t extra3 = 0, extra4 = 0;
-    std::array<int16_t, PPFrames> width{};   // frame widths in pixels, frame 1 first
+    std::array<int16_t, PPFrames> width{};    // frame widths in pixels, frame 1 first
     std::array<ColorLong, PPFrames> colour{}; // frame colours; colour[6] closes the mat
 
     bool gradient() const { return useGradient != 0; }

@@ -6,12 +6,6 @@
 
 namespace tf {
 
-namespace {
-
-QString tr(const char *text) { return QCoreApplication::translate("frmPassepGen", text); }
-
-} // namespace
-
 PPReadResult PassepartoutSets::load()
 {
     PPReadResult r = Read_PPData(m_path);
@@ -22,7 +16,8 @@ PPReadResult PassepartoutSets::load()
 
 QStringList PassepartoutSets::rows() const
 {
-    QStringList list{tr("<-- Neuer Eintrag -->"), QStringLiteral("+ Standard")};
+    QStringList list{QCoreApplication::translate("frmPassepGen", "<-- Neuer Eintrag -->"),
+                     QStringLiteral("+ Standard")};
     for (const PPRecord &r : m_table)
         if (r.valid) list << r.name;
     return list;
@@ -63,25 +58,29 @@ PassepartoutSets::Applied PassepartoutSets::apply(int row, const PPRecord &field
     const int index = recordIndexOfRow(row);
     const bool isNew = index < 0;
     if (isNew && name.isEmpty()) {
-        result.error = tr("Geben Sie bitte einen Namen für das neue Set ein.");
+        result.error = QCoreApplication::translate(
+            "frmPassepGen", "Geben Sie bitte einen Namen für das neue Set ein.");
         return result;
     }
     if (!isNew && name.isEmpty()) {
-        result.error = tr("Geben Sie bitte einen Namen für das Set ein.");
+        result.error = QCoreApplication::translate("frmPassepGen",
+                                                   "Geben Sie bitte einen Namen für das Set ein.");
         return result;
     }
     const int existing = findPassepartout(m_table, name);
     if (existing >= 0 && existing != index) {
-        result.error = tr("Name existiert schon!");
+        result.error = QCoreApplication::translate("frmPassepGen", "Name existiert schon!");
         return result;
     }
     if (!storableName(name) || name.size() > 32767) {
-        result.error = tr("Der Name kann so nicht gespeichert werden: erlaubt sind Buchstaben, "
-                          "Ziffern und Zeichen westeuropäischer Sprachen.");
+        result.error = QCoreApplication::translate(
+            "frmPassepGen", "Der Name kann so nicht gespeichert werden: erlaubt sind Buchstaben, "
+                            "Ziffern und Zeichen westeuropäischer Sprachen.");
         return result;
     }
     if (std::none_of(fields.width.begin(), fields.width.end(), [](int16_t w) { return w >= 1; })) {
-        result.error = tr("Sie haben keine Werte eingegeben!");
+        result.error =
+            QCoreApplication::translate("frmPassepGen", "Sie haben keine Werte eingegeben!");
         return result;
     }
     if (isNew) m_table.emplace_back();
@@ -110,8 +109,10 @@ PassepartoutSets::Saved PassepartoutSets::save(bool overwriteRefused)
     Saved s;
     if (m_refused && !overwriteRefused) {
         s.status = SaveStatus::NeedsConsent;
-        s.message = tr("Die Datei %1 enthält keine lesbaren Passepartouts. Soll sie durch die "
-                       "Sets dieses Fensters ersetzt werden?")
+        s.message = QCoreApplication::translate(
+                        "frmPassepGen",
+                        "Die Datei %1 enthält keine lesbaren Passepartouts. Soll sie durch die "
+                        "Sets dieses Fensters ersetzt werden?")
                         .arg(QDir::toNativeSeparators(m_path));
         return s;
     }

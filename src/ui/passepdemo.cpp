@@ -89,7 +89,8 @@ void PasseDemo::showPicture()
     }
     if (m_fit) {
         const QSize box = picWS->viewport()->size();
-        const QSize size = m_framed.size().scaled(box, Qt::KeepAspectRatio).boundedTo(m_framed.size());
+        const QSize size =
+            m_framed.size().scaled(box, Qt::KeepAspectRatio).boundedTo(m_framed.size());
         Picture1->setPixmap(QPixmap::fromImage(
             m_framed.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation)));
     } else {
@@ -134,8 +135,8 @@ void PasseDemo::Menu_SaveImage(int quality)
         QFileDialog dialog(this, tr("Bild speichern"));
         dialog.setAcceptMode(QFileDialog::AcceptSave);
         dialog.setOption(QFileDialog::DontConfirmOverwrite);
-        dialog.setNameFilters({QStringLiteral("JPG - JPEG - JFIF Compliant (*.jpg)"),
-                               tr("Alle Dateien (*)")});
+        dialog.setNameFilters(
+            {QStringLiteral("JPG - JPEG - JFIF Compliant (*.jpg)"), tr("Alle Dateien (*)")});
         dialog.setDefaultSuffix(QStringLiteral("jpg"));
         if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
         QString path = dialog.selectedFiles().constFirst();
@@ -162,7 +163,8 @@ void PasseDemo::Menu_SaveBMP()
         QString path = dialog.selectedFiles().constFirst();
         QString tag = saveTypeOfSuffix(path);
         if (tag != QLatin1String("PNG") && tag != QLatin1String("BMP")) {
-            tag = dialog.selectedNameFilter() == bmp ? QStringLiteral("BMP") : QStringLiteral("PNG");
+            tag =
+                dialog.selectedNameFilter() == bmp ? QStringLiteral("BMP") : QStringLiteral("PNG");
             path += tag == QLatin1String("BMP") ? QStringLiteral(".bmp") : QStringLiteral(".png");
         }
         saveTo(path, tag);

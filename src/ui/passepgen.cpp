@@ -57,9 +57,9 @@ PassepGen::PassepGen(Session &session, const QString &dataFile, QWidget *parent)
     grid->addWidget(new QLabel(tr("Breite")), 0, 1);
     grid->addWidget(new QLabel(tr("Farbe")), 0, 2);
     for (int k = 0; k < PPFrames; ++k) {
-        grid->addWidget(new QLabel(k == PPFrames - 1 ? tr("7 Abschlußfarbe")
-                                                     : tr("Rahmen %1").arg(k + 1)),
-                        k + 1, 0);
+        grid->addWidget(
+            new QLabel(k == PPFrames - 1 ? tr("7 Abschlußfarbe") : tr("Rahmen %1").arg(k + 1)),
+            k + 1, 0);
         txtW[size_t(k)] = new QSpinBox;
         txtW[size_t(k)]->setRange(0, 2000);
         txtW[size_t(k)]->setSuffix(tr(" px"));
@@ -68,7 +68,8 @@ PassepGen::PassepGen(Session &session, const QString &dataFile, QWidget *parent)
         picBColor[size_t(k)]->setToolTip(tr("Doppelklick: Farbe wählen"));
         grid->addWidget(picBColor[size_t(k)], k + 1, 2);
         connect(txtW[size_t(k)], &QSpinBox::valueChanged, this, [this] { updateFields(); });
-        connect(picBColor[size_t(k)], &ColourField::doubleClicked, this, [this, k] { chooseColour(k); });
+        connect(picBColor[size_t(k)], &ColourField::doubleClicked, this,
+                [this, k] { chooseColour(k); });
     }
     XUseGradient = new QCheckBox(tr("Farbverlauf zwischen den Rahmen"));
     grid->addWidget(XUseGradient, PPFrames + 1, 0, 1, 3);
@@ -206,9 +207,9 @@ void PassepGen::updateFields()
         picPreview->clear();
         return;
     }
-    picPreview->setPixmap(QPixmap::fromImage(
-        mat.scaled(QSize(PreviewBox - 8, PreviewBox - 8).boundedTo(mat.size()), Qt::KeepAspectRatio,
-                   Qt::SmoothTransformation)));
+    picPreview->setPixmap(
+        QPixmap::fromImage(mat.scaled(QSize(PreviewBox - 8, PreviewBox - 8).boundedTo(mat.size()),
+                                      Qt::KeepAspectRatio, Qt::SmoothTransformation)));
 }
 
 void PassepGen::chooseColour(int k)
@@ -250,9 +251,9 @@ void PassepGen::setPictureFile(const QString &path)
 
 void PassepGen::BtnCMDirDialog_Click()
 {
-    PSelectDialog dialog(m_session, tr("Bild laden"),
-                         m_pictureFile.isEmpty() ? QString() : QFileInfo(m_pictureFile).absolutePath(),
-                         true, this);
+    PSelectDialog dialog(
+        m_session, tr("Bild laden"),
+        m_pictureFile.isEmpty() ? QString() : QFileInfo(m_pictureFile).absolutePath(), true, this);
     if (dialog.exec() != QDialog::Accepted) return;
     const QString chosen = dialog.answer();
     if (!chosen.isEmpty() && chosen != QLatin1String("DIR")) setPictureFile(chosen);
@@ -288,7 +289,8 @@ void PassepGen::BtnDemo_Click()
         const QImage picture = demoPicture();
         if (picture.isNull()) return;
         PasseDemo demo(m_session.prompter(),
-                       int(m_session.controls().number(ControlKey{QStringLiteral("cmbDPI")})), this);
+                       int(m_session.controls().number(ControlKey{QStringLiteral("cmbDPI")})),
+                       this);
         demo.setPassepartout(fields());
         demo.new_PicHeight(txtNewSize[0]->currentText().toInt());
         demo.new_PicWidth(txtNewSize[1]->currentText().toInt());

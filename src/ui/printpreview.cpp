@@ -53,7 +53,8 @@ PicturePrintPreview::PicturePrintPreview(QPrinter *printer, PrintJob job, Prompt
     m_fit->setCheckable(true);
     m_fit->setChecked(m_job.fitToPage);
     m_fit->setToolTip(tr("Das Bild so groß drucken, wie die Seite erlaubt, statt in seiner "
-                         "Größe bei %1 dpi").arg(m_job.dpi));
+                         "Größe bei %1 dpi")
+                          .arg(m_job.dpi));
     if (auto *bar = findChild<QToolBar *>()) {
         bar->addSeparator();
         bar->addAction(m_fit);

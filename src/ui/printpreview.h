@@ -25,15 +25,15 @@ namespace tf::ui {
 
 struct PrintJob {
     QImage picture;
-    int dpi = 300;         // the picture's resolution; below 1 counts as 300
+    int dpi = 300; // the picture's resolution; below 1 counts as 300
     bool fitToPage = false;
-    QString title;         // the document's name in the print queue
+    QString title; // the document's name in the print queue
 };
 
 // Where the picture lands on a page whose printable area is `page`, in device pixels of a
 // device with `deviceDpiX` x `deviceDpiY` dots per inch.
-QRectF pictureRectOnPage(const QRectF &page, double deviceDpiX, double deviceDpiY,
-                         QSize pixels, int pictureDpi, bool fitToPage);
+QRectF pictureRectOnPage(const QRectF &page, double deviceDpiX, double deviceDpiY, QSize pixels,
+                         int pictureDpi, bool fitToPage);
 
 // Paints the job on one page of `device` (a printer, a PDF writer). False when the device
 // cannot be painted on.

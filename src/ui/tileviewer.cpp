@@ -84,7 +84,8 @@ TileViewer::TileViewer(Session &session, QWidget *parent) : QDialog(parent), m_s
     m_area->setMinimumSize(320, 240);
     layout->addWidget(m_area, 1);
 
-    connect(load, &QPushButton::clicked, this, whenIdle(m_session, [this] { emit loadTileRequested(); }));
+    connect(load, &QPushButton::clicked, this,
+            whenIdle(m_session, [this] { emit loadTileRequested(); }));
     connect(again, &QPushButton::clicked, this, whenIdle(m_session, [this] { refresh(); }));
     connect(edges, &QCheckBox::toggled, m_area, &TileArea::setShowEdges);
     connect(offset, &QCheckBox::toggled, m_area, &TileArea::setHalfOffset);

@@ -29,7 +29,8 @@ struct CliPassepartout : ::testing::Test {
         env.insert(QStringLiteral("XDG_DATA_HOME"), dir.filePath(QStringLiteral("data")));
         QProcess p;
         p.setProcessEnvironment(env);
-        p.start(QStringLiteral(TF_EXE), args + QStringList{QStringLiteral("--lang"), QStringLiteral("de")});
+        p.start(QStringLiteral(TF_EXE),
+                args + QStringList{QStringLiteral("--lang"), QStringLiteral("de")});
         EXPECT_TRUE(p.waitForFinished(60000));
         return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()),
                 QString::fromUtf8(p.readAllStandardError())};
@@ -49,25 +50,27 @@ TEST_F(CliPassepartout, ListsAndPaintsTheStoredSetsOfTheUsersDataFolder)
 
     const Run list = forge({QStringLiteral("passepartouts")});
     ASSERT_EQ(list.code, 0) << list.err.toStdString();
-    EXPECT_EQ(list.out,
-              QStringLiteral("+ Standard\tsolid\t3:#404040 56:#F0ECE0 0:#000000 0:#000000 0:#000000 "
-                             "0:#000000 4:#202020\n"
-                             "Rot\tsolid\t2:#FF0000 0:#000000 0:#000000 0:#000000 0:#000000 "
-                             "0:#000000 0:#000000\n"));
+    EXPECT_EQ(list.out, QStringLiteral(
+                            "+ Standard\tsolid\t3:#404040 56:#F0ECE0 0:#000000 0:#000000 0:#000000 "
+                            "0:#000000 4:#202020\n"
+                            "Rot\tsolid\t2:#FF0000 0:#000000 0:#000000 0:#000000 0:#000000 "
+                            "0:#000000 0:#000000\n"));
 
     QImage in(20, 10, QImage::Format_RGB32);
     in.fill(qRgb(0, 0, 255));
     ASSERT_TRUE(in.save(file("in.png")));
-    const Run paint = forge({QStringLiteral("passepartout"), QStringLiteral("--set"), QStringLiteral("rot"),
-                             file("in.png"), QStringLiteral("-o"), file("out.png")});
+    const Run paint =
+        forge({QStringLiteral("passepartout"), QStringLiteral("--set"), QStringLiteral("rot"),
+               file("in.png"), QStringLiteral("-o"), file("out.png")});
     ASSERT_EQ(paint.code, 0) << paint.err.toStdString();
     const QImage out(file("out.png"));
     ASSERT_EQ(out.size(), QSize(24, 14));
     EXPECT_EQ(out.pixel(0, 0), qRgb(255, 0, 0));
     EXPECT_EQ(out.pixel(2, 2), qRgb(0, 0, 255));
 
-    const Run missing = forge({QStringLiteral("passepartout"), QStringLiteral("--set"), QStringLiteral("Blau"),
-                               file("in.png"), QStringLiteral("-o"), file("x.png")});
+    const Run missing =
+        forge({QStringLiteral("passepartout"), QStringLiteral("--set"), QStringLiteral("Blau"),
+               file("in.png"), QStringLiteral("-o"), file("x.png")});
     EXPECT_EQ(missing.code, 1);
     EXPECT_TRUE(missing.err.contains(QStringLiteral("Es gibt kein Passepartout \"Blau\"")));
     EXPECT_FALSE(QFile::exists(file("x.png")));
@@ -79,7 +82,8 @@ TEST_F(CliPassepartout, AForeignDataFileEndsTheCommandAndStaysAsItWas)
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
     f.write("GIF89a");
     f.close();
-    const Run r = forge({QStringLiteral("passepartouts"), QStringLiteral("--data"), file("foreign.dat")});
+    const Run r =
+        forge({QStringLiteral("passepartouts"), QStringLiteral("--data"), file("foreign.dat")});
     EXPECT_EQ(r.code, 1);
     EXPECT_TRUE(r.err.contains(QStringLiteral("Falsches Dateiformat für Passepartouts.")));
     QFile again(file("foreign.dat"));

@@ -39,13 +39,13 @@ QByteArray handMadeFile()
 {
     QByteArray b;
     b.append("\x0c\x00", 2).append("PPData-Tvl25");
-    b.append("\x01\x00\x00\x00", 4);                  // N = 1
-    b.append("\x02\x00", 2).append("Ab");             // the name
-    b.append("\xff\xff", 2);                          // use gradient -1
-    b.append("\x05\x00", 2).append("\x06\x00", 2);    // extra 1, 2
+    b.append("\x01\x00\x00\x00", 4);                               // N = 1
+    b.append("\x02\x00", 2).append("Ab");                          // the name
+    b.append("\xff\xff", 2);                                       // use gradient -1
+    b.append("\x05\x00", 2).append("\x06\x00", 2);                 // extra 1, 2
     b.append("\x07\x00\x00\x00", 4).append("\x08\x00\x00\x00", 4); // extra 3, 4
     for (int k = 1; k <= 7; ++k) {
-        b.append(char(k * 10)).append('\0');          // width k*10
+        b.append(char(k * 10)).append('\0');                                  // width k*10
         b.append(char(k)).append(char(0x20)).append(char(0x30)).append('\0'); // colour
     }
     return b;
@@ -132,20 +132,25 @@ TEST(PassepartoutFile, AForeignOrDamagedFileIsRefusedWithItsReason)
     QByteArray noName = good;
     noName.replace(18, 2, QByteArray("\x00\x00", 2));
     const Case cases[] = {
-        {"empty", QByteArray(), PPReadStatus::WrongFormat, "Falsches Dateiformat für Passepartouts."},
-        {"foreign magic", foreign, PPReadStatus::WrongFormat, "Falsches Dateiformat für Passepartouts."},
+        {"empty", QByteArray(), PPReadStatus::WrongFormat,
+         "Falsches Dateiformat für Passepartouts."},
+        {"foreign magic", foreign, PPReadStatus::WrongFormat,
+         "Falsches Dateiformat für Passepartouts."},
         {"a picture", QByteArray("\x89PNG\r\n\x1a\n", 8), PPReadStatus::WrongFormat,
          "Falsches Dateiformat für Passepartouts."},
         {"no count", good.left(16), PPReadStatus::Damaged,
          "Die Passepartout-Datei ist beschädigt (die Anzahl fehlt). Sie bleibt, wie sie ist."},
         {"huge count", hugeCount, PPReadStatus::Damaged,
-         "Die Passepartout-Datei ist beschädigt (2147483647 Sets angegeben). Sie bleibt, wie sie ist."},
+         "Die Passepartout-Datei ist beschädigt (2147483647 Sets angegeben). Sie bleibt, wie sie "
+         "ist."},
         {"cut short", good.left(good.size() - 1), PPReadStatus::Damaged,
-         "Die Passepartout-Datei ist beschädigt (die Datei endet in Set 1). Sie bleibt, wie sie ist."},
+         "Die Passepartout-Datei ist beschädigt (die Datei endet in Set 1). Sie bleibt, wie sie "
+         "ist."},
         {"empty name", noName, PPReadStatus::Damaged,
          "Die Passepartout-Datei ist beschädigt (Set 1 ohne Namen). Sie bleibt, wie sie ist."},
         {"trailing bytes", good + "xyz", PPReadStatus::Damaged,
-         "Die Passepartout-Datei ist beschädigt (3 Bytes nach dem letzten Set). Sie bleibt, wie sie ist."},
+         "Die Passepartout-Datei ist beschädigt (3 Bytes nach dem letzten Set). Sie bleibt, wie "
+         "sie ist."},
     };
     for (const Case &c : cases) {
         const PPReadResult r = parsePPData(c.bytes);
@@ -167,7 +172,8 @@ TEST(PassepartoutFile, SortsByNameWithoutRegardToCase)
     PPTable t{set("beta", 1, 0), set("Alpha", 1, 0), set("Beta", 1, 0), set("gamma", 1, 0)};
     Sort_PPData(t);
     QStringList names;
-    for (const auto &r : t) names << r.name;
+    for (const auto &r : t)
+        names << r.name;
     EXPECT_EQ(names, (QStringList{"Alpha", "Beta", "beta", "gamma"}));
     EXPECT_EQ(findPassepartout(t, QStringLiteral("GAMMA")), 3);
     t[3].valid = false;
@@ -185,13 +191,13 @@ TEST(Passepartout, FramesLieFromTheOutermostInwardsAroundThePicture)
     r.colour = {RGB(255, 0, 0), RGB(0, 255, 0), RGB(1, 2, 3), 0, 0, 0, RGB(0, 0, 255)};
     const QImage out = Draw_Passepartout(pic, r);
     ASSERT_EQ(out.size(), QSize(4 + 8, 2 + 8));
-    EXPECT_EQ(out.pixel(0, 0), qRgb(0, 0, 255));  // frame 7, outermost
+    EXPECT_EQ(out.pixel(0, 0), qRgb(0, 0, 255)); // frame 7, outermost
     EXPECT_EQ(out.pixel(11, 9), qRgb(0, 0, 255));
-    EXPECT_EQ(out.pixel(1, 5), qRgb(0, 255, 0));  // frame 2
+    EXPECT_EQ(out.pixel(1, 5), qRgb(0, 255, 0)); // frame 2
     EXPECT_EQ(out.pixel(2, 2), qRgb(0, 255, 0));
-    EXPECT_EQ(out.pixel(3, 3), qRgb(255, 0, 0));  // frame 1, next to the picture
+    EXPECT_EQ(out.pixel(3, 3), qRgb(255, 0, 0)); // frame 1, next to the picture
     EXPECT_EQ(out.pixel(8, 6), qRgb(255, 0, 0));
-    EXPECT_EQ(out.pixel(4, 4), qRgb(9, 9, 9));    // the picture
+    EXPECT_EQ(out.pixel(4, 4), qRgb(9, 9, 9)); // the picture
     EXPECT_EQ(out.pixel(7, 5), qRgb(9, 9, 9));
 }
 
@@ -242,7 +248,8 @@ TEST(PassepartoutSets, ApplyingChecksTheNameAndTheWidthsThenStoresSorted)
     PassepartoutSets sets(ppDataPath(dir.path()));
     sets.load();
     PPRecord f = set("  ", 5, 0x123456);
-    EXPECT_EQ(sets.apply(0, f).error, QStringLiteral("Geben Sie bitte einen Namen für das neue Set ein."));
+    EXPECT_EQ(sets.apply(0, f).error,
+              QStringLiteral("Geben Sie bitte einen Namen für das neue Set ein."));
     f.name = QStringLiteral(" Zebra ");
     f.width = {};
     EXPECT_EQ(sets.apply(0, f).error, QStringLiteral("Sie haben keine Werte eingegeben!"));
@@ -253,9 +260,11 @@ TEST(PassepartoutSets, ApplyingChecksTheNameAndTheWidthsThenStoresSorted)
     EXPECT_EQ(sets.rows(), (QStringList{"<-- Neuer Eintrag -->", "+ Standard", "Affe", "Zebra"}));
     f.name = QStringLiteral("zebra");
     EXPECT_EQ(sets.apply(0, f).error, QStringLiteral("Name existiert schon!"));
-    EXPECT_EQ(sets.apply(2, f).error, QStringLiteral("Name existiert schon!")); // renaming onto another
+    EXPECT_EQ(sets.apply(2, f).error,
+              QStringLiteral("Name existiert schon!")); // renaming onto another
     f.name = QString();
-    EXPECT_EQ(sets.apply(2, f).error, QStringLiteral("Geben Sie bitte einen Namen für das Set ein."));
+    EXPECT_EQ(sets.apply(2, f).error,
+              QStringLiteral("Geben Sie bitte einen Namen für das Set ein."));
     f.name = QStringLiteral("Yak");
     EXPECT_EQ(sets.apply(2, f).row, 2); // "Affe" renamed, sorted again
     EXPECT_EQ(sets.rows().mid(2), (QStringList{"Yak", "Zebra"}));

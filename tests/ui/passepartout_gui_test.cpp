@@ -48,7 +48,8 @@ TEST_F(GenFixture, MakesRenamesAndDeletesSetsAndWritesThemOnOk)
         PPRecord r = gen.fields();
         EXPECT_TRUE(r.name.isEmpty());
         EXPECT_FALSE(gen.apply());
-        EXPECT_EQ(prompter.lastText(), QStringLiteral("Geben Sie bitte einen Namen für das neue Set ein."));
+        EXPECT_EQ(prompter.lastText(),
+                  QStringLiteral("Geben Sie bitte einen Namen für das neue Set ein."));
         r.name = QStringLiteral("Galerie");
         r.width = {5, 40, 0, 0, 0, 0, 2};
         r.colour = {RGB(0, 0, 0), RGB(250, 250, 240), 0, 0, 0, 0, RGB(90, 60, 30)};
@@ -124,7 +125,8 @@ TEST_F(GenFixture, TheDemoShowsThePictureInTheMatAndSavesIt)
     // An existing file is overwritten only after a Yes.
     prompter.script({Answer::No});
     EXPECT_FALSE(demo.saveTo(out, QStringLiteral("JPG"), 80));
-    EXPECT_EQ(prompter.lastText(), QStringLiteral("Soll die Datei %1 überschrieben werden?").arg(out));
+    EXPECT_EQ(prompter.lastText(),
+              QStringLiteral("Soll die Datei %1 überschrieben werden?").arg(out));
 }
 
 TEST(PrintPage, ThePictureTakesTheSizeItsDpiGivesCentredOnThePage)
