@@ -1,17 +1,14 @@
 // `passepartouts` and `passepartout` as the built program runs them.
-#include "files/passepartoutfile.h"
-
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-using namespace tf;
-
 namespace {
 
-struct Run {
+struct Outcome {
     int code = -1;
     QString out, err;
 };
@@ -20,7 +17,7 @@ struct CliPassepartout : ::testing::Test {
     QTemporaryDir dir;
     QString file(const char *name) const { return dir.filePath(QString::fromLatin1(name)); }
 
-    Run forge(const QStringList &args) const
+    Outcome forge(const QStringList &args) const
     {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
@@ -41,14 +38,18 @@ struct CliPassepartout : ::testing::Test {
 
 TEST_F(CliPassepartout, ListsAndPaintsTheStoredSetsOfTheUsersDataFolder)
 {
-    PPRecord r;
-    r.name = QStringLiteral("Rot");
-    r.width = {2, 0, 0, 0, 0, 0, 0};
-    r.colour = {RGB(255, 0, 0), 0, 0, 0, 0, 0, 0};
-    const QString data = ppDataPath(file("data/tarvelle-forge"));
-    ASSERT_TRUE(Write_PPData(data, {r}).ok());
+    // One set "Rot": frame 1 two pixels of red, no gradient, no other frame.
+    QByteArray bytes("\x0c\x00PPData-Tvl25\x01\x00\x00\x00\x03\x00Rot", 23);
+    bytes.append(14, '\0');
+    bytes.append("\x02\x00\xff\x00\x00\x00", 6);
+    bytes.append(36, '\0');
+    QDir().mkpath(file("data/tarvelle-forge"));
+    QFile data(file("data/tarvelle-forge/tvlpassp.dat"));
+    ASSERT_TRUE(data.open(QIODevice::WriteOnly));
+    data.write(bytes);
+    data.close();
 
-    const Run list = forge({QStringLiteral("passepartouts")});
+    const Outcome list = forge({QStringLiteral("passepartouts")});
     ASSERT_EQ(list.code, 0) << list.err.toStdString();
     EXPECT_EQ(list.out, QStringLiteral(
                             "+ Standard\tsolid\t3:#404040 56:#F0ECE0 0:#000000 0:#000000 0:#000000 "
@@ -59,7 +60,7 @@ TEST_F(CliPassepartout, ListsAndPaintsTheStoredSetsOfTheUsersDataFolder)
     QImage in(20, 10, QImage::Format_RGB32);
     in.fill(qRgb(0, 0, 255));
     ASSERT_TRUE(in.save(file("in.png")));
-    const Run paint =
+    const Outcome paint =
         forge({QStringLiteral("passepartout"), QStringLiteral("--set"), QStringLiteral("rot"),
                file("in.png"), QStringLiteral("-o"), file("out.png")});
     ASSERT_EQ(paint.code, 0) << paint.err.toStdString();
@@ -68,7 +69,7 @@ TEST_F(CliPassepartout, ListsAndPaintsTheStoredSetsOfTheUsersDataFolder)
     EXPECT_EQ(out.pixel(0, 0), qRgb(255, 0, 0));
     EXPECT_EQ(out.pixel(2, 2), qRgb(0, 0, 255));
 
-    const Run missing =
+    const Outcome missing =
         forge({QStringLiteral("passepartout"), QStringLiteral("--set"), QStringLiteral("Blau"),
                file("in.png"), QStringLiteral("-o"), file("x.png")});
     EXPECT_EQ(missing.code, 1);
@@ -82,13 +83,13 @@ TEST_F(CliPassepartout, AForeignDataFileEndsTheCommandAndStaysAsItWas)
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
     f.write("GIF89a");
     f.close();
-    const Run r =
+    const Outcome r =
         forge({QStringLiteral("passepartouts"), QStringLiteral("--data"), file("foreign.dat")});
     EXPECT_EQ(r.code, 1);
     EXPECT_TRUE(r.err.contains(QStringLiteral("Falsches Dateiformat für Passepartouts.")));
     QFile again(file("foreign.dat"));
     ASSERT_TRUE(again.open(QIODevice::ReadOnly));
     EXPECT_EQ(again.readAll(), QByteArray("GIF89a"));
-    const Run usage = forge({QStringLiteral("passepartout"), file("foreign.dat")});
+    const Outcome usage = forge({QStringLiteral("passepartout"), file("foreign.dat")});
     EXPECT_EQ(usage.code, 2);
 }
