@@ -79,6 +79,12 @@ void PasseDemo::showEvent(QShowEvent *event)
     if (m_framed.isNull()) paintMat();
 }
 
+void PasseDemo::resizeEvent(QResizeEvent *event)
+{
+    QDialog::resizeEvent(event);
+    if (m_fit) showPicture();
+}
+
 void PasseDemo::showPicture()
 {
     picWS->setWidgetResizable(m_fit);

@@ -84,6 +84,7 @@ PassepGen::PassepGen(Session &session, const QString &dataFile, QWidget *parent)
     left->addLayout(setButtons);
     connect(cmdApply, &QPushButton::clicked, this, [this] { apply(); });
     connect(cmdDelete, &QPushButton::clicked, this, [this] { deleteSet(); });
+    left->addStretch();
 
     auto *right = new QVBoxLayout;
     top->addLayout(right);

@@ -40,12 +40,15 @@ void TileArea::paintTiles(QPainter &p, const QRect &area) const
     const QPoint offset = m_offset ? QPoint(m_tile.width() / 2, m_tile.height() / 2) : QPoint();
     p.drawTiledPixmap(area, QPixmap::fromImage(m_tile), offset);
     if (!m_edges) return;
-    p.setPen(QPen(QColor(255, 0, 255), 1, Qt::DashLine));
+    // Black under white dashes: the edge shows on any picture.
     const int w = m_tile.width(), h = m_tile.height();
-    for (int x = (w - offset.x()) % w; x < area.width(); x += w)
-        p.drawLine(x, 0, x, area.height());
-    for (int y = (h - offset.y()) % h; y < area.height(); y += h)
-        p.drawLine(0, y, area.width(), y);
+    for (const QPen &pen : {QPen(Qt::black, 1), QPen(Qt::white, 1, Qt::DashLine)}) {
+        p.setPen(pen);
+        for (int x = (w - offset.x()) % w; x < area.width(); x += w)
+            p.drawLine(x, 0, x, area.height());
+        for (int y = (h - offset.y()) % h; y < area.height(); y += h)
+            p.drawLine(0, y, area.width(), y);
+    }
 }
 
 QImage TileArea::render(QSize size) const
