@@ -173,6 +173,34 @@
         <source>Das Umformen ist fehlgeschlagen.</source>
         <translation>Das Umformen ist fehlgeschlagen.</translation>
     </message>
+    <message>
+        <source>%1 erwartet eine Zahl von 0 bis 14000, nicht "%2"</source>
+        <translation>%1 erwartet eine Zahl von 0 bis 14000, nicht "%2"</translation>
+    </message>
+    <message>
+        <source>Aufruf: tarvelle-forge passepartouts [--data DATEI]</source>
+        <translation>Aufruf: tarvelle-forge passepartouts [--data DATEI]</translation>
+    </message>
+    <message>
+        <source>--gradient erwartet on oder off, nicht "%1"</source>
+        <translation>--gradient erwartet on oder off, nicht "%1"</translation>
+    </message>
+    <message>
+        <source>Unbekannte Angabe: %1</source>
+        <translation>Unbekannte Angabe: %1</translation>
+    </message>
+    <message>
+        <source>Aufruf: tarvelle-forge passepartout --set NAME BILD -o AUSGABE</source>
+        <translation>Aufruf: tarvelle-forge passepartout --set NAME BILD -o AUSGABE</translation>
+    </message>
+    <message>
+        <source>Es gibt kein Passepartout "%1" (siehe tarvelle-forge passepartouts).</source>
+        <translation>Es gibt kein Passepartout "%1" (siehe tarvelle-forge passepartouts).</translation>
+    </message>
+    <message>
+        <source>Das Bild im Passepartout wäre größer als 14000 Pixel.</source>
+        <translation>Das Bild im Passepartout wäre größer als 14000 Pixel.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -742,6 +770,41 @@
     </message>
 </context>
 <context>
+    <name>Passepartout</name>
+    <message>
+        <source>Falsches Dateiformat für Passepartouts.</source>
+        <translation>Falsches Dateiformat für Passepartouts.</translation>
+    </message>
+    <message>
+        <source>Die Passepartout-Datei ist beschädigt (%1). Sie bleibt, wie sie ist.</source>
+        <translation>Die Passepartout-Datei ist beschädigt (%1). Sie bleibt, wie sie ist.</translation>
+    </message>
+    <message>
+        <source>die Anzahl fehlt</source>
+        <translation>die Anzahl fehlt</translation>
+    </message>
+    <message>
+        <source>%1 Sets angegeben</source>
+        <translation>%1 Sets angegeben</translation>
+    </message>
+    <message>
+        <source>Set %1 ohne Namen</source>
+        <translation>Set %1 ohne Namen</translation>
+    </message>
+    <message>
+        <source>die Datei endet in Set %1</source>
+        <translation>die Datei endet in Set %1</translation>
+    </message>
+    <message>
+        <source>%1 Bytes nach dem letzten Set</source>
+        <translation>%1 Bytes nach dem letzten Set</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 kann nicht gelesen werden: %2</source>
+        <translation>Die Datei %1 kann nicht gelesen werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>PictureFormats</name>
     <message>
         <source>Freies Format ...</source>
@@ -1008,6 +1071,37 @@
     <message>
         <source>Das neue Verzeichnis %1 wurde erstellt.</source>
         <translation>Das neue Verzeichnis %1 wurde erstellt.</translation>
+    </message>
+</context>
+<context>
+    <name>frmPassepGen</name>
+    <message>
+        <source>&lt;-- Neuer Eintrag --&gt;</source>
+        <translation>&lt;-- Neuer Eintrag --&gt;</translation>
+    </message>
+    <message>
+        <source>Geben Sie bitte einen Namen für das neue Set ein.</source>
+        <translation>Geben Sie bitte einen Namen für das neue Set ein.</translation>
+    </message>
+    <message>
+        <source>Geben Sie bitte einen Namen für das Set ein.</source>
+        <translation>Geben Sie bitte einen Namen für das Set ein.</translation>
+    </message>
+    <message>
+        <source>Name existiert schon!</source>
+        <translation>Name existiert schon!</translation>
+    </message>
+    <message>
+        <source>Der Name kann so nicht gespeichert werden: erlaubt sind Buchstaben, Ziffern und Zeichen westeuropäischer Sprachen.</source>
+        <translation>Der Name kann so nicht gespeichert werden: erlaubt sind Buchstaben, Ziffern und Zeichen westeuropäischer Sprachen.</translation>
+    </message>
+    <message>
+        <source>Sie haben keine Werte eingegeben!</source>
+        <translation>Sie haben keine Werte eingegeben!</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 enthält keine lesbaren Passepartouts. Soll sie durch die Sets dieses Fensters ersetzt werden?</source>
+        <translation>Die Datei %1 enthält keine lesbaren Passepartouts. Soll sie durch die Sets dieses Fensters ersetzt werden?</translation>
     </message>
 </context>
 <context>
@@ -1313,10 +1407,6 @@
         <translation>Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert.</translation>
     </message>
     <message>
-        <source>Bild drucken</source>
-        <translation>Bild drucken</translation>
-    </message>
-    <message>
         <source>Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert. Wollen Sie trotzdem beenden?</source>
         <translation>Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert. Wollen Sie trotzdem beenden?</translation>
     </message>
@@ -1448,6 +1538,18 @@
         <source>Soll die Datei %1 überschrieben werden?</source>
         <translation>Soll die Datei %1 überschrieben werden?</translation>
     </message>
+    <message>
+        <source>&amp;Passepartouts...</source>
+        <translation>&amp;Passepartouts...</translation>
+    </message>
+    <message>
+        <source>Kachel&amp;ansicht...</source>
+        <translation>Kachel&amp;ansicht...</translation>
+    </message>
+    <message>
+        <source>Bild</source>
+        <translation>Bild</translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::OptionsDialog</name>
@@ -1572,6 +1674,148 @@
     </message>
 </context>
 <context>
+    <name>tf::ui::PasseDemo</name>
+    <message>
+        <source>Passepartout</source>
+        <translation>Passepartout</translation>
+    </message>
+    <message>
+        <source>&amp;Datei</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern als JPEG</source>
+        <translation>&amp;Speichern als JPEG</translation>
+    </message>
+    <message>
+        <source>Speichern andere For&amp;mate...</source>
+        <translation>Speichern andere For&amp;mate...</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>S&amp;chließen</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Das Bild im Passepartout wäre größer als 14000 Pixel. Geben Sie eine kleinere Max. Höhe oder Max. Breite an.</source>
+        <translation>Das Bild im Passepartout wäre größer als 14000 Pixel. Geben Sie eine kleinere Max. Höhe oder Max. Breite an.</translation>
+    </message>
+    <message>
+        <source>Soll die Datei %1 überschrieben werden?</source>
+        <translation>Soll die Datei %1 überschrieben werden?</translation>
+    </message>
+    <message>
+        <source>Bild speichern</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Alle Dateien (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::PassepGen</name>
+    <message>
+        <source>Passepartouts</source>
+        <translation>Passepartouts</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source> Rahmen (1 am Bild, 7 außen) </source>
+        <translation> Rahmen (1 am Bild, 7 außen) </translation>
+    </message>
+    <message>
+        <source>Breite</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>Farbe</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>7 Abschlußfarbe</source>
+        <translation>7 Abschlußfarbe</translation>
+    </message>
+    <message>
+        <source>Rahmen %1</source>
+        <translation>Rahmen %1</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Doppelklick: Farbe wählen</source>
+        <translation>Doppelklick: Farbe wählen</translation>
+    </message>
+    <message>
+        <source>Farbverlauf zwischen den Rahmen</source>
+        <translation>Farbverlauf zwischen den Rahmen</translation>
+    </message>
+    <message>
+        <source>Über&amp;nehmen</source>
+        <translation>Über&amp;nehmen</translation>
+    </message>
+    <message>
+        <source>&amp;Löschen</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source> Bild </source>
+        <translation> Bild </translation>
+    </message>
+    <message>
+        <source>Arbeitsbild verwenden</source>
+        <translation>Arbeitsbild verwenden</translation>
+    </message>
+    <message>
+        <source> Größenfenster anpassen </source>
+        <translation> Größenfenster anpassen </translation>
+    </message>
+    <message>
+        <source>Max. Höhe</source>
+        <translation>Max. Höhe</translation>
+    </message>
+    <message>
+        <source>Max. Breite</source>
+        <translation>Max. Breite</translation>
+    </message>
+    <message>
+        <source>0 = ohne Grenze</source>
+        <translation>0 = ohne Grenze</translation>
+    </message>
+    <message>
+        <source>Vorschau</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Bild laden</source>
+        <translation>Bild laden</translation>
+    </message>
+    <message>
+        <source>Wählen Sie bitte zuerst ein Bild aus!</source>
+        <translation>Wählen Sie bitte zuerst ein Bild aus!</translation>
+    </message>
+    <message>
+        <source>Verwenden Sie bitte den [...]-Befehl.</source>
+        <translation>Verwenden Sie bitte den [...]-Befehl.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 gibt es nicht.</source>
+        <translation>Die Datei %1 gibt es nicht.</translation>
+    </message>
+</context>
+<context>
     <name>tf::ui::PicImportDialog</name>
     <message>
         <source>Bild anpassen</source>
@@ -1592,6 +1836,25 @@
     <message>
         <source>Anti-Aliasing</source>
         <translation>Anti-Aliasing</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::PicturePrintPreview</name>
+    <message>
+        <source>Druckvorschau</source>
+        <translation>Druckvorschau</translation>
+    </message>
+    <message>
+        <source>An Seite anpassen</source>
+        <translation>An Seite anpassen</translation>
+    </message>
+    <message>
+        <source>Das Bild so groß drucken, wie die Seite erlaubt, statt in seiner Größe bei %1 dpi</source>
+        <translation>Das Bild so groß drucken, wie die Seite erlaubt, statt in seiner Größe bei %1 dpi</translation>
+    </message>
+    <message>
+        <source>Keine Druckausgabe möglich!</source>
+        <translation>Keine Druckausgabe möglich!</translation>
     </message>
 </context>
 <context>
@@ -1701,6 +1964,33 @@
     <message>
         <source>Systempaletten</source>
         <translation>Systempaletten</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::TileViewer</name>
+    <message>
+        <source>Kachelansicht</source>
+        <translation>Kachelansicht</translation>
+    </message>
+    <message>
+        <source>Kachel laden...</source>
+        <translation>Kachel laden...</translation>
+    </message>
+    <message>
+        <source>Arbeitsbild neu holen</source>
+        <translation>Arbeitsbild neu holen</translation>
+    </message>
+    <message>
+        <source>Kachelgrenzen</source>
+        <translation>Kachelgrenzen</translation>
+    </message>
+    <message>
+        <source>Versatz um eine halbe Kachel</source>
+        <translation>Versatz um eine halbe Kachel</translation>
+    </message>
+    <message>
+        <source>Kachel %1 x %2</source>
+        <translation>Kachel %1 x %2</translation>
     </message>
 </context>
 <context>

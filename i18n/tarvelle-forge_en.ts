@@ -173,6 +173,34 @@
         <source>Das Umformen ist fehlgeschlagen.</source>
         <translation>The transformation failed.</translation>
     </message>
+    <message>
+        <source>%1 erwartet eine Zahl von 0 bis 14000, nicht "%2"</source>
+        <translation>%1 expects a number from 0 to 14000, not "%2"</translation>
+    </message>
+    <message>
+        <source>Aufruf: tarvelle-forge passepartouts [--data DATEI]</source>
+        <translation>Usage: tarvelle-forge passepartouts [--data FILE]</translation>
+    </message>
+    <message>
+        <source>--gradient erwartet on oder off, nicht "%1"</source>
+        <translation>--gradient expects on or off, not "%1"</translation>
+    </message>
+    <message>
+        <source>Unbekannte Angabe: %1</source>
+        <translation>Unknown argument: %1</translation>
+    </message>
+    <message>
+        <source>Aufruf: tarvelle-forge passepartout --set NAME BILD -o AUSGABE</source>
+        <translation>Usage: tarvelle-forge passepartout --set NAME PICTURE -o OUTPUT</translation>
+    </message>
+    <message>
+        <source>Es gibt kein Passepartout "%1" (siehe tarvelle-forge passepartouts).</source>
+        <translation>There is no passepartout "%1" (see tarvelle-forge passepartouts).</translation>
+    </message>
+    <message>
+        <source>Das Bild im Passepartout wäre größer als 14000 Pixel.</source>
+        <translation>The picture in the passepartout would be larger than 14000 pixels.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -742,6 +770,41 @@
     </message>
 </context>
 <context>
+    <name>Passepartout</name>
+    <message>
+        <source>Falsches Dateiformat für Passepartouts.</source>
+        <translation>Wrong fileformat for passepartouts.</translation>
+    </message>
+    <message>
+        <source>Die Passepartout-Datei ist beschädigt (%1). Sie bleibt, wie sie ist.</source>
+        <translation>The passepartout file is damaged (%1). It is left as it is.</translation>
+    </message>
+    <message>
+        <source>die Anzahl fehlt</source>
+        <translation>the count is missing</translation>
+    </message>
+    <message>
+        <source>%1 Sets angegeben</source>
+        <translation>%1 sets declared</translation>
+    </message>
+    <message>
+        <source>Set %1 ohne Namen</source>
+        <translation>set %1 without a name</translation>
+    </message>
+    <message>
+        <source>die Datei endet in Set %1</source>
+        <translation>the file ends inside set %1</translation>
+    </message>
+    <message>
+        <source>%1 Bytes nach dem letzten Set</source>
+        <translation>%1 bytes after the last set</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 kann nicht gelesen werden: %2</source>
+        <translation>The file %1 cannot be read: %2</translation>
+    </message>
+</context>
+<context>
     <name>PictureFormats</name>
     <message>
         <source>Freies Format ...</source>
@@ -1008,6 +1071,37 @@
     <message>
         <source>Das neue Verzeichnis %1 wurde erstellt.</source>
         <translation>The new directory %1 was created.</translation>
+    </message>
+</context>
+<context>
+    <name>frmPassepGen</name>
+    <message>
+        <source>&lt;-- Neuer Eintrag --&gt;</source>
+        <translation>&lt;-- New entry --&gt;</translation>
+    </message>
+    <message>
+        <source>Geben Sie bitte einen Namen für das neue Set ein.</source>
+        <translation>Enter a name for the new set please.</translation>
+    </message>
+    <message>
+        <source>Geben Sie bitte einen Namen für das Set ein.</source>
+        <translation>Enter a name for the set please.</translation>
+    </message>
+    <message>
+        <source>Name existiert schon!</source>
+        <translation>Name is existing!</translation>
+    </message>
+    <message>
+        <source>Der Name kann so nicht gespeichert werden: erlaubt sind Buchstaben, Ziffern und Zeichen westeuropäischer Sprachen.</source>
+        <translation>The name cannot be stored like this: letters, digits and the characters of Western European languages are allowed.</translation>
+    </message>
+    <message>
+        <source>Sie haben keine Werte eingegeben!</source>
+        <translation>Please enter some values!</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 enthält keine lesbaren Passepartouts. Soll sie durch die Sets dieses Fensters ersetzt werden?</source>
+        <translation>The file %1 holds no readable passepartouts. Do you want to replace it with the sets of this window?</translation>
     </message>
 </context>
 <context>
@@ -1313,10 +1407,6 @@
         <translation>The picture has been changed and its current state has not been saved yet.</translation>
     </message>
     <message>
-        <source>Bild drucken</source>
-        <translation>Print picture</translation>
-    </message>
-    <message>
         <source>Das Bild wurde geändert und der aktuelle Stand noch nicht gesichert. Wollen Sie trotzdem beenden?</source>
         <translation>The picture has been changed and its current state has not been saved yet. Do you want to exit anyway?</translation>
     </message>
@@ -1448,6 +1538,18 @@
         <source>Soll die Datei %1 überschrieben werden?</source>
         <translation>Do you want to overwrite the file %1 ?</translation>
     </message>
+    <message>
+        <source>&amp;Passepartouts...</source>
+        <translation>&amp;Passe-partouts...</translation>
+    </message>
+    <message>
+        <source>Kachel&amp;ansicht...</source>
+        <translation>Tile &amp;viewer...</translation>
+    </message>
+    <message>
+        <source>Bild</source>
+        <translation>Picture</translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::OptionsDialog</name>
@@ -1572,6 +1674,148 @@
     </message>
 </context>
 <context>
+    <name>tf::ui::PasseDemo</name>
+    <message>
+        <source>Passepartout</source>
+        <translation>Passe-partout</translation>
+    </message>
+    <message>
+        <source>&amp;Datei</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern als JPEG</source>
+        <translation>&amp;Save as JPEG</translation>
+    </message>
+    <message>
+        <source>Speichern andere For&amp;mate...</source>
+        <translation>Save other for&amp;mats...</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>&amp;Print...</translation>
+    </message>
+    <message>
+        <source>S&amp;chließen</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Das Bild im Passepartout wäre größer als 14000 Pixel. Geben Sie eine kleinere Max. Höhe oder Max. Breite an.</source>
+        <translation>The picture in the passepartout would be larger than 14000 pixels. Enter a smaller max. height or max. width.</translation>
+    </message>
+    <message>
+        <source>Soll die Datei %1 überschrieben werden?</source>
+        <translation>Do you want to overwrite the file %1 ?</translation>
+    </message>
+    <message>
+        <source>Bild speichern</source>
+        <translation>Save picture</translation>
+    </message>
+    <message>
+        <source>Alle Dateien (*)</source>
+        <translation>All Files (*)</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::PassepGen</name>
+    <message>
+        <source>Passepartouts</source>
+        <translation>Passe-partouts</translation>
+    </message>
+    <message>
+        <source>Name:</source>
+        <translation>Name:</translation>
+    </message>
+    <message>
+        <source> Rahmen (1 am Bild, 7 außen) </source>
+        <translation> Frames (1 at the picture, 7 outside) </translation>
+    </message>
+    <message>
+        <source>Breite</source>
+        <translation>Width</translation>
+    </message>
+    <message>
+        <source>Farbe</source>
+        <translation>Colour</translation>
+    </message>
+    <message>
+        <source>7 Abschlußfarbe</source>
+        <translation>7 Closing colour</translation>
+    </message>
+    <message>
+        <source>Rahmen %1</source>
+        <translation>Frame %1</translation>
+    </message>
+    <message>
+        <source> px</source>
+        <translation> px</translation>
+    </message>
+    <message>
+        <source>Doppelklick: Farbe wählen</source>
+        <translation>Double click: choose a colour</translation>
+    </message>
+    <message>
+        <source>Farbverlauf zwischen den Rahmen</source>
+        <translation>Gradient between the frames</translation>
+    </message>
+    <message>
+        <source>Über&amp;nehmen</source>
+        <translation>&amp;Apply</translation>
+    </message>
+    <message>
+        <source>&amp;Löschen</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source> Bild </source>
+        <translation> Picture </translation>
+    </message>
+    <message>
+        <source>Arbeitsbild verwenden</source>
+        <translation>Use work picture</translation>
+    </message>
+    <message>
+        <source> Größenfenster anpassen </source>
+        <translation> Fit into size </translation>
+    </message>
+    <message>
+        <source>Max. Höhe</source>
+        <translation>Max. height</translation>
+    </message>
+    <message>
+        <source>Max. Breite</source>
+        <translation>Max. width</translation>
+    </message>
+    <message>
+        <source>0 = ohne Grenze</source>
+        <translation>0 = no limit</translation>
+    </message>
+    <message>
+        <source>Vorschau</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>Bild laden</source>
+        <translation>Load picture</translation>
+    </message>
+    <message>
+        <source>Wählen Sie bitte zuerst ein Bild aus!</source>
+        <translation>Please choose a picture first!</translation>
+    </message>
+    <message>
+        <source>Verwenden Sie bitte den [...]-Befehl.</source>
+        <translation>Please use the [...] command.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 gibt es nicht.</source>
+        <translation>The file %1 does not exist.</translation>
+    </message>
+</context>
+<context>
     <name>tf::ui::PicImportDialog</name>
     <message>
         <source>Bild anpassen</source>
@@ -1592,6 +1836,25 @@
     <message>
         <source>Anti-Aliasing</source>
         <translation>Anti-Aliasing</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::PicturePrintPreview</name>
+    <message>
+        <source>Druckvorschau</source>
+        <translation>Print preview</translation>
+    </message>
+    <message>
+        <source>An Seite anpassen</source>
+        <translation>Fit to page</translation>
+    </message>
+    <message>
+        <source>Das Bild so groß drucken, wie die Seite erlaubt, statt in seiner Größe bei %1 dpi</source>
+        <translation>Print the picture as large as the page allows instead of at its size at %1 dpi</translation>
+    </message>
+    <message>
+        <source>Keine Druckausgabe möglich!</source>
+        <translation>Unable to print!</translation>
     </message>
 </context>
 <context>
@@ -1701,6 +1964,33 @@
     <message>
         <source>Systempaletten</source>
         <translation>System palettes</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::TileViewer</name>
+    <message>
+        <source>Kachelansicht</source>
+        <translation>Tile viewer</translation>
+    </message>
+    <message>
+        <source>Kachel laden...</source>
+        <translation>Load tile...</translation>
+    </message>
+    <message>
+        <source>Arbeitsbild neu holen</source>
+        <translation>Take the work picture again</translation>
+    </message>
+    <message>
+        <source>Kachelgrenzen</source>
+        <translation>Tile edges</translation>
+    </message>
+    <message>
+        <source>Versatz um eine halbe Kachel</source>
+        <translation>Shift by half a tile</translation>
+    </message>
+    <message>
+        <source>Kachel %1 x %2</source>
+        <translation>Tile %1 x %2</translation>
     </message>
 </context>
 <context>

@@ -42,6 +42,14 @@ const char *const usage =
     "                         size WxH, canvas WxH, crop X,Y,W,H\n"
     "                         and on two pictures (IN now, --with the one before):\n"
     "                         depth-blur, depth-between, soft-blend, brightness-blend\n"
+    "  passepartouts [--data FILE]\n"
+    "                         the stored passepartout sets: name, solid or gradient, and\n"
+    "                         width:#RRGGBB of frames 1 (at the picture) to 7 (closing)\n"
+    "  passepartout --set NAME IN -o OUT [--max-width N] [--max-height N]\n"
+    "               [--gradient on|off] [--data FILE]\n"
+    "                         paint the picture IN in the stored mat NAME (\"Standard\" is\n"
+    "                         built in), scaled down into the limits first (0: none); the\n"
+    "                         sets lie in tvlpassp.dat of the desktop program's work folder\n"
     "\n"
     "Options of paint:\n"
     "  -o, --output FILE      the picture to write; .png, .jpg or .bmp by its extension\n"
@@ -159,6 +167,8 @@ int run(int argc, char **argv)
         {QStringLiteral("recipe"), runRecipe},
         {QStringLiteral("gallery"), runGallery},
         {QStringLiteral("transform"), runTransform},
+        {QStringLiteral("passepartouts"), runPassepartouts},
+        {QStringLiteral("passepartout"), runPassepartout},
     };
     const auto it = commands.find(command);
     if (it == commands.end()) {

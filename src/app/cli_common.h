@@ -79,5 +79,7 @@ int runFilter(const QStringList &args);
 int runRecipe(const QStringList &args);
 int runGallery(const QStringList &args);
 int runTransform(const QStringList &args);
+int runPassepartouts(const QStringList &args);
+int runPassepartout(const QStringList &args);
 
 } // namespace tf::cli

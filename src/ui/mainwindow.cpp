@@ -240,6 +240,10 @@ void MainWindow::createActions()
     tbDrucken = new QAction(this);
     tbDrucken->setShortcut(QKeySequence::Print);
     onTriggered(tbDrucken, [this] { printPicture(); });
+    mn_Passepartouts = new QAction(this);
+    onTriggered(mn_Passepartouts, [this] { showPassepartouts(); });
+    mn_Kachelansicht = new QAction(this);
+    onTriggered(mn_Kachelansicht, [this] { showTileViewer(); });
 }
 
 void MainWindow::createMenus()
@@ -261,6 +265,8 @@ void MainWindow::createMenus()
     m_fileMenu->addAction(mn_Restaurieren);
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(tbDrucken);
+    m_fileMenu->addAction(mn_Passepartouts);
+    m_fileMenu->addAction(mn_Kachelansicht);
     m_fileMenu->addSeparator();
     for (QAction *a : mn_File)
         m_fileMenu->addAction(a);
@@ -358,6 +364,8 @@ void MainWindow::retranslate()
     tbDefault->setText(tr("Default"));
     tbDefault->setToolTip(tr("Alle Optionen auf ihre Vorgaben setzen"));
     tbDrucken->setText(tr("Drucken"));
+    mn_Passepartouts->setText(tr("&Passepartouts..."));
+    mn_Kachelansicht->setText(tr("Kachel&ansicht..."));
     const int group = m_session.paint().GrafGroup;
     m_toolBar->setToolTip(groupLabel(group));
     Set_MDI_Caption();

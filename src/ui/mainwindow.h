@@ -35,6 +35,7 @@ class PictureView;
 class PreviewCache;
 struct SystemOptions;
 class StatusBarSink;
+class TileViewer;
 
 class MainWindow : public QMainWindow, private SessionView {
     Q_OBJECT
@@ -102,6 +103,10 @@ private:
     void chooseGroup(int group);
     void resetDefaults();
     void printPicture();
+    // mn_Passepartouts: the passepartout generator over tvlpassp.dat in TempDir.
+    void showPassepartouts();
+    // The tile viewer over the work picture (one window, raised again when open).
+    void showTileViewer();
     void paint();
     void roll(int index);
     void copyPictureToClipboard();
@@ -173,6 +178,9 @@ private:
     QActionGroup *m_groupActions = nullptr;
     QAction *tbDefault = nullptr;
     QAction *tbDrucken = nullptr;
+    QAction *mn_Passepartouts = nullptr;
+    QAction *mn_Kachelansicht = nullptr;
+    TileViewer *m_tileViewer = nullptr;
 };
 
 } // namespace tf::ui

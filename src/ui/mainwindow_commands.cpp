@@ -13,20 +13,23 @@
 #include "ui/featdialogdock.h"
 #include "ui/grafdialogdock.h"
 #include "ui/idleguard.h"
+#include "files/passepartoutfile.h"
+#include "ui/passepgen.h"
 #include "ui/pictureview.h"
+#include "ui/printpreview.h"
 #include "ui/sizedialog.h"
 #include "ui/statusbar.h"
 #include "ui/systempalettedialog.h"
+#include "ui/tileviewer.h"
 
 #include <QAction>
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <QPainter>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QTimer>
 #include <QToolBar>
 
@@ -209,20 +212,32 @@ void MainWindow::resetDefaults() { m_session.controls().resetToDefaults(); }
 
 void MainWindow::printPicture()
 {
-    QPrinter printer(QPrinter::HighResolution);
-    QPrintDialog dialog(&printer, this);
-    dialog.setWindowTitle(tr("Bild drucken"));
-    if (dialog.exec() != QDialog::Accepted)
-        return;
-    QPainter p(&printer);
-    const QImage &image = m_session.workspace().Bild.Image();
-    const QRect page = p.viewport();
-    QSize size = image.size();
-    size.scale(page.size(), Qt::KeepAspectRatio);
-    p.setViewport(page.x() + (page.width() - size.width()) / 2,
-                  page.y() + (page.height() - size.height()) / 2, size.width(), size.height());
-    p.setWindow(image.rect());
-    p.drawImage(0, 0, image);
+    PrintJob job;
+    job.picture = m_session.workspace().Bild.Image();
+    job.dpi = int(m_session.controls().number(ControlKey{QStringLiteral("cmbDPI")}));
+    job.title = m_fileName.isEmpty() ? tr("Bild") : QFileInfo(m_fileName).fileName();
+    printWithPreview(this, m_prompter, job);
+}
+
+void MainWindow::showPassepartouts()
+{
+    PassepGen generator(m_session, ppDataPath(m_session.workspace().TempDir()), this);
+    generator.exec();
+}
+
+void MainWindow::showTileViewer()
+{
+    if (!m_tileViewer) {
+        m_tileViewer = new TileViewer(m_session, this);
+        connect(m_tileViewer, &TileViewer::loadTileRequested, this, [this] {
+            Menu_LoadImage(3);
+            m_tileViewer->refresh();
+        });
+    }
+    m_tileViewer->refresh();
+    m_tileViewer->show();
+    m_tileViewer->raise();
+    m_tileViewer->activateWindow();
 }
 
 } // namespace tf::ui
