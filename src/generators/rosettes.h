@@ -24,3 +24,13 @@ struct RosetteRadii {
 RosetteRadii rosetteRadii(double rnd1, double rnd2, double rnd3);
 
 } // namespace tf
+
+namespace tf {
+
+// spirals.cpp: "Spiral" (one spiral and a disc at its heart), "Twister" (four spirals a
+// quarter turn apart).
+void Do_Spirals(PaintContext &ctx, bool twister);
+void paintSpiral(PaintContext &ctx);
+void paintTwister(PaintContext &ctx);
+
+} // namespace tf

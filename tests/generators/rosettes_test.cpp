@@ -88,7 +88,7 @@ struct RosetteTest : ::testing::Test {
 };
 
 const char *const rosetteKeys[] = {"Rosetta", "Rosetta-Pixelized", "Rosetta-Crazy",
-                                   "Rosetta-Pixelized-Crazy"};
+                                   "Rosetta-Pixelized-Crazy", "Spiral", "Twister"};
 
 TEST(RosetteRadiiTest, NeverZeroOrLess)
 {
