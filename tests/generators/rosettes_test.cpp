@@ -115,6 +115,7 @@ TEST_F(RosetteTest, EveryVariantPaintsWithAndWithoutTheColourTable)
         s.colours().XDuotones[0] = table;
         for (const char *key : rosetteKeys) {
             for (uint32_t seed : {1u, 7u, 99u}) {
+                ground();
                 ASSERT_EQ(paint(key, seed), PaintOutcome::Painted) << key;
                 EXPECT_GT(changedPixels(), 0) << key;
             }
@@ -129,6 +130,8 @@ TEST_F(RosetteTest, StopLeavesWhatIsPaintedAndShowsTheCaptions)
     ground();
     ASSERT_EQ(paint("Rosetta", 5), PaintOutcome::Painted);
     const int whole = changedPixels();
+    // The paint became the persistent picture: lay the plain ground again.
+    ground();
 
     CaptionLog log(s.paint().dialog);
     s.paint().dialog.setView(&log);
