@@ -6,6 +6,7 @@
 #include "generators/matrixrain.h"
 #include "generators/polygraphics.h"
 #include "generators/polypanels.h"
+#include "generators/rosettes.h"
 #include "generators/webtiles.h"
 #include "paint/grafdialogpanel.h"
 
@@ -53,8 +54,8 @@ std::span<const PainterEntry> painterTable()
         {"Circle-Ellipses", paintCircleEllipses, Prepare},
         {"Circle-Kegel", paintCircleKegel, Prepare},
         {"Circle-Waves", paintCircleWaves, Prepare},
-        {"Spiral", nullptr, Prepare},
-        {"Twister", nullptr, Prepare},
+        {"Spiral", paintSpiral, Prepare},
+        {"Twister", paintTwister, Prepare},
         {"Soap-Bubbles", paintSoapBubbles, Prepare},
         {"Black Rain", paintBlackRain, Prepare},
         {"Snow", paintSnow, Prepare},
@@ -65,10 +66,10 @@ std::span<const PainterEntry> painterTable()
         {"LissaBand", paintLissaBand, Prepare},
         {"70th-Rotating", nullptr, Prepare},
         {"70th-Rotating-Crazy", nullptr, Prepare},
-        {"Rosetta", nullptr, Prepare},
-        {"Rosetta-Pixelized", nullptr, Prepare},
-        {"Rosetta-Crazy", nullptr, Prepare},
-        {"Rosetta-Pixelized-Crazy", nullptr, Prepare},
+        {"Rosetta", paintRosetta, Prepare},
+        {"Rosetta-Pixelized", paintRosettaPixelized, Prepare},
+        {"Rosetta-Crazy", paintRosettaCrazy, Prepare},
+        {"Rosetta-Pixelized-Crazy", paintRosettaPixelizedCrazy, Prepare},
         {"Thread-Rosette", Circle_Rosette, Prepare},
         {"Spirograph", nullptr, Prepare},
         {"Squares-In-Square", Draw_SQINSQ, Prepare},
