@@ -620,6 +620,50 @@
         <source>Waben</source>
         <translation>Honeycomb</translation>
     </message>
+    <message>
+        <source>Rahmendicke A.</source>
+        <translation>Outer frame width</translation>
+    </message>
+    <message>
+        <source>Rahmenbreite I.</source>
+        <translation>Inner frame width</translation>
+    </message>
+    <message>
+        <source>Rahmenhöhe I.</source>
+        <translation>Inner frame height</translation>
+    </message>
+    <message>
+        <source>Trapeze</source>
+        <translation>Trapezes</translation>
+    </message>
+    <message>
+        <source>Ausschnitt</source>
+        <translation>Cut-out size</translation>
+    </message>
+    <message>
+        <source>Papiere</source>
+        <translation>Papers</translation>
+    </message>
+    <message>
+        <source>Winkel</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>Jalousie</source>
+        <translation>Venetian blind</translation>
+    </message>
+    <message>
+        <source>4 Farben</source>
+        <translation>4 colours</translation>
+    </message>
+    <message>
+        <source>Diagonal</source>
+        <translation>Diagonal</translation>
+    </message>
+    <message>
+        <source>Jalousie step 1-255</source>
+        <translation>Blind step 1-255</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
