@@ -186,6 +186,8 @@ void Create_Borders(PaintContext &ctx)
     if (ctx.opt.UseDuoTable)
         Set_Duo_Colortable(ctx.session, 0, true, QStringLiteral("DuoMLeadGlass"), 5, 5);
     Start_Transparent(ctx.session);
+    // Outlines of the figures are one pixel wide; the lines that take the pen say so.
+    pic.setDrawWidth(1);
     type->paint(ctx);
     pic.setDrawWidth(ctx.opt.PenWidth);
     end(ctx);

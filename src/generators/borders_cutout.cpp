@@ -2,7 +2,7 @@
 //
 // The forms cover the picture outside an opening in one colour: "Squares" an opening of two
 // centred boxes, one wide and one tall, whose union has notched corners, their inset by the
-// pen; "Areas" two overlapping centred circles. They fill row by row the spans outside the
+// pen and the size; "Areas" two overlapping centred circles. They fill row by row the spans outside the
 // opening, so the edge of the opening is exact at any size.
 //
 // "Forms-Cut out Rects" lays a grid of boxes of side a and gap c over the picture and keeps
@@ -78,10 +78,11 @@ void fillOutside(PictureBox &pic, int w, int h, const std::vector<Opening> &open
     pic.markChanged();
 }
 
-// The inset of the forms: four pens, held to a sixth of the smaller side.
+// The inset of the forms: a twelfth of the smaller side and four pens, held to a sixth of it.
 int formInset(PaintContext &ctx)
 {
-    return std::clamp(ctx.opt.PenWidth * 4, 1, std::max(1, std::min(ctx.opt.W, ctx.opt.H) / 6));
+    const int side = std::min(ctx.opt.W, ctx.opt.H);
+    return std::clamp(side / 12 + ctx.opt.PenWidth * 4, 1, std::max(1, side / 6));
 }
 
 int16_t advanceCutMode(PaintContext &ctx)
@@ -198,25 +199,24 @@ void paintBorderCutOut(PaintContext &ctx)
         const int fit = std::max(1, int(length / (2 * s)));
         return std::min(14, fit);
     };
-    int index = 0;
-    const auto put = [&](double x, double y, double inX, double inY) {
+    // "Mix" alternates along each edge, starting with a box.
+    const auto put = [&](int k, double x, double y, double inX, double inY) {
         const Notch kind = circles     ? Notch::Disc
                            : triangles ? Notch::Triangle
-                           : mix       ? (index % 2 == 0 ? Notch::Box : Notch::Disc)
+                           : mix       ? (k % 2 == 0 ? Notch::Box : Notch::Disc)
                                        : Notch::Box;
-        ++index;
         notch(ctx, kind, x + inX * in, y + inY * in, s, inX, inY, Lac);
     };
     const int across = count(w), down = count(h);
     for (int k = 0; k < across; ++k) {
         const double x = (k + 0.5) * w / across;
-        put(x, 0, 0, 1);
-        put(x, h - 1, 0, -1);
+        put(k, x, 0, 0, 1);
+        put(k, x, h - 1, 0, -1);
     }
     for (int k = 0; k < down; ++k) {
         const double y = (k + 0.5) * h / down;
-        put(0, y, 1, 0);
-        put(w - 1, y, -1, 0);
+        put(k, 0, y, 1, 0);
+        put(k, w - 1, y, -1, 0);
     }
 }
 

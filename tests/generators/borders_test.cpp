@@ -140,14 +140,15 @@ TEST_F(BordersTest, OuterAndInnerFramesLieWhereTheirThicknessSays)
 
 TEST_F(BordersTest, FormsCoverThePictureOutsideTheirOpening)
 {
-    set("cmbPen", QStringLiteral("2")); // an inset of 8
+    set("cmbPen", QStringLiteral("2")); // an inset of 100/12 + 8 = 16
     ASSERT_EQ(paint("Forms-Cut out Squares"), PaintOutcome::Painted);
     EXPECT_EQ(at(0, 0), Black);
-    EXPECT_EQ(at(9, 9), Black); // the notched corner
-    EXPECT_EQ(at(20, 10), White);
-    EXPECT_EQ(at(10, 20), White);
+    EXPECT_EQ(at(20, 20), Black); // the notched corner
+    EXPECT_EQ(at(40, 20), White);
+    EXPECT_EQ(at(20, 40), White);
     EXPECT_EQ(at(50, 50), White);
     EXPECT_EQ(at(99, 99), Black);
+    EXPECT_EQ(at(99, 50), Black);
 
     ASSERT_EQ(paint("Forms-Cut out Areas"), PaintOutcome::Painted);
     EXPECT_EQ(at(50, 50), White);
