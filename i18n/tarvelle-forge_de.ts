@@ -620,6 +620,50 @@
         <source>Waben</source>
         <translation>Waben</translation>
     </message>
+    <message>
+        <source>Rahmendicke A.</source>
+        <translation>Rahmendicke A.</translation>
+    </message>
+    <message>
+        <source>Rahmenbreite I.</source>
+        <translation>Rahmenbreite I.</translation>
+    </message>
+    <message>
+        <source>Rahmenhöhe I.</source>
+        <translation>Rahmenhöhe I.</translation>
+    </message>
+    <message>
+        <source>Trapeze</source>
+        <translation>Trapeze</translation>
+    </message>
+    <message>
+        <source>Ausschnitt</source>
+        <translation>Ausschnitt</translation>
+    </message>
+    <message>
+        <source>Papiere</source>
+        <translation>Papiere</translation>
+    </message>
+    <message>
+        <source>Winkel</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Jalousie</source>
+        <translation>Jalousie</translation>
+    </message>
+    <message>
+        <source>4 Farben</source>
+        <translation>4 Farben</translation>
+    </message>
+    <message>
+        <source>Diagonal</source>
+        <translation>Diagonal</translation>
+    </message>
+    <message>
+        <source>Jalousie step 1-255</source>
+        <translation>Jalousie step 1-255</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

@@ -2,8 +2,10 @@
 
 #include "generators/gradientpanels.h"
 #include "generators/gradients.h"
+#include "generators/borders.h"
 #include "generators/curves.h"
 #include "generators/matrixrain.h"
+#include "generators/papers.h"
 #include "generators/polygraphics.h"
 #include "generators/polypanels.h"
 #include "generators/rosettes.h"
@@ -95,7 +97,7 @@ std::span<const PainterEntry> painterTable()
         {"Randomized bars", paintRandomizedBars, Prepare},
         {"Random Lines", paintRandomLines, Prepare},
         {"Random Noise", paintRandomNoise, Prepare},
-        {"Jalousie", nullptr, Prepare},
+        {"Jalousie", Create_Jalousie, Prepare},
         {"H-GradientCrazy", paintHGradientCrazy, Prepare},
         {"V-GradientCrazy", paintVGradientCrazy, Prepare},
         // Group 6
@@ -121,14 +123,14 @@ std::span<const PainterEntry> painterTable()
         {"TEXT-Spiral", nullptr, Prepare},
         {"The Matrix", paintTheMatrix, NoUndo},
         // Group 8
-        {"A-Rahmen-Standard", nullptr, Prepare},
-        {"I-Rahmen-Standard", nullptr, Prepare},
-        {"I-Rahmen-Random", nullptr, Prepare},
-        {"Border-Cut out Squares", nullptr, Prepare},
-        {"Border-Cut out Triangles", nullptr, Prepare},
-        {"Border-Cut out Mix", nullptr, Prepare},
-        {"Border-Cut out Circles", nullptr, Prepare},
-        {"Border-V-Dia positive", nullptr, Prepare},
+        {"A-Rahmen-Standard", Create_Borders, Prepare},
+        {"I-Rahmen-Standard", Create_Borders, Prepare},
+        {"I-Rahmen-Random", Create_Borders, Prepare},
+        {"Border-Cut out Squares", Create_Borders, Prepare},
+        {"Border-Cut out Triangles", Create_Borders, Prepare},
+        {"Border-Cut out Mix", Create_Borders, Prepare},
+        {"Border-Cut out Circles", Create_Borders, Prepare},
+        {"Border-V-Dia positive", Create_Borders, Prepare},
         {"Border-Tiffany-Rect", nullptr, Prepare},
         // Group 9
         {"LP-black", paintLPBlack, Prepare},
@@ -137,13 +139,13 @@ std::span<const PainterEntry> painterTable()
         {"CD-standard", paintCDStandard, Prepare},
         {"CD-colored", paintCDColored, Prepare},
         {"CD-cut out", paintCDCutOut, Prepare},
-        {"Forms-Cut out Squares", nullptr, Prepare},
-        {"Forms-Cut out Areas", nullptr, Prepare},
-        {"Forms-Cut out Rects", nullptr, Prepare},
+        {"Forms-Cut out Squares", Create_Borders, Prepare},
+        {"Forms-Cut out Areas", Create_Borders, Prepare},
+        {"Forms-Cut out Rects", Create_Borders, Prepare},
         // Group 10
-        {"PAP-Lines", nullptr, Prepare},
-        {"PAP-Notes", nullptr, Prepare},
-        {"PAP-Karo", nullptr, Prepare},
+        {"PAP-Lines", Create_Papers, Prepare},
+        {"PAP-Notes", Create_Papers, Prepare},
+        {"PAP-Karo", Create_Papers, Prepare},
         {"Wave-Grid", nullptr, Prepare},
     };
     return table;
@@ -155,6 +157,8 @@ void registerAllPanels()
         registerPaintPanels();
         registerGradientPanels();
         registerPolyPanels();
+        registerPaperPanels();
+        registerFramePanels();
         return true;
     }();
     (void)once;

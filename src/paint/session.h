@@ -50,6 +50,7 @@ struct PaintState {
     bool Timer1 = false;                // the main window's animation timer runs
     GrafDialogState dialog;             // the Paint button's caption, the type list's row
     int progress2Max = 0;               // the second progress bar's range, 0 while hidden
+    int16_t CutMode = 0;                // the pattern of the cut-out borders, 0..2, one on each paint
 
     // The seed of the next paint; without one a paint takes a seed from the clock.
     std::optional<uint32_t> nextSeed;

@@ -24,6 +24,21 @@ std::span<const TypePanel> typePanels()
         {"Thread-Rosette", "feat_07Rosette"},
         {"Interne Kacheln", "feat_08InterneKacheln"},
         {"The Matrix", "feat_09Matrix"},
+        {"Jalousie", "feat_06Jalousie"},
+        {"PAP-Lines", "feat_08Papers"},
+        {"PAP-Notes", "feat_08Papers"},
+        {"PAP-Karo", "feat_08Papers"},
+        {"A-Rahmen-Standard", "feat_10Rahmen"},
+        {"I-Rahmen-Standard", "feat_10Rahmen"},
+        {"I-Rahmen-Random", "feat_10Rahmen"},
+        {"Border-Cut out Squares", "feat_10Rahmen"},
+        {"Border-Cut out Triangles", "feat_10Rahmen"},
+        {"Border-Cut out Mix", "feat_10Rahmen"},
+        {"Border-Cut out Circles", "feat_10Rahmen"},
+        {"Border-V-Dia positive", "feat_10Rahmen"},
+        {"Forms-Cut out Squares", "feat_10Rahmen"},
+        {"Forms-Cut out Areas", "feat_10Rahmen"},
+        {"Forms-Cut out Rects", "feat_10Rahmen"},
     };
     return table;
 }

@@ -237,7 +237,7 @@ TEST_F(GradientTest, EveryGradientTypePaintsWithRandomAndChosenColoursTransparen
         const PainterEntry *e = findPainter(painterTable(), QString::fromUtf8(row.key));
         if (e && e->paint) keys.push_back(QString::fromUtf8(row.key));
     }
-    ASSERT_EQ(keys.size(), 17u);
+    ASSERT_EQ(keys.size(), 18u);
     for (const QString &key : keys) {
         const QByteArray k = key.toUtf8();
         s.colours().RandomColors = true;
