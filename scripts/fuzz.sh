@@ -15,7 +15,6 @@ targets=("$@")
 [ ${#targets[@]} -eq 0 ] && targets=(png jpeg bmp gif jasc)
 build="${TF_FUZZ_BUILD:-$here/build-fuzz}"
 testdata="${TF_TESTDATA_DIR:-$here/../shared/testdata}"
-[ -d "$testdata" ] || testdata=/work/shared/testdata
 
 command -v clang++ >/dev/null || { echo "fuzz.sh: clang++ is needed (apt-get install clang)" >&2; exit 2; }
 if [ ! -f "$build/build.ninja" ]; then

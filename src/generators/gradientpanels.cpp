@@ -4,26 +4,6 @@
 
 namespace tf {
 
-namespace {
-
-ControlSpec control(const char *name, int index, ControlKind kind, const char *caption,
-                    const char *defaultValue, int min = 0, int max = -1,
-                    std::vector<const char *> items = {}, const char *unit = "")
-{
-    ControlSpec s;
-    s.key = ControlKey{QString::fromLatin1(name), index};
-    s.kind = kind;
-    s.caption = caption;
-    s.defaultValue = QString::fromLatin1(defaultValue);
-    s.min = min;
-    s.max = max;
-    s.items = std::move(items);
-    s.unit = unit;
-    return s;
-}
-
-} // namespace
-
 const ControlPanel &chromoPanel()
 {
     using K = ControlKind;
@@ -31,9 +11,9 @@ const ControlPanel &chromoPanel()
         QString::fromLatin1(ChromoPanelName),
         QT_TRANSLATE_NOOP("Controls", "Chromofilter"),
         {
-            control("scrollProzChromo", -1, K::Value, QT_TRANSLATE_NOOP("Controls", "Bandbreite"),
+            controlSpec("scrollProzChromo", -1, K::Value, QT_TRANSLATE_NOOP("Controls", "Bandbreite"),
                     "50", 0, 100, {}, " %"),
-            control("cmbOrientation", -1, K::ListIndex,
+            controlSpec("cmbOrientation", -1, K::ListIndex,
                     QT_TRANSLATE_NOOP("Controls", "Ausrichtung"), "0", 0, 3,
                     {QT_TRANSLATE_NOOP("Controls", "Oben"), QT_TRANSLATE_NOOP("Controls", "Unten"),
                      QT_TRANSLATE_NOOP("Controls", "Links"),
@@ -49,29 +29,29 @@ const ControlPanel &frameGradientPanel()
         QString::fromLatin1(FrameGradientPanelName),
         QT_TRANSLATE_NOOP("Controls", "Rahmenverlauf"),
         {
-            control("scrollGColorProz", -1, K::Value, QT_TRANSLATE_NOOP("Controls", "Farbanteil"),
+            controlSpec("scrollGColorProz", -1, K::Value, QT_TRANSLATE_NOOP("Controls", "Farbanteil"),
                     "70", 0, 100, {}, " %"),
-            control("optGColorTyp", -1, K::ListIndex,
+            controlSpec("optGColorTyp", -1, K::ListIndex,
                     QT_TRANSLATE_NOOP("Controls", "Verlaufsart"), "1", 0, 3,
                     {QT_TRANSLATE_NOOP("Controls", "Linear"),
                      QT_TRANSLATE_NOOP("Controls", "Rahmen"),
                      QT_TRANSLATE_NOOP("Controls", "Rechteck"),
                      QT_TRANSLATE_NOOP("Controls", "Ellipse")}),
-            control("optGColorVer", -1, K::ListIndex, QT_TRANSLATE_NOOP("Controls", "Richtung"),
+            controlSpec("optGColorVer", -1, K::ListIndex, QT_TRANSLATE_NOOP("Controls", "Richtung"),
                     "0", 0, 1,
                     {QT_TRANSLATE_NOOP("Controls", "Horizontal"),
                      QT_TRANSLATE_NOOP("Controls", "Vertikal")}),
-            control("chkGColorHV", 0, K::Checked,
+            controlSpec("chkGColorHV", 0, K::Checked,
                     QT_TRANSLATE_NOOP("Controls", "Farben tauschen"), "0", 0, 1),
-            control("chkGColorHV", 1, K::Checked,
+            controlSpec("chkGColorHV", 1, K::Checked,
                     QT_TRANSLATE_NOOP("Controls", "Weicher Verlauf"), "1", 0, 1),
-            control("txtGColorBorder", 0, K::Text,
+            controlSpec("txtGColorBorder", 0, K::Text,
                     QT_TRANSLATE_NOOP("Controls", "Rand links und rechts"), "80", 0, 14000),
-            control("txtGColorBorder", 1, K::Text,
+            controlSpec("txtGColorBorder", 1, K::Text,
                     QT_TRANSLATE_NOOP("Controls", "Rand oben und unten"), "80", 0, 14000),
-            control("chkGPassepartout", -1, K::Checked,
+            controlSpec("chkGPassepartout", -1, K::Checked,
                     QT_TRANSLATE_NOOP("Controls", "Passepartout"), "0", 0, 1),
-            control("txtGColorBorder", 2, K::Text,
+            controlSpec("txtGColorBorder", 2, K::Text,
                     QT_TRANSLATE_NOOP("Controls", "Passepartout-Breite"), "16", 0, 14000),
         }};
     return panel;
@@ -84,13 +64,13 @@ const ControlPanel &frequencyPanel()
         QString::fromLatin1(FrequencyPanelName),
         QT_TRANSLATE_NOOP("Controls", "Frequenzen"),
         {
-            control("cmb26Frequenz", -1, K::ListIndex,
+            controlSpec("cmb26Frequenz", -1, K::ListIndex,
                     QT_TRANSLATE_NOOP("Controls", "Wellenform"), "0", 0, 1,
                     {QT_TRANSLATE_NOOP("Controls", "Kreiswellen"),
                      QT_TRANSLATE_NOOP("Controls", "Parallele Wellen")}),
-            control("scroll26FRQ", 0, K::Value, QT_TRANSLATE_NOOP("Controls", "Deckkraft"), "60",
+            controlSpec("scroll26FRQ", 0, K::Value, QT_TRANSLATE_NOOP("Controls", "Deckkraft"), "60",
                     10, 100, {}, " %"),
-            control("scroll26FRQ", 1, K::Value, QT_TRANSLATE_NOOP("Controls", "Wellenzüge"), "1",
+            controlSpec("scroll26FRQ", 1, K::Value, QT_TRANSLATE_NOOP("Controls", "Wellenzüge"), "1",
                     1, 7),
         }};
     return panel;

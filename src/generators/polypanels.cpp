@@ -8,22 +8,6 @@ namespace tf {
 
 namespace {
 
-ControlSpec control(const char *name, int index, ControlKind kind, const char *caption,
-                    const char *defaultValue, int min = 0, int max = -1,
-                    std::vector<const char *> items = {}, const char *unit = "")
-{
-    ControlSpec s;
-    s.key = ControlKey{QString::fromLatin1(name), index};
-    s.kind = kind;
-    s.caption = caption;
-    s.defaultValue = QString::fromLatin1(defaultValue);
-    s.min = min;
-    s.max = max;
-    s.items = std::move(items);
-    s.unit = unit;
-    return s;
-}
-
 using K = ControlKind;
 
 const ControlPanel &tilesPanel()
@@ -32,7 +16,7 @@ const ControlPanel &tilesPanel()
         QString::fromLatin1(TilesPanelName),
         QT_TRANSLATE_NOOP("Controls", "Kacheln"),
         {
-            control("cmbKachelSize", -1, K::Value,
+            controlSpec("cmbKachelSize", -1, K::Value,
                     QT_TRANSLATE_NOOP("Controls", "Kacheln je Bildbreite"), "8", 1, 128),
         }};
     return panel;
@@ -44,7 +28,7 @@ const ControlPanel &ellipticPanel()
         QString::fromLatin1(EllipticPanelName),
         QT_TRANSLATE_NOOP("Controls", "Ellipsen"),
         {
-            control("optPEL_Style", -1, K::ListIndex, QT_TRANSLATE_NOOP("Controls", "Form"), "0",
+            controlSpec("optPEL_Style", -1, K::ListIndex, QT_TRANSLATE_NOOP("Controls", "Form"), "0",
                     0, 2,
                     {QT_TRANSLATE_NOOP("Controls", "Ellipsen"),
                      QT_TRANSLATE_NOOP("Controls", "Kreise"),
@@ -59,14 +43,14 @@ const ControlPanel &polyAreaPanel()
         QString::fromLatin1(PolyAreaPanelName),
         QT_TRANSLATE_NOOP("Controls", "Vielecke und Sterne"),
         {
-            control("cmbPolyType", -1, K::ListIndex, QT_TRANSLATE_NOOP("Controls", "Figur"), "1",
+            controlSpec("cmbPolyType", -1, K::ListIndex, QT_TRANSLATE_NOOP("Controls", "Figur"), "1",
                     0, 2,
                     {QT_TRANSLATE_NOOP("Controls", "Vieleck"),
                      QT_TRANSLATE_NOOP("Controls", "Stern"),
                      QT_TRANSLATE_NOOP("Controls", "Gemischt")}),
-            control("txtPolyCorners", -1, K::Text, QT_TRANSLATE_NOOP("Controls", "Ecken"), "5",
+            controlSpec("txtPolyCorners", -1, K::Text, QT_TRANSLATE_NOOP("Controls", "Ecken"), "5",
                     3, 24),
-            control("cmbCMStar", -1, K::ListIndex, QT_TRANSLATE_NOOP("Controls", "Farbmodus"),
+            controlSpec("cmbCMStar", -1, K::ListIndex, QT_TRANSLATE_NOOP("Controls", "Farbmodus"),
                     "0", 0, 2,
                     {QT_TRANSLATE_NOOP("Controls", "Einfache Farben"),
                      QT_TRANSLATE_NOOP("Controls", "Farbtabelle zufällig"),
@@ -81,9 +65,9 @@ const ControlPanel &lissajouPanel()
         QString::fromLatin1(LissajouPanelName),
         QT_TRANSLATE_NOOP("Controls", "Lissajous-Figur"),
         {
-            control("txtLissa", 0, K::Text, QT_TRANSLATE_NOOP("Controls", "Frequenz waagrecht"),
+            controlSpec("txtLissa", 0, K::Text, QT_TRANSLATE_NOOP("Controls", "Frequenz waagrecht"),
                     "3", 1, 2048),
-            control("txtLissa", 1, K::Text, QT_TRANSLATE_NOOP("Controls", "Frequenz senkrecht"),
+            controlSpec("txtLissa", 1, K::Text, QT_TRANSLATE_NOOP("Controls", "Frequenz senkrecht"),
                     "4", 1, 2048),
         }};
     return panel;
@@ -95,8 +79,8 @@ const ControlPanel &rosePanel()
         QString::fromLatin1(RosePanelName),
         QT_TRANSLATE_NOOP("Controls", "Rose"),
         {
-            control("txtRose", 0, K::Text, QT_TRANSLATE_NOOP("Controls", "Zähler"), "7", 1, 36),
-            control("txtRose", 1, K::Text, QT_TRANSLATE_NOOP("Controls", "Nenner"), "4", 1, 35),
+            controlSpec("txtRose", 0, K::Text, QT_TRANSLATE_NOOP("Controls", "Zähler"), "7", 1, 36),
+            controlSpec("txtRose", 1, K::Text, QT_TRANSLATE_NOOP("Controls", "Nenner"), "4", 1, 35),
         }};
     return panel;
 }
@@ -107,7 +91,7 @@ const ControlPanel &rosettePanel()
         QString::fromLatin1(RosettePanelName),
         QT_TRANSLATE_NOOP("Controls", "Fadenrosette"),
         {
-            control("txtRosetteFactor", -1, K::Text, QT_TRANSLATE_NOOP("Controls", "Faktor"), "3",
+            controlSpec("txtRosetteFactor", -1, K::Text, QT_TRANSLATE_NOOP("Controls", "Faktor"), "3",
                     2, 99),
         }};
     return panel;
@@ -127,10 +111,10 @@ const ControlPanel &webtilesPanel()
         QString::fromLatin1(WebtilesPanelName),
         QT_TRANSLATE_NOOP("Controls", "Interne Kacheln"),
         {
-            control("cmbInterneKachel", -1, K::ListIndex,
+            controlSpec("cmbInterneKachel", -1, K::ListIndex,
                     QT_TRANSLATE_NOOP("Controls", "Kachel"), "0", 0,
                     int(webtiles().size()) - 1, tileCaptions()),
-            control("XKachelFarben", -1, K::Checked,
+            controlSpec("XKachelFarben", -1, K::Checked,
                     QT_TRANSLATE_NOOP("Controls", "In den Malfarben"), "1", 0, 1),
         }};
     return panel;
@@ -142,9 +126,9 @@ const ControlPanel &matrixPanel()
         QString::fromLatin1(MatrixPanelName),
         QT_TRANSLATE_NOOP("Controls", "Matrix"),
         {
-            control("scrollMatrixGlyph", -1, K::Value,
+            controlSpec("scrollMatrixGlyph", -1, K::Value,
                     QT_TRANSLATE_NOOP("Controls", "Zeichengröße"), "16", 8, 48, {}, " px"),
-            control("scrollMatrixSpeed", -1, K::Value,
+            controlSpec("scrollMatrixSpeed", -1, K::Value,
                     QT_TRANSLATE_NOOP("Controls", "Geschwindigkeit"), "5", 1, 10),
         }};
     return panel;

@@ -54,6 +54,22 @@ std::optional<long long> asInteger(const QString &value)
 }
 } // namespace
 
+ControlSpec controlSpec(const char *name, int index, ControlKind kind, const char *caption,
+                        const char *defaultValue, int min, int max,
+                        std::vector<const char *> items, const char *unit)
+{
+    ControlSpec s;
+    s.key = ControlKey{QString::fromLatin1(name), index};
+    s.kind = kind;
+    s.caption = caption;
+    s.defaultValue = QString::fromLatin1(defaultValue);
+    s.min = min;
+    s.max = max;
+    s.items = std::move(items);
+    s.unit = unit;
+    return s;
+}
+
 const std::vector<const ControlPanel *> &controlPanels() { return panelList(); }
 
 void registerControlPanel(const ControlPanel *panel)

@@ -73,6 +73,13 @@ struct ControlPanel {
     std::vector<ControlSpec> controls;
 };
 
+// A control's definition as the panel tables write it: name and index (-1 for none), kind,
+// caption (a German source text of the "Controls" context), default, range (max < min: none),
+// list items and unit.
+ControlSpec controlSpec(const char *name, int index, ControlKind kind, const char *caption,
+                        const char *defaultValue, int min = 0, int max = -1,
+                        std::vector<const char *> items = {}, const char *unit = "");
+
 // The panels known to the program, in the order the GUI shows them. Each family registers its
 // panel table here once, at start, through `registerControlPanel`.
 const std::vector<const ControlPanel *> &controlPanels();

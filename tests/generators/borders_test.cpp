@@ -1,5 +1,7 @@
 // The frames and cut-out forms through the Paint command: CutMode running on between paints,
 // the size limits of the cut-outs, and the frames' pixels at known places.
+#include "paintfixture.h"
+
 #include "core/picturebox.h"
 #include "generators/borders.h"
 #include "generators/painters.h"
@@ -20,51 +22,22 @@ constexpr ColorLong Black = 0x000000;
 constexpr ColorLong White = 0xFFFFFF;
 constexpr ColorLong Blue = 0xFF0000;
 
-struct EngineFirst {
-    EngineFirst() { registerAllPanels(); }
-};
-
-struct BordersTest : ::testing::Test {
-    EngineFirst engine;
-    Session s;
-    ScriptedPrompter prompter;
-
+struct BordersTest : PaintFixture {
     void SetUp() override
     {
-        s.setPainters(painterTable());
-        s.setPrompter(&prompter);
-        s.colours().RandomColors = false;
-        s.colours().RandomValues = false;
-        s.colours().ColorFore = Black;
-        s.colours().ColorBack = Blue;
+        PaintFixture::SetUp();
+        fixedColours(Black, Blue);
         size(100, 100);
         set("XBorders", QStringLiteral("0"));
         set("cmbPen", QStringLiteral("1"));
     }
-    void size(int w, int h) { s.workspace().New_BildSize(w, h); }
+    void set(const char *name, const QString &value, int index = -1) { setRaw(name, value, index); }
     // A white picture under each paint, so that every check sees one paint alone.
-    void ground()
-    {
-        PictureBox &b = s.workspace().Bild;
-        b.Line(0, 0, b.Width() - 1, b.Height() - 1, White, LineFlags::BF);
-        b.setPicture(b.Image());
-    }
-    void set(const char *name, const QString &value, int index = -1)
-    {
-        s.controls().setRaw(ControlKey{QString::fromLatin1(name), index}, value);
-    }
     PaintOutcome paint(const char *key)
     {
-        const auto where = findType(QString::fromUtf8(key));
-        EXPECT_TRUE(where.has_value()) << key;
-        if (!where) return PaintOutcome::NotPaintable;
-        ground();
-        mn_Grafmodes(s, where->group);
-        ListBoxType_Click(s, where->listIndex);
-        s.paint().nextSeed = 5;
-        return BtnPaint_Click(s);
+        ground(White);
+        return PaintFixture::paint(key, 5);
     }
-    ColorLong at(int x, int y) { return s.workspace().Bild.Point(x, y); }
 };
 
 TEST(CutMode, CyclesThroughThreePatterns)

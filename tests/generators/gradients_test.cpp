@@ -1,5 +1,7 @@
 // The gradient group through the Paint command: colours at known points, the pen and stripe
 // rule, the Chromo band, the crazy bands' bounce, the per-pixel sets and the filtered ones.
+#include "paintfixture.h"
+
 #include "core/picturebox.h"
 #include "core/random.h"
 #include "generators/gradients.h"
@@ -17,44 +19,7 @@ using namespace tf;
 
 namespace {
 
-struct EngineFirst {
-    EngineFirst() { registerAllPanels(); }
-};
-
-struct GradientTest : ::testing::Test {
-    EngineFirst engine;
-    Session s;
-    ScriptedPrompter prompter;
-
-    void SetUp() override
-    {
-        s.setPainters(painterTable());
-        s.setPrompter(&prompter);
-    }
-    void size(int w, int h) { s.workspace().New_BildSize(w, h); }
-    void fixedColours(ColorLong fore, ColorLong back)
-    {
-        s.colours().RandomColors = false;
-        s.colours().RandomValues = false;
-        s.colours().ColorFore = fore;
-        s.colours().ColorBack = back;
-    }
-    void set(const char *name, const QString &value, int index = -1)
-    {
-        ASSERT_TRUE(s.controls().set(ControlKey{QString::fromLatin1(name), index}, value)) << name;
-    }
-    PaintOutcome paint(const char *key, uint32_t seed = 1)
-    {
-        const auto where = findType(QString::fromUtf8(key));
-        EXPECT_TRUE(where.has_value()) << key;
-        mn_Grafmodes(s, where->group);
-        ListBoxType_Click(s, where->listIndex);
-        s.paint().nextSeed = seed;
-        return BtnPaint_Click(s);
-    }
-    ColorLong at(int x, int y) { return s.workspace().Bild.Point(x, y); }
-    const QImage &image() { return s.workspace().Bild.Image(); }
-};
+using GradientTest = PaintFixture;
 
 constexpr ColorLong White = 0xFFFFFF;
 

@@ -1,5 +1,7 @@
 // The papers and the jalousie through the Paint command: the step rule of the slats, the
 // slat colours at known rows, and the ruled lines at their places.
+#include "paintfixture.h"
+
 #include "core/picturebox.h"
 #include "generators/painters.h"
 #include "generators/papers.h"
@@ -16,43 +18,16 @@ using namespace tf;
 
 namespace {
 
-struct EngineFirst {
-    EngineFirst() { registerAllPanels(); }
-};
-
-struct PapersTest : ::testing::Test {
-    EngineFirst engine;
-    Session s;
-    ScriptedPrompter prompter;
-
+struct PapersTest : PaintFixture {
     void SetUp() override
     {
-        s.setPainters(painterTable());
-        s.setPrompter(&prompter);
-        s.colours().RandomColors = false;
-        s.colours().RandomValues = false;
-        s.colours().ColorFore = 0x000000;
-        s.colours().ColorBack = 0xFFFFFF;
-        s.workspace().New_BildSize(100, 100);
-        PictureBox &b = s.workspace().Bild;
-        b.Line(0, 0, 99, 99, 0xFFFFFF, LineFlags::BF);
-        b.setPicture(b.Image());
+        PaintFixture::SetUp();
+        fixedColours(0x000000, 0xFFFFFF);
+        size(100, 100);
+        ground(0xFFFFFF);
     }
-    void set(const char *name, const QString &value, int index = -1)
-    {
-        s.controls().setRaw(ControlKey{QString::fromLatin1(name), index}, value);
-    }
-    PaintOutcome paint(const char *key)
-    {
-        const auto where = findType(QString::fromUtf8(key));
-        EXPECT_TRUE(where.has_value()) << key;
-        if (!where) return PaintOutcome::NotPaintable;
-        mn_Grafmodes(s, where->group);
-        ListBoxType_Click(s, where->listIndex);
-        s.paint().nextSeed = 3;
-        return BtnPaint_Click(s);
-    }
-    ColorLong at(int x, int y) { return s.workspace().Bild.Point(x, y); }
+    void set(const char *name, const QString &value, int index = -1) { setRaw(name, value, index); }
+    PaintOutcome paint(const char *key) { return PaintFixture::paint(key, 3); }
 };
 
 TEST(JalousieStep, ZeroTextAndTooLargeSteps)

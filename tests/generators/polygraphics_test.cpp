@@ -1,6 +1,8 @@
 // The drawn types, the curve family, the records, the tiles and the matrix through the Paint
 // command: the edge cases of their counts and sizes, pixels at known places, and every type
 // painting without a fault on odd sizes, with transparency and with the colour tables.
+#include "paintfixture.h"
+
 #include "core/picturebox.h"
 #include "generators/matrixrain.h"
 #include "generators/painters.h"
@@ -20,51 +22,7 @@ using namespace tf;
 
 namespace {
 
-struct EngineFirst {
-    EngineFirst() { registerAllPanels(); }
-};
-
-struct PolyTest : ::testing::Test {
-    EngineFirst engine;
-    Session s;
-    ScriptedPrompter prompter;
-
-    void SetUp() override
-    {
-        s.setPainters(painterTable());
-        s.setPrompter(&prompter);
-    }
-    void size(int w, int h) { s.workspace().New_BildSize(w, h); }
-    void fixedColours(ColorLong fore, ColorLong back)
-    {
-        s.colours().RandomColors = false;
-        s.colours().RandomValues = false;
-        s.colours().ColorFore = fore;
-        s.colours().ColorBack = back;
-    }
-    void set(const char *name, const QString &value, int index = -1)
-    {
-        ASSERT_TRUE(s.controls().set(ControlKey{QString::fromLatin1(name), index}, value)) << name;
-    }
-    PaintOutcome paint(const char *key, uint32_t seed = 1)
-    {
-        const auto where = findType(QString::fromUtf8(key));
-        EXPECT_TRUE(where.has_value()) << key;
-        if (!where) return PaintOutcome::NotPaintable;
-        mn_Grafmodes(s, where->group);
-        ListBoxType_Click(s, where->listIndex);
-        s.paint().nextSeed = seed;
-        return BtnPaint_Click(s);
-    }
-    // Lays a picture of one colour as the persistent picture (what Bild_CLEAR comes back to).
-    void ground(ColorLong c)
-    {
-        PictureBox &b = s.workspace().Bild;
-        b.Line(0, 0, b.Width() - 1, b.Height() - 1, c, LineFlags::BF);
-        b.setPicture(b.Image());
-    }
-    ColorLong at(int x, int y) { return s.workspace().Bild.Point(x, y); }
-};
+using PolyTest = PaintFixture;
 
 constexpr ColorLong White = 0xFFFFFF;
 constexpr ColorLong Red = 0x0000FF;

@@ -1,5 +1,7 @@
 // The figures around a centre through the Paint command: Stop in the middle of a rosette, the
 // radii that are never 0 or less, and every variant painting with the colour tables.
+#include "paintfixture.h"
+
 #include "core/picturebox.h"
 #include "core/prompter.h"
 #include "core/yield.h"
@@ -19,10 +21,6 @@ using namespace tf;
 namespace {
 
 constexpr ColorLong Ground = 0x00FF00;
-
-struct EngineFirst {
-    EngineFirst() { registerAllPanels(); }
-};
 
 // Answers "stop" from its n-th call on, as a window whose Stop was clicked.
 class StopAfter : public YieldHook {
@@ -49,34 +47,13 @@ private:
     const GrafDialogState &m_d;
 };
 
-struct RosetteTest : ::testing::Test {
-    EngineFirst engine;
-    Session s;
-    ScriptedPrompter prompter;
-
+struct RosetteTest : PaintFixture {
     void SetUp() override
     {
-        s.setPainters(painterTable());
-        s.setPrompter(&prompter);
-        s.workspace().New_BildSize(301, 207);
+        PaintFixture::SetUp();
+        size(301, 207);
     }
-    PaintOutcome paint(const char *key, uint32_t seed = 1)
-    {
-        const auto where = findType(QString::fromUtf8(key));
-        EXPECT_TRUE(where.has_value()) << key;
-        if (!where) return PaintOutcome::NotPaintable;
-        mn_Grafmodes(s, where->group);
-        ListBoxType_Click(s, where->listIndex);
-        s.paint().nextSeed = seed;
-        return BtnPaint_Click(s);
-    }
-    // Lays a picture of one colour as the persistent picture (what Bild_CLEAR comes back to).
-    void ground()
-    {
-        PictureBox &b = s.workspace().Bild;
-        b.Line(0, 0, b.Width() - 1, b.Height() - 1, Ground, LineFlags::BF);
-        b.setPicture(b.Image());
-    }
+    void ground() { PaintFixture::ground(Ground); }
     int changedPixels()
     {
         const PictureBox &b = s.workspace().Bild;
