@@ -16,24 +16,6 @@ using namespace tf;
 
 namespace {
 
-QImage photoLike(int w, int h)
-{
-    QImage img(w, h, QImage::Format_RGB32);
-    for (int y = 0; y < h; ++y)
-        for (int x = 0; x < w; ++x)
-            img.setPixel(x, y, qRgb(x * 255 / w, y * 255 / h, (x ^ y) & 255));
-    return img;
-}
-
-void screenshot(QWidget &w, const char *name)
-{
-    const QString dir = qEnvironmentVariable("TF_SCREENSHOTS");
-    if (dir.isEmpty()) return;
-    w.show();
-    QApplication::processEvents();
-    w.grab().save(dir + QLatin1Char('/') + QLatin1String(name) + QStringLiteral(".png"));
-}
-
 struct FilterDialogs : WindowFixture {
     void SetUp() override
     {

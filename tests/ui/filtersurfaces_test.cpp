@@ -21,7 +21,7 @@ using namespace tf;
 
 namespace {
 
-QImage photoLike(int w, int h)
+QImage stripedPicture(int w, int h)
 {
     QImage img(w, h, QImage::Format_RGB32);
     for (int y = 0; y < h; ++y)
@@ -36,7 +36,7 @@ struct FilterSurfaces : WindowFixture {
     {
         WindowFixture::SetUp();
         start();
-        startPicture = photoLike(700, 500);
+        startPicture = stripedPicture(700, 500);
         window->session().workspace().New_BildSize(700, 500);
         window->session().workspace().Bild.setPicture(startPicture);
     }
@@ -59,15 +59,6 @@ struct FilterSurfaces : WindowFixture {
         return QImage(out).convertToFormat(QImage::Format_RGB32);
     }
 };
-
-void screenshot(QWidget &w, const char *name)
-{
-    const QString dir = qEnvironmentVariable("TF_SCREENSHOTS");
-    if (dir.isEmpty()) return;
-    w.show();
-    QApplication::processEvents();
-    w.grab().save(dir + QLatin1Char('/') + QLatin1String(name) + QStringLiteral(".png"));
-}
 
 } // namespace
 

@@ -5,6 +5,8 @@
 #include "core/settings.h"
 #include "ui/mainwindow.h"
 
+#include <QApplication>
+#include <QImage>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <memory>
@@ -34,3 +36,23 @@ struct WindowFixture : ::testing::Test {
         window->show();
     }
 };
+
+// A picture with detail in every corner, for filters to change visibly.
+inline QImage photoLike(int w, int h)
+{
+    QImage img(w, h, QImage::Format_RGB32);
+    for (int y = 0; y < h; ++y)
+        for (int x = 0; x < w; ++x)
+            img.setPixel(x, y, qRgb(x * 255 / w, y * 255 / h, (x ^ y) & 255));
+    return img;
+}
+
+// Saves a picture of `w` as NAME.png into the folder TF_SCREENSHOTS names, when it is set.
+inline void screenshot(QWidget &w, const char *name)
+{
+    const QString dir = qEnvironmentVariable("TF_SCREENSHOTS");
+    if (dir.isEmpty()) return;
+    w.show();
+    QApplication::processEvents();
+    w.grab().save(dir + QLatin1Char('/') + QLatin1String(name) + QStringLiteral(".png"));
+}
