@@ -1,6 +1,7 @@
 #include "app/cli_common.h"
 
 #include <QCoreApplication>
+#include <QRegularExpression>
 #include <csignal>
 #include <unistd.h>
 
@@ -74,6 +75,16 @@ bool InterruptYield::yield()
 bool InterruptYield::interrupted() const
 {
     return g_interrupted != 0;
+}
+
+ColorLong parseColour(const QString &text)
+{
+    static const QRegularExpression re(QStringLiteral(R"(^#([0-9A-Fa-f]{6})$)"));
+    const auto m = re.match(text);
+    if (!m.hasMatch())
+        throw UsageError(
+            QCoreApplication::translate("Cli", "Ungültige Farbe: %1 (#RRGGBB)").arg(text));
+    return fromQRgb(m.captured(1).toUInt(nullptr, 16));
 }
 
 } // namespace tf::cli

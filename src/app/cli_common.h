@@ -5,6 +5,8 @@
 #include "core/status.h"
 #include "core/yield.h"
 
+#include "core/colour.h"
+
 #include <QString>
 #include <QStringList>
 #include <cstdio>
@@ -71,6 +73,9 @@ public:
 };
 
 // The sub-commands. `args` are the words after the command's name.
+// "#RRGGBB" as a colour long; anything else is a usage error ("Ungültige Farbe: …").
+ColorLong parseColour(const QString &text);
+
 int runTypes(const QStringList &args);
 int runControls(const QStringList &args);
 int runPaint(const QStringList &args);

@@ -45,15 +45,6 @@ struct Step {
     bool colourGiven = false; // --colour0
 };
 
-ColorLong parseColourValue(const QString &text)
-{
-    static const QRegularExpression re(QStringLiteral(R"(^#([0-9A-Fa-f]{6})$)"));
-    const auto m = re.match(text);
-    if (!m.hasMatch())
-        throw UsageError(QCoreApplication::translate("Cli", "Ungültige Farbe: %1 (#RRGGBB)").arg(text));
-    return fromQRgb(m.captured(1).toUInt(nullptr, 16));
-}
-
 int parseInt(const QString &option, const QString &text)
 {
     bool ok = false;
@@ -172,13 +163,13 @@ FilterOptions parseFilterOptions(const QStringList &words)
         } else if (w == QLatin1String("--arg")) {
             Step &s = need();
             const QString v = a.valueOf(w);
-            s.args.argument = v.startsWith(QLatin1Char('#')) ? parseColourValue(v) : parseInt(w, v);
+            s.args.argument = v.startsWith(QLatin1Char('#')) ? parseColour(v) : parseInt(w, v);
             if (s.row && !s.row->sliders.empty()) s.args.sliders[0] = s.args.argument;
         } else if (w == QLatin1String("--set")) {
             setSlider(need(), a.valueOf(w));
         } else if (w == QLatin1String("--colour0") || w == QLatin1String("--colour1")) {
             Step &s = need();
-            const ColorLong c = parseColourValue(a.valueOf(w));
+            const ColorLong c = parseColour(a.valueOf(w));
             const size_t i = w.endsWith(QLatin1Char('1')) ? 1 : 0;
             s.args.colours[i] = c;
             if (i == 0) s.colourGiven = true;
@@ -187,7 +178,7 @@ FilterOptions parseFilterOptions(const QStringList &words)
                 s.row->entries[0].rule != ArgumentRule::Fixed)
                 s.args.argument = c;
         } else if (w == QLatin1String("--back")) {
-            need().args.background = parseColourValue(a.valueOf(w));
+            need().args.background = parseColour(a.valueOf(w));
         } else if (w == QLatin1String("--at")) {
             Step &s = need();
             const QString v = a.valueOf(w);

@@ -60,17 +60,6 @@ QSize parseSize(const QString &text)
     return {w, h};
 }
 
-ColorLong parseColour(const QString &text)
-{
-    static const QRegularExpression re(QStringLiteral(R"(^#([0-9A-Fa-f]{6})$)"));
-    const auto m = re.match(text);
-    if (!m.hasMatch())
-        throw UsageError(
-            QCoreApplication::translate("Cli", "Ungültige Farbe: %1 (#RRGGBB)").arg(text));
-    const uint rgb = m.captured(1).toUInt(nullptr, 16);
-    return fromQRgb(rgb);
-}
-
 bool parseOnOff(const QString &option, const QString &text)
 {
     if (text == QLatin1String("on")) return true;

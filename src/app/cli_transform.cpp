@@ -92,16 +92,6 @@ HalfMirror parseHalfMirror(const QString &text)
                          .arg(text));
 }
 
-ColorLong parseColour(const QString &text)
-{
-    static const QRegularExpression re(QStringLiteral(R"(^#([0-9A-Fa-f]{6})$)"));
-    const auto m = re.match(text);
-    if (!m.hasMatch())
-        throw UsageError(
-            QCoreApplication::translate("Cli", "Ungültige Farbe: %1 (#RRGGBB)").arg(text));
-    return fromQRgb(m.captured(1).toUInt(nullptr, 16));
-}
-
 TransformOptions parseTransformOptions(const QStringList &words)
 {
     TransformOptions o;
