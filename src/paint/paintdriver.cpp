@@ -122,6 +122,8 @@ PaintOutcome paintButton(Session &s)
 
     Set_BILD(s);
     s.view().reset_imgButtons();
+    // The layout of the last Mondrian set does not outlive another press of Paint.
+    s.mondrian().eraseLastSet();
     const int listIndex = p.dialog.ListIndex();
     if (listIndex + 1 < 1) {
         s.ask(

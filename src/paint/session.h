@@ -26,6 +26,7 @@
 #include "paint/controls.h"
 #include "paint/filterstate.h"
 #include "paint/grafdialog.h"
+#include "paint/mondriantables.h"
 #include "paint/painter.h"
 #include "paint/paintrecord.h"
 #include "paint/sessionview.h"
@@ -89,6 +90,9 @@ public:
     // TranspPercent and the paint target XBild, XUndo, XWork (Bild's until Set_BILD).
     TransparencyState &transparency() { return m_transparency; }
     FilterState &filters() { return m_filters; }
+    // The frame tables of the Mondrian family, kept from one paint to the next.
+    MondrianTables &mondrian() { return m_mondrian; }
+    const MondrianTables &mondrian() const { return m_mondrian; }
     const TransparencyState &transparency() const { return m_transparency; }
 
     // The painters this session paints with, one entry per type key (borrowed; it must outlive
@@ -135,6 +139,7 @@ private:
     ColourState m_colours;
     TransparencyState m_transparency;
     FilterState m_filters;
+    MondrianTables m_mondrian;
     Random m_random;
     SessionClock m_clock;
 
