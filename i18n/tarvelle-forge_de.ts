@@ -664,6 +664,22 @@
         <source>Jalousie step 1-255</source>
         <translation>Jalousie step 1-255</translation>
     </message>
+    <message>
+        <source>Berge</source>
+        <translation>Berge</translation>
+    </message>
+    <message>
+        <source>3D</source>
+        <translation>3D</translation>
+    </message>
+    <message>
+        <source>Amplitude</source>
+        <translation>Amplitude</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Top</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

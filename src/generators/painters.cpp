@@ -3,8 +3,10 @@
 #include "generators/gradientpanels.h"
 #include "generators/gradients.h"
 #include "generators/borders.h"
+#include "generators/centrepanels.h"
 #include "generators/curves.h"
 #include "generators/matrixrain.h"
+#include "generators/mountains.h"
 #include "generators/papers.h"
 #include "generators/polygraphics.h"
 #include "generators/polypanels.h"
@@ -73,7 +75,7 @@ std::span<const PainterEntry> painterTable()
         {"Rosetta-Crazy", paintRosettaCrazy, Prepare},
         {"Rosetta-Pixelized-Crazy", paintRosettaPixelizedCrazy, Prepare},
         {"Thread-Rosette", Circle_Rosette, Prepare},
-        {"Spirograph", nullptr, Prepare},
+        {"Spirograph", Do_Spirograph, Prepare},
         {"Squares-In-Square", Draw_SQINSQ, Prepare},
         {"Rose", paintRose, Prepare},
         {"Rose-Crazy", paintRoseCrazy, Prepare},
@@ -91,7 +93,7 @@ std::span<const PainterEntry> painterTable()
         {"Horizon", paintHorizon, Prepare},
         {"Lense", paintLense, Prepare},
         {"Sky gradient", paintSkyGradient, Prepare},
-        {"Mountains-Gradient", nullptr, Prepare},
+        {"Mountains-Gradient", paintMountainsGradient, Prepare},
         {"Fixed 4 squares", paintFixed4Squares, Prepare},
         {"Randomized 4 squares", paintRandomized4Squares, Prepare},
         {"Randomized bars", paintRandomizedBars, Prepare},
@@ -102,8 +104,8 @@ std::span<const PainterEntry> painterTable()
         {"V-GradientCrazy", paintVGradientCrazy, Prepare},
         // Group 6
         {"Exchange Rates", paintExchangeRates, Prepare},
-        {"Mountains-Pen", nullptr, Prepare},
-        {"Mountains", nullptr, Prepare},
+        {"Mountains-Pen", paintMountainsPen, Prepare},
+        {"Mountains", paintMountains, Prepare},
         {"Soundwaves", paintSoundwaves, Prepare},
         {"Sinus", paintSinus, Prepare},
         {"Pulse", paintPulse, Prepare},
@@ -159,6 +161,7 @@ void registerAllPanels()
         registerPolyPanels();
         registerPaperPanels();
         registerFramePanels();
+        registerCentrePanels();
         return true;
     }();
     (void)once;

@@ -1,0 +1,18 @@
+#pragma once
+// The option panels of the figures around a centre: the mountains and the circle gradients.
+// One table per panel (see paint/controls.h), registered at start.
+//
+// An option group is one list control named by the group: `radMountHorizon` 0 is "Oben".
+
+#include "paint/controls.h"
+
+namespace tf {
+
+constexpr const char *MountainsPanelName = "feat_07Mountains";
+
+const ControlPanel &mountainsPanel();
+
+// Registers every panel of this family (idempotent through the caller).
+void registerCentrePanels();
+
+} // namespace tf

@@ -1,0 +1,286 @@
+// The spirograph, the mountains, the wave grid, the rotating lines and the circle gradients
+// through the Paint command: where their figures lie, the colours they take, the panels they
+// read and Stop in the middle of each long one.
+#include "paintfixture.h"
+
+#include "core/picturebox.h"
+#include "core/yield.h"
+#include "generators/rosettes.h"
+#include "paint/colourstate.h"
+#include "paint/grafdialog.h"
+#include "paint/session.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numeric>
+
+using namespace tf;
+
+namespace {
+
+constexpr ColorLong Ground = 0x00FF00;
+constexpr ColorLong Red = 0x0000FF;
+constexpr ColorLong Blue = 0xFF0000;
+
+int lumaOfPixel(ColorLong c) { return (RedOf(c) * 299 + GreenOf(c) * 587 + BlueOf(c) * 114) / 1000; }
+
+// Answers "stop" from its n-th call on, as a window whose Stop was clicked.
+class StopAfter : public YieldHook {
+public:
+    explicit StopAfter(int n) : m_n(n) {}
+    bool yield() override { return ++calls >= m_n; }
+    int calls = 0;
+
+private:
+    int m_n;
+};
+
+// Logs every caption the Paint button shows.
+class CaptionLog : public GrafDialogView {
+public:
+    explicit CaptionLog(const GrafDialogState &d) : m_d(d) {}
+    void grafDialogChanged(GrafDialogState::Change c) override
+    {
+        if (c == GrafDialogState::Change::Caption) captions.push_back(m_d.BtnPaintCaption());
+    }
+    std::vector<QString> captions;
+
+private:
+    const GrafDialogState &m_d;
+};
+
+struct CentreFigures : PaintFixture {
+    void SetUp() override
+    {
+        PaintFixture::SetUp();
+        size(240, 180);
+    }
+    void ground() { PaintFixture::ground(Ground); }
+    int changedPixels()
+    {
+        const PictureBox &b = s.workspace().Bild;
+        int n = 0;
+        for (int y = 0; y < b.Height(); ++y)
+            for (int x = 0; x < b.Width(); ++x) n += b.Point(x, y) != Ground;
+        return n;
+    }
+    int count(ColorLong c)
+    {
+        const PictureBox &b = s.workspace().Bild;
+        int n = 0;
+        for (int y = 0; y < b.Height(); ++y)
+            for (int x = 0; x < b.Width(); ++x) n += b.Point(x, y) == c;
+        return n;
+    }
+    // Paints `key` once to the end, then again with a Stop after `after` yields: the stopped
+    // paint keeps a part of the whole and shows the stop captions.
+    void expectStopKeepsAPart(const char *key, int after)
+    {
+        ground();
+        ASSERT_EQ(paint(key, 5), PaintOutcome::Painted) << key;
+        const QImage whole = image().copy();
+        ground();
+        CaptionLog log(s.paint().dialog);
+        s.paint().dialog.setView(&log);
+        StopAfter stop(after);
+        s.setYieldHook(&stop);
+        ASSERT_EQ(paint(key, 5), PaintOutcome::Painted) << key;
+        s.setYieldHook(nullptr);
+        s.paint().dialog.setView(nullptr);
+        EXPECT_EQ(stop.calls, after) << key;
+        EXPECT_NE(image(), whole) << key;
+        EXPECT_GT(changedPixels(), 0) << key;
+        ASSERT_GE(log.captions.size(), 3u) << key;
+        EXPECT_EQ(log.captions.front(), QStringLiteral("STO&PP !")) << key;
+        EXPECT_EQ(log.captions[log.captions.size() - 2], QStringLiteral("Stopped - Wait!"))
+            << key;
+        EXPECT_EQ(log.captions.back(), QStringLiteral("Paint <F5>")) << key;
+    }
+    // Paints every key with seeds and with and without the colour table: each changes the
+    // picture.
+    void expectEveryVariantPaints(std::initializer_list<const char *> keys)
+    {
+        for (bool table : {false, true}) {
+            s.colours().XDuotones[0] = table;
+            for (const char *key : keys)
+                for (uint32_t seed : {1u, 7u, 99u}) {
+                    ground();
+                    ASSERT_EQ(paint(key, seed), PaintOutcome::Painted) << key;
+                    EXPECT_GT(changedPixels(), 0) << key << ' ' << seed << ' ' << table;
+                }
+        }
+        s.colours().XDuotones[0] = false;
+    }
+};
+
+// ---- Spirograph ----
+
+TEST(SpirographGear, TheWheelClosesTheCurveAfterItsTurns)
+{
+    for (int turns = 1; turns <= 7; ++turns)
+        for (double wheel : {0.2, 7.0, 33.0, 90.0, 200.0, 400.0}) {
+            const SpirographGear g = spirographGear(300, wheel, turns);
+            EXPECT_EQ(g.turns, turns);
+            EXPECT_GT(g.lobes, g.turns);
+            EXPECT_EQ(std::gcd(g.lobes, g.turns), 1) << turns << ' ' << wheel;
+            // Rolled round the ring k times the wheel has turned a whole number of times.
+            EXPECT_NEAR(g.wheel * g.lobes, 300.0 * turns, 1e-9);
+            EXPECT_LT(g.wheel, 300.0 * 0.9 + 1e-9);
+            EXPECT_GE(g.lobes, 3);
+        }
+    // A wheel of a third of the ring gives three lobes in one turn.
+    const SpirographGear three = spirographGear(300, 100, 1);
+    EXPECT_EQ(three.lobes, 3);
+    EXPECT_DOUBLE_EQ(three.wheel, 100.0);
+    // Turns 0 counts as 1.
+    EXPECT_EQ(spirographGear(300, 100, 0).turns, 1);
+}
+
+TEST_F(CentreFigures, TheSpirographStaysInsideItsRingAboutTheCentre)
+{
+    fixedColours(Red, Blue);
+    set("XCenter", QStringLiteral("1"));
+    set("cmbNumbArr", QStringLiteral("4"));
+    set("Scrollstep", QStringLiteral("40"));
+    ground();
+    ASSERT_EQ(paint("Spirograph", 3), PaintOutcome::Painted);
+    const double reach = 0.46 * 180;
+    int outside = 0, red = 0;
+    for (int y = 0; y < 180; ++y)
+        for (int x = 0; x < 240; ++x) {
+            const ColorLong c = at(x, y);
+            if (c == Ground) continue;
+            // Soft edges mix the red line into the green ground; blue never appears.
+            EXPECT_EQ(BlueOf(c), 0);
+            red += RedOf(c) > GreenOf(c);
+            if (std::hypot(x - 120.0, y - 90.0) > reach + 1.5) ++outside;
+        }
+    EXPECT_EQ(outside, 0);
+    EXPECT_GT(red, 100);
+    // The curve's start lies on the ring's axis to the right of the centre, within the ring.
+    bool onAxis = false;
+    for (int x = 121; x < 120 + int(reach) + 2; ++x) onAxis |= at(x, 90) != Ground;
+    EXPECT_TRUE(onAxis);
+}
+
+TEST_F(CentreFigures, TheSpirographPaintsWithTablesAndRandomColours)
+{
+    expectEveryVariantPaints({"Spirograph"});
+}
+
+TEST_F(CentreFigures, StopEndsTheSpirographWithWhatIsDrawn)
+{
+    s.colours().RandomColors = false;
+    s.colours().ColorFore = Red;
+    expectStopKeepsAPart("Spirograph", 4);
+}
+
+} // namespace
+
+namespace {
+
+// ---- Mountains ----
+
+struct MountainTest : CentreFigures {
+    void SetUp() override
+    {
+        CentreFigures::SetUp();
+        fixedColours(Red, Blue);
+        set("radMountHorizon", QStringLiteral("1"));
+        set("X3DMountain", QStringLiteral("0"));
+    }
+    // Per column the first row of the ground colour from the top (h when none).
+    std::vector<int> ridgeRows(bool fromBottom = false)
+    {
+        const PictureBox &b = s.workspace().Bild;
+        std::vector<int> out;
+        for (int x = 0; x < b.Width(); ++x) {
+            int y = 0;
+            while (y < b.Height() && b.Point(x, fromBottom ? b.Height() - 1 - y : y) != Red) ++y;
+            out.push_back(y);
+        }
+        return out;
+    }
+};
+
+TEST_F(MountainTest, TheGroundLiesUnderASkyBetweenTheTopLineAndTheFoot)
+{
+    set("scrollMountain", QStringLiteral("50"), 1);
+    ground();
+    ASSERT_EQ(paint("Mountains", 4), PaintOutcome::Painted);
+    // The top row is the sky colour itself, the bottom row all ground.
+    for (int x = 0; x < 240; x += 7) {
+        EXPECT_EQ(at(x, 0), Blue) << x;
+        EXPECT_EQ(at(x, 179), Red) << x;
+    }
+    // The ridge stays between the top line (50 %) and 85 % of the height, and below it the
+    // column is ground to the bottom.
+    const std::vector<int> rows = ridgeRows();
+    for (int x = 0; x < 240; ++x) {
+        EXPECT_GE(rows[size_t(x)], 90) << x;
+        EXPECT_LE(rows[size_t(x)], 154) << x;
+        for (int y = rows[size_t(x)]; y < 180; y += 5) EXPECT_EQ(at(x, y), Red);
+    }
+}
+
+TEST_F(MountainTest, TheWalkIsHeldToTheAmplitudeAndTheHorizonOnTopMirrorsIt)
+{
+    set("scrollMountain", QStringLiteral("1"), 0);
+    ground();
+    ASSERT_EQ(paint("Mountains", 9), PaintOutcome::Painted);
+    const std::vector<int> rows = ridgeRows();
+    for (size_t x = 1; x < rows.size(); ++x) EXPECT_LE(std::abs(rows[x] - rows[x - 1]), 2) << x;
+
+    set("radMountHorizon", QStringLiteral("0")); // "Oben"
+    ground();
+    ASSERT_EQ(paint("Mountains", 9), PaintOutcome::Painted);
+    EXPECT_EQ(at(100, 0), Red);
+    EXPECT_EQ(at(100, 179), Blue);
+    // The same ridge, upside down.
+    EXPECT_EQ(ridgeRows(true), rows);
+}
+
+TEST_F(MountainTest, CloseColoursStillGiveTwoAndTheGradientDarkensDownwards)
+{
+    fixedColours(0x808080, 0x808080);
+    ground();
+    ASSERT_EQ(paint("Mountains", 2), PaintOutcome::Painted);
+    EXPECT_NE(at(10, 0), at(10, 179));
+    EXPECT_GE(std::abs(lumaOfPixel(at(10, 0)) - lumaOfPixel(at(10, 179))), 50);
+
+    fixedColours(Red, Blue);
+    ground();
+    ASSERT_EQ(paint("Mountains-Gradient", 2), PaintOutcome::Painted);
+    const ColorLong foot = at(120, 179);
+    EXPECT_LT(RedOf(foot), 255 / 2);
+    EXPECT_EQ(BlueOf(foot), 0);
+}
+
+TEST_F(MountainTest, ThePenDrawsRidgesOnTheClearedPicture)
+{
+    set("cmbNumbArr", QStringLiteral("3"));
+    ground();
+    ASSERT_EQ(paint("Mountains-Pen", 6), PaintOutcome::Painted);
+    // Lines only: most of the picture stays as it was, and every column is crossed.
+    EXPECT_GT(count(Ground), 240 * 180 * 8 / 10);
+    for (int x = 0; x < 240; x += 11) {
+        int crossed = 0;
+        for (int y = 0; y < 180; ++y) crossed += at(x, y) != Ground;
+        EXPECT_GE(crossed, 3) << x;
+    }
+}
+
+TEST_F(MountainTest, EveryMountainPaintsAndStops)
+{
+    s.colours().RandomValues = true;
+    s.colours().RandomColors = true;
+    expectEveryVariantPaints({"Mountains", "Mountains-Pen", "Mountains-Gradient"});
+    expectStopKeepsAPart("Mountains", 3);
+    expectStopKeepsAPart("Mountains-Gradient", 3);
+    set("cmbNumbArr", QStringLiteral("5"));
+    s.colours().RandomValues = false;
+    expectStopKeepsAPart("Mountains-Pen", 3);
+}
+
+} // namespace
