@@ -11,6 +11,7 @@
 #include "generators/polygraphics.h"
 #include "generators/polypanels.h"
 #include "generators/rosettes.h"
+#include "generators/wavegrid.h"
 #include "generators/webtiles.h"
 #include "paint/grafdialogpanel.h"
 
@@ -148,7 +149,7 @@ std::span<const PainterEntry> painterTable()
         {"PAP-Lines", Create_Papers, Prepare},
         {"PAP-Notes", Create_Papers, Prepare},
         {"PAP-Karo", Create_Papers, Prepare},
-        {"Wave-Grid", nullptr, Prepare},
+        {"Wave-Grid", paintWaveGrid, Prepare},
     };
     return table;
 }

@@ -6,6 +6,9 @@
 #include "core/picturebox.h"
 #include "core/yield.h"
 #include "generators/rosettes.h"
+#include "generators/wavegrid.h"
+#include "paint/painter.h"
+#include "core/workspace.h"
 #include "paint/colourstate.h"
 #include "paint/grafdialog.h"
 #include "paint/session.h"
@@ -281,6 +284,67 @@ TEST_F(MountainTest, EveryMountainPaintsAndStops)
     set("cmbNumbArr", QStringLiteral("5"));
     s.colours().RandomValues = false;
     expectStopKeepsAPart("Mountains-Pen", 3);
+}
+
+} // namespace
+
+namespace {
+
+// ---- Wave-Grid ----
+
+TEST_F(CentreFigures, TheWaveFamiliesKeepOnlyTheirStartsAboveAndBelowTheThresholds)
+{
+    size(712, 500);
+    Workspace &ws = s.workspace();
+    PaintContext ctx{s, ws.Bild, ws.BildUndo, ws.BildWork, readOptionVariables(s.controls(), 712, 500)};
+    for (int i = 0; i < 20; ++i) {
+        const WaveFamilies F = waveFamilies(ctx);
+        ASSERT_FALSE(F.rows.empty());
+        ASSERT_FALSE(F.columns.empty());
+        for (const Wave &r : F.rows) {
+            EXPECT_GT(std::cos(r.phase * Pi / 180), 0.9);
+            EXPECT_NEAR(r.at(0), r.base + r.amplitude * std::cos(r.phase * Pi / 180), 1e-9);
+        }
+        for (const Wave &c : F.columns) EXPECT_LT(std::sin(c.phase * Pi / 180), 0.1);
+        // The rows reach over the whole height and the columns over the whole width.
+        EXPECT_LE(F.rows.front().base, 0 + F.rows.front().amplitude + 60);
+        EXPECT_GE(F.rows.back().base, 500 - F.rows.back().amplitude - 60);
+        EXPECT_GE(F.columns.back().base, 712 - F.columns.back().amplitude - 100);
+    }
+}
+
+TEST_F(CentreFigures, TheWaveGridWeavesTheTwoColoursUnderBorderLines)
+{
+    fixedColours(Red, Blue);
+    s.colours().ColorBorder = 0x000000;
+    ground();
+    ASSERT_EQ(paint("Wave-Grid", 3), PaintOutcome::Painted);
+    // Filled: nothing of the ground is left; the cells are red or blue, the lines black, and
+    // soft edges mix them; green never appears.
+    EXPECT_EQ(count(Ground), 0);
+    EXPECT_GT(count(Red), 240 * 180 / 5);
+    EXPECT_GT(count(Blue), 240 * 180 / 5);
+    EXPECT_GT(count(0x000000), 100);
+    for (int y = 0; y < 180; y += 3)
+        for (int x = 0; x < 240; x += 3) EXPECT_EQ(GreenOf(at(x, y)), 0) << x << ' ' << y;
+
+    // Without filling only the lines are drawn, rows in the first colour and columns in the
+    // second.
+    set("XFill", QStringLiteral("0"));
+    ground();
+    ASSERT_EQ(paint("Wave-Grid", 3), PaintOutcome::Painted);
+    EXPECT_GT(count(Ground), 240 * 180 / 2);
+    EXPECT_GT(count(Red), 50);
+    EXPECT_GT(count(Blue), 50);
+    EXPECT_EQ(count(0x000000), 0);
+}
+
+TEST_F(CentreFigures, TheWaveGridPaintsWithTablesAndStops)
+{
+    expectEveryVariantPaints({"Wave-Grid"});
+    expectStopKeepsAPart("Wave-Grid", 3);
+    set("XFill", QStringLiteral("0"));
+    expectStopKeepsAPart("Wave-Grid", 3);
 }
 
 } // namespace
