@@ -1,7 +1,8 @@
-// "70th-Rotating", "70th-Rotating-Crazy": a line turning about the centre, drawn n times in
-// one turn, its two ends on circles of radius R = 0.48 of the shorter side (and a smaller
-// one), so the lines' envelope draws the figure of one of four styles, style rounded(Rnd*3)
-// (angle a = k 360 / n; k 180 / n for the diameters, which repeat after half a turn):
+// "70th-Rotating", "70th-Rotating-Crazy": a line turning about the centre (a random centre
+// lies in the middle third), drawn n times in one turn, its two ends on circles of radius
+// R = 0.48 of the shorter side (and a smaller one), so that the lines' envelope draws the
+// figure of one of four styles, style rounded(Rnd*3) (angle a = k 360 / n; k 180 / n for the
+// diameters, which repeat after half a turn):
 //
 //   0  from (R, a) to (R, a + 180): diameters, a wheel of spokes
 //   1  from (R, a) to (R, 2a): chords whose envelope is a cardioid
@@ -58,8 +59,10 @@ void Do_Rotating70th(PaintContext &ctx, bool crazy)
     const int w = ctx.opt.W, h = ctx.opt.H;
     double cx = w / 2.0, cy = h / 2.0;
     if (!ctx.opt.UseCenter) {
-        cx = rounded(rnd(ctx) * w);
-        cy = rounded(rnd(ctx) * h);
+        // A random centre in the middle third, so that most of the figure stays on the
+        // picture.
+        cx = rounded(w / 3.0 + rnd(ctx) * w / 3.0);
+        cy = rounded(h / 3.0 + rnd(ctx) * h / 3.0);
     }
     const int n = ctx.colours().RandomValues ? rounded(rnd(ctx) * 200) + 1
                                              : std::max<int>(1, ctx.opt.NumberValue);

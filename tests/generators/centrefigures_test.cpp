@@ -17,6 +17,7 @@
 
 #include <cmath>
 #include <numeric>
+#include <set>
 
 using namespace tf;
 
@@ -345,6 +346,74 @@ TEST_F(CentreFigures, TheWaveGridPaintsWithTablesAndStops)
     expectStopKeepsAPart("Wave-Grid", 3);
     set("XFill", QStringLiteral("0"));
     expectStopKeepsAPart("Wave-Grid", 3);
+}
+
+} // namespace
+
+namespace {
+
+// ---- 70th-Rotating ----
+
+TEST(RotatingLine, TheFourStylesTurnTheirEndsAsNamed)
+{
+    const double r = Pi / 180;
+    const RotatingLine spoke = rotatingLine(0, 30, 100);
+    EXPECT_DOUBLE_EQ(spoke.r1, 100);
+    EXPECT_DOUBLE_EQ(spoke.r2, 100);
+    EXPECT_NEAR(spoke.a2 - spoke.a1, Pi, 1e-12);
+    const RotatingLine cardioid = rotatingLine(1, 30, 100);
+    EXPECT_NEAR(cardioid.a2, 60 * r, 1e-12);
+    const RotatingLine rosette = rotatingLine(2, 30, 100);
+    EXPECT_DOUBLE_EQ(rosette.r2, 35);
+    EXPECT_NEAR(rosette.a2, -60 * r, 1e-12);
+    const RotatingLine star = rotatingLine(3, 30, 100);
+    EXPECT_NEAR(star.a2 - star.a1, 144 * r, 1e-12);
+}
+
+TEST_F(CentreFigures, TheRotatingLinesStayOnTheirCircleInOneColour)
+{
+    fixedColours(Red, Blue);
+    set("XCenter", QStringLiteral("1"));
+    set("cmbNumbArr", QStringLiteral("12"));
+    const double R = 0.48 * 180;
+    for (uint32_t seed : {1u, 2u, 3u, 4u, 5u}) {
+        ground();
+        ASSERT_EQ(paint("70th-Rotating", seed), PaintOutcome::Painted);
+        int outside = 0;
+        for (int y = 0; y < 180; ++y)
+            for (int x = 0; x < 240; ++x) {
+                const ColorLong c = at(x, y);
+                if (c == Ground) continue;
+                EXPECT_EQ(c, Red);
+                if (std::hypot(x - 120.0, y - 90.0) > R + 1.5) ++outside;
+            }
+        EXPECT_EQ(outside, 0) << seed;
+        EXPECT_GT(count(Red), 12 * 20) << seed;
+    }
+}
+
+TEST_F(CentreFigures, TheCrazyLinesRunFromTheFirstColourToTheSecond)
+{
+    fixedColours(Red, Blue);
+    set("XCenter", QStringLiteral("1"));
+    set("cmbNumbArr", QStringLiteral("30"));
+    ground();
+    ASSERT_EQ(paint("70th-Rotating-Crazy", 2), PaintOutcome::Painted);
+    std::set<ColorLong> colours;
+    for (int y = 0; y < 180; ++y)
+        for (int x = 0; x < 240; ++x)
+            if (at(x, y) != Ground) colours.insert(at(x, y));
+    EXPECT_GT(colours.size(), 10u);
+    for (ColorLong c : colours) EXPECT_EQ(GreenOf(c), 0);
+}
+
+TEST_F(CentreFigures, TheRotatingLinesPaintWithTablesAndStop)
+{
+    expectEveryVariantPaints({"70th-Rotating", "70th-Rotating-Crazy"});
+    s.colours().RandomValues = false;
+    set("cmbNumbArr", QStringLiteral("50"));
+    expectStopKeepsAPart("70th-Rotating", 10);
+    expectStopKeepsAPart("70th-Rotating-Crazy", 10);
 }
 
 } // namespace
