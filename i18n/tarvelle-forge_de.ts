@@ -680,6 +680,26 @@
         <source>Top</source>
         <translation>Top</translation>
     </message>
+    <message>
+        <source>Kreisverläufe</source>
+        <translation>Kreisverläufe</translation>
+    </message>
+    <message>
+        <source>Teilungen</source>
+        <translation>Teilungen</translation>
+    </message>
+    <message>
+        <source>Endwinkel</source>
+        <translation>Endwinkel</translation>
+    </message>
+    <message>
+        <source>Startwinkel</source>
+        <translation>Startwinkel</translation>
+    </message>
+    <message>
+        <source>Stift verwenden</source>
+        <translation>Stift verwenden</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

@@ -680,6 +680,26 @@
         <source>Top</source>
         <translation>Top</translation>
     </message>
+    <message>
+        <source>Kreisverläufe</source>
+        <translation>Circle gradients</translation>
+    </message>
+    <message>
+        <source>Teilungen</source>
+        <translation>Divisions</translation>
+    </message>
+    <message>
+        <source>Endwinkel</source>
+        <translation>End angle</translation>
+    </message>
+    <message>
+        <source>Startwinkel</source>
+        <translation>Start angle</translation>
+    </message>
+    <message>
+        <source>Stift verwenden</source>
+        <translation>Use pen</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

@@ -25,9 +25,28 @@ const ControlPanel &mountainsPanel()
     return panel;
 }
 
+const ControlPanel &circleGradientsPanel()
+{
+    using K = ControlKind;
+    static const ControlPanel panel{
+        QString::fromLatin1(CircleGradientsPanelName),
+        QT_TRANSLATE_NOOP("Controls", "Kreisverläufe"),
+        {
+            controlSpec("CMW1", 0, K::Value, QT_TRANSLATE_NOOP("Controls", "Teilungen"), "1", 1, 64),
+            controlSpec("CMW1", 1, K::Value, QT_TRANSLATE_NOOP("Controls", "Endwinkel"), "360", 0,
+                        360, {}, "°"),
+            controlSpec("CMW1", 2, K::Value, QT_TRANSLATE_NOOP("Controls", "Startwinkel"), "0", 0,
+                        360, {}, "°"),
+            controlSpec("XCMUsePen", -1, K::Checked,
+                        QT_TRANSLATE_NOOP("Controls", "Stift verwenden"), "0", 0, 1),
+        }};
+    return panel;
+}
+
 void registerCentrePanels()
 {
     registerControlPanel(&mountainsPanel());
+    registerControlPanel(&circleGradientsPanel());
 }
 
 } // namespace tf

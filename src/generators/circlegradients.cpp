@@ -10,15 +10,16 @@
 //
 // (d the distance from the centre, θ the angle from the start). The colour is the ramp from
 // the first colour to the second and back (one way per unit of p), in steps: the ring step s
-// (0.05 to 0.95) gives round(1 / s) + 1 levels, so a fine step is a smooth gradient of many
-// narrow rings and a coarse one a few bold bands. With "Stift verwenden" the edges between
+// (0.05 to 0.95) gives round(1 / s²) + 1 levels, so a fine step is a smooth gradient of many
+// narrow rings (401 levels at 0.05) and a coarse one a few bold bands (2 at 0.95). With "Stift verwenden" the edges between
 // the levels are drawn as soft lines of the pen's width in ColorBorder. The rim of the disc
 // and the sector's edges are soft; what lies outside keeps the picture.
 //
 // "Radial" is one disc of radius (Rnd*w/2 + 50) (random values) or reaching the farthest
-// corner (the panel); "Sunburst" reaches the farthest corner always, so its rays meet every
-// edge. "Radial-4spirals" paints eight spiral discs at the centres of the four quarters: four
-// covering the quarters, then four of half the radius, the colours exchanged from disc to
+// corner (the panel), about the centre or a random point of the middle third; "Sunburst"
+// reaches the farthest corner always, so its rays meet every edge. "Radial-4spirals" paints
+// eight spiral discs at the centres of the four quarters: four of radius (Rnd*w/2 + 50)/2,
+// at least covering their quarters, then four of half that radius, the colours exchanged from disc to
 // disc and each second spiral wound the other way, like meshing gears.
 #include "generators/circlegradients.h"
 
@@ -44,7 +45,7 @@ using namespace fig;
 int ringLevels(double ringStep)
 {
     const double s = std::clamp(ringStep, 0.05, 0.95);
-    return int(std::lround(1.0 / s)) + 1;
+    return int(std::lround(1.0 / (s * s))) + 1;
 }
 
 double rampAt(double p, int levels)
@@ -152,8 +153,9 @@ void Do_CircleGradients(PaintContext &ctx, CircleGradient type)
     const int w = ctx.opt.W, h = ctx.opt.H;
     double cx = w / 2.0, cy = h / 2.0;
     if (!ctx.opt.UseCenter) {
-        cx = rounded(rnd(ctx) * w);
-        cy = rounded(rnd(ctx) * h);
+        // A random centre in the middle third, so that most of the disc stays on the picture.
+        cx = rounded(w / 3.0 + rnd(ctx) * w / 3.0);
+        cy = rounded(h / 3.0 + rnd(ctx) * h / 3.0);
     }
     const double k = type == CircleGradient::FourSpirals ? 0.5 : 1.0;
     const Controls &controls = ctx.session.controls();
@@ -208,8 +210,8 @@ void Do_CircleGradients(PaintContext &ctx, CircleGradient type)
         // places from disc to disc and the spirals turn alternately.
         const double qx[4] = {w / 4.0, 3 * w / 4.0, 3 * w / 4.0, w / 4.0};
         const double qy[4] = {h / 4.0, h / 4.0, 3 * h / 4.0, 3 * h / 4.0};
-        if (!ctx.colours().RandomValues) S.radius = std::hypot(w / 4.0, h / 4.0) * 1.05;
-        const double big = S.radius;
+        // The large discs cover their quarters at least.
+        const double big = std::max(S.radius, std::hypot(w / 4.0, h / 4.0) * 1.05);
         S.kind = ScheibeKind::Spiral;
         for (int i = 0; i < 8; ++i) {
             S.cx = qx[i % 4];

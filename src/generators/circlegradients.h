@@ -27,7 +27,7 @@ struct Scheibe {
     int pen = 0;
 };
 
-// The levels of a ring step: round(1 / s) + 1, s held to 0.05..0.95.
+// The levels of a ring step: round(1 / s²) + 1, s held to 0.05..0.95.
 int ringLevels(double ringStep);
 // The ramp's value (0 the first colour, 1 the second) at p: up over [0, 1], down over
 // [1, 2], in `levels` steps.

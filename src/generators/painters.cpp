@@ -4,6 +4,7 @@
 #include "generators/gradients.h"
 #include "generators/borders.h"
 #include "generators/centrepanels.h"
+#include "generators/circlegradients.h"
 #include "generators/curves.h"
 #include "generators/matrixrain.h"
 #include "generators/mountains.h"
@@ -86,9 +87,9 @@ std::span<const PainterEntry> painterTable()
         {"Chromo-Steps", Create_GradientChromo, Prepare},
         {"Framegradient-Transp", Create_GradientFrames, Prepare},
         {"Frequenzgradient-Transp", Create_GradientFrequences, Prepare},
-        {"Radial", nullptr, Prepare},
-        {"Sunburst", nullptr, Prepare},
-        {"Radial-4spirals", nullptr, Prepare},
+        {"Radial", paintRadial, Prepare},
+        {"Sunburst", paintSunburst, Prepare},
+        {"Radial-4spirals", paintRadial4Spirals, Prepare},
         {"Neonbars vertical", paintNeonbarsVertical, Prepare},
         {"Neon vertical", paintNeonVertical, Prepare},
         {"Horizon", paintHorizon, Prepare},

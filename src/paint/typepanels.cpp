@@ -42,6 +42,9 @@ std::span<const TypePanel> typePanels()
         {"Mountains", "feat_07Mountains"},
         {"Mountains-Pen", "feat_07Mountains"},
         {"Mountains-Gradient", "feat_07Mountains"},
+        {"Radial", "feat_04CircleGradients"},
+        {"Sunburst", "feat_04CircleGradients"},
+        {"Radial-4spirals", "feat_04CircleGradients"},
     };
     return table;
 }

@@ -5,6 +5,7 @@
 
 #include "core/picturebox.h"
 #include "core/yield.h"
+#include "generators/circlegradients.h"
 #include "generators/rosettes.h"
 #include "generators/wavegrid.h"
 #include "paint/painter.h"
@@ -414,6 +415,141 @@ TEST_F(CentreFigures, TheRotatingLinesPaintWithTablesAndStop)
     set("cmbNumbArr", QStringLiteral("50"));
     expectStopKeepsAPart("70th-Rotating", 10);
     expectStopKeepsAPart("70th-Rotating-Crazy", 10);
+}
+
+} // namespace
+
+namespace {
+
+// ---- The circle gradients ----
+
+TEST(CircleRamp, TheRingStepGivesTheLevelsAndTheRampRunsOutAndBack)
+{
+    EXPECT_EQ(ringLevels(0.05), 401);
+    EXPECT_EQ(ringLevels(0.5), 5);
+    EXPECT_EQ(ringLevels(0.95), 2);
+    EXPECT_EQ(ringLevels(0.0), 401); // held to 0.05
+    EXPECT_EQ(ringLevels(2.0), 2);   // held to 0.95
+    EXPECT_DOUBLE_EQ(rampAt(0, 5), 0);
+    EXPECT_DOUBLE_EQ(rampAt(1, 5), 1);
+    EXPECT_DOUBLE_EQ(rampAt(2, 5), 0);
+    EXPECT_DOUBLE_EQ(rampAt(0.5, 5), 0.5);
+    EXPECT_DOUBLE_EQ(rampAt(1.5, 5), 0.5);
+    EXPECT_DOUBLE_EQ(rampAt(-0.5, 5), 0.5);
+    // Two levels: the first colour, then the second, nothing between.
+    EXPECT_DOUBLE_EQ(rampAt(0.3, 2), 0);
+    EXPECT_DOUBLE_EQ(rampAt(0.7, 2), 1);
+}
+
+struct CircleTest : CentreFigures {
+    void SetUp() override
+    {
+        CentreFigures::SetUp();
+        fixedColours(Red, Blue);
+        set("XCenter", QStringLiteral("1"));
+        set("Scrollstep", QStringLiteral("0")); // the finest ring step
+        set("CMW1", QStringLiteral("1"), 0);
+        set("CMW1", QStringLiteral("360"), 1);
+        set("CMW1", QStringLiteral("0"), 2);
+        set("XCMUsePen", QStringLiteral("0"));
+    }
+};
+
+TEST_F(CircleTest, RadialRunsFromTheFirstColourAtTheHeartToTheSecondAtTheFarthestCorner)
+{
+    ground();
+    ASSERT_EQ(paint("Radial", 1), PaintOutcome::Painted);
+    EXPECT_EQ(at(120, 90), Red);
+    const ColorLong corner = at(1, 1);
+    EXPECT_GT(BlueOf(corner), 240);
+    EXPECT_LT(RedOf(corner), 15);
+    // Outwards the red falls and the blue rises, step by step.
+    for (int x = 121; x < 239; ++x) {
+        EXPECT_LE(RedOf(at(x, 90)), RedOf(at(x - 1, 90))) << x;
+        EXPECT_GE(BlueOf(at(x, 90)), BlueOf(at(x - 1, 90))) << x;
+        EXPECT_EQ(GreenOf(at(x, 90)), 0);
+    }
+    // Mirror images about the centre are equal.
+    EXPECT_EQ(at(150, 90), at(90, 90));
+    EXPECT_EQ(at(120, 60), at(120, 120));
+}
+
+TEST_F(CircleTest, TheSectorRunsCounterClockwiseFromTheStartToTheEndAngle)
+{
+    set("CMW1", QStringLiteral("90"), 1);
+    ground();
+    ASSERT_EQ(paint("Radial", 1), PaintOutcome::Painted);
+    // The quarter up and to the right of the centre is painted, the other three keep the
+    // ground.
+    EXPECT_NE(at(160, 50), Ground);
+    EXPECT_EQ(at(80, 50), Ground);
+    EXPECT_EQ(at(80, 130), Ground);
+    EXPECT_EQ(at(160, 130), Ground);
+    // An end before the start wraps round: 270 to 90 is the right half.
+    set("CMW1", QStringLiteral("270"), 2);
+    ground();
+    ASSERT_EQ(paint("Radial", 1), PaintOutcome::Painted);
+    EXPECT_NE(at(160, 50), Ground);
+    EXPECT_NE(at(160, 130), Ground);
+    EXPECT_EQ(at(80, 50), Ground);
+    EXPECT_EQ(at(80, 130), Ground);
+}
+
+TEST_F(CircleTest, SunburstRaysTurnOutAndBackPerDivision)
+{
+    set("CMW1", QStringLiteral("2"), 0);
+    ground();
+    ASSERT_EQ(paint("Sunburst", 1), PaintOutcome::Painted);
+    // Two divisions: the first colour at 0 and 180 degrees, the second at 90 and 270.
+    EXPECT_EQ(at(200, 90), Red);
+    EXPECT_EQ(at(40, 90), Red);
+    const ColorLong up = at(120, 10), down = at(120, 170);
+    EXPECT_GT(BlueOf(up), 245);
+    EXPECT_GT(BlueOf(down), 245);
+    EXPECT_EQ(count(Ground), 0);
+}
+
+TEST_F(CircleTest, ThePenDrawsTheEdgesBetweenTheLevelsInTheBorderColour)
+{
+    s.colours().ColorBorder = 0x00FF00 + 1; // a colour neither ramp colour holds
+    set("Scrollstep", QStringLiteral("255")); // two levels, one edge per ring
+    set("CMW1", QStringLiteral("3"), 0);
+    ground();
+    ASSERT_EQ(paint("Radial", 1), PaintOutcome::Painted);
+    EXPECT_EQ(count(0x00FF01), 0);
+    set("XCMUsePen", QStringLiteral("1"));
+    set("cmbPen", QStringLiteral("3"));
+    ground();
+    ASSERT_EQ(paint("Radial", 1), PaintOutcome::Painted);
+    EXPECT_GT(count(0x00FF01), 200);
+}
+
+TEST_F(CircleTest, FourSpiralsChangeTheirColoursFromQuarterToQuarter)
+{
+    ground();
+    ASSERT_EQ(paint("Radial-4spirals", 1), PaintOutcome::Painted);
+    // The smaller discs lie on top: their hearts alternate between the two colours.
+    EXPECT_EQ(at(60, 45), Blue);
+    EXPECT_EQ(at(180, 45), Red);
+    EXPECT_EQ(at(180, 135), Blue);
+    EXPECT_EQ(at(60, 135), Red);
+    EXPECT_EQ(count(Ground), 0);
+}
+
+TEST_F(CircleTest, CloseColoursStillGiveAGradient)
+{
+    fixedColours(0x404040, 0x404040);
+    ground();
+    ASSERT_EQ(paint("Radial", 1), PaintOutcome::Painted);
+    EXPECT_GE(std::abs(lumaOfPixel(at(120, 90)) - lumaOfPixel(at(1, 1))), 60);
+}
+
+TEST_F(CircleTest, EveryCircleGradientPaintsAndStops)
+{
+    s.colours().RandomValues = true;
+    s.colours().RandomColors = true;
+    expectEveryVariantPaints({"Radial", "Sunburst", "Radial-4spirals"});
+    expectStopKeepsAPart("Radial-4spirals", 4);
 }
 
 } // namespace
