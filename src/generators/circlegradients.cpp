@@ -78,11 +78,11 @@ double angleDistance(double a, double b)
 
 } // namespace
 
-void Kreis_Scheibe(PictureBox &pic, const Scheibe &S)
+bool Kreis_Scheibe(PictureBox &pic, const Scheibe &S, StopRule &stop)
 {
     DeviceContext &dc = pic.hDC();
     const int w = dc.width(), h = dc.height();
-    if (S.radius <= 0 || w <= 0 || h <= 0) return;
+    if (S.radius <= 0 || w <= 0 || h <= 0) return true;
     const int levels = ringLevels(S.ringStep);
     const double start = S.startDeg * toRad;
     double span = (S.endDeg - S.startDeg) * toRad;
@@ -143,8 +143,14 @@ void Kreis_Scheibe(PictureBox &pic, const Scheibe &S)
             const ColorLong under = fromQRgb(was);
             row[x] = toQRgb(cover >= 1.0 ? c : Mix_Colors(c, under, cover));
         }
+        // A large disc gives way every 64 rows.
+        if ((y - y0) % 64 == 63 && !stop.next()) {
+            pic.markChanged();
+            return false;
+        }
     }
     pic.markChanged();
+    return true;
 }
 
 void Do_CircleGradients(PaintContext &ctx, CircleGradient type)
@@ -203,8 +209,7 @@ void Do_CircleGradients(PaintContext &ctx, CircleGradient type)
         S.kind = type == CircleGradient::Radial ? ScheibeKind::Rings : ScheibeKind::Rays;
         S.from = c1;
         S.to = c2;
-        Kreis_Scheibe(ctx.XBild, S);
-        stop.next();
+        if (Kreis_Scheibe(ctx.XBild, S, stop)) stop.next();
     } else {
         // Eight discs: the four quarters, then four of half the radius; the colours change
         // places from disc to disc and the spirals turn alternately.
@@ -221,8 +226,7 @@ void Do_CircleGradients(PaintContext &ctx, CircleGradient type)
             S.from = swap ? c2 : c1;
             S.to = swap ? c1 : c2;
             S.clockwise = i % 2 == 1;
-            Kreis_Scheibe(ctx.XBild, S);
-            if (!stop.next()) break;
+            if (!Kreis_Scheibe(ctx.XBild, S, stop) || !stop.next()) break;
         }
     }
     end(ctx);

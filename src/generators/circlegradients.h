@@ -9,6 +9,7 @@ namespace tf {
 
 struct PaintContext;
 class PictureBox;
+class StopRule;
 
 enum class ScheibeKind { Rings, Rays, Spiral };
 
@@ -34,8 +35,9 @@ int ringLevels(double ringStep);
 double rampAt(double p, int levels);
 
 // Paints the disc into the picture, per pixel, its rim and sector edges soft; the rest of
-// the picture stays.
-void Kreis_Scheibe(PictureBox &pic, const Scheibe &S);
+// the picture stays. Gives way every 64 rows; false when a Stop came (the rows painted so
+// far stay).
+bool Kreis_Scheibe(PictureBox &pic, const Scheibe &S, StopRule &stop);
 
 enum class CircleGradient { Radial, Sunburst, FourSpirals };
 void Do_CircleGradients(PaintContext &ctx, CircleGradient type);
