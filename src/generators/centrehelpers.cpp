@@ -26,7 +26,7 @@ ColorLong apartFrom(ColorLong a, ColorLong b, double gap)
 {
     const int apart = std::max({std::abs(RedOf(a) - RedOf(b)), std::abs(GreenOf(a) - GreenOf(b)),
                                 std::abs(BlueOf(a) - BlueOf(b))});
-    if (apart >= gap) return b;
+    if (apart >= gap && std::abs(lumaOf(a) - lumaOf(b)) >= gap / 2) return b;
     const ColorLong towards = lumaOf(a) >= 128 ? 0x000000 : 0xFFFFFF;
     return Mix_Colors(towards, b, 0.5);
 }

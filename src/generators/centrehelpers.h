@@ -18,8 +18,10 @@ void putRow(PictureBox &pic, int y, const uint32_t *row, int n);
 // The brightness of a colour, 0..255 (0.299 red, 0.587 green, 0.114 blue).
 double lumaOf(ColorLong c);
 
-// `b` as it is when one of its channels differs from `a`'s by at least `gap`; else `b` moved
-// half way to black (when `a` is light) or to white (when `a` is dark), so the two stay apart.
+// `b` as it is when one of its channels differs from `a`'s by at least `gap` and its
+// brightness by at least half of it; else `b` moved half way to black (when `a` is light) or
+// to white (when `a` is dark), so the two stay apart (a light yellow line on white would
+// hardly show).
 ColorLong apartFrom(ColorLong a, ColorLong b, double gap = 64);
 
 } // namespace tf

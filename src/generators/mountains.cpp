@@ -3,17 +3,23 @@
 //
 // The ridge is a midpoint displacement between two random heights at the left and right
 // edges: each halving displaces the middle by up to 12 amplitudes (an eighth to a third of
-// the band) times 0.55 to the power of the depth, so the ridge has big shapes and fine crags; then from x = 0 to w the walk from
-// column to column is held to the amplitude, and every height to the band between the top
-// line and 85 % of the height. The sky above the ridge runs from the sky colour at the top to
-// a light haze at the horizon. "Mountains" fills each column below the ridge in the ground
-// colour (with "Füllen"; without it the ridge is a line), "Mountains-Gradient" with a ramp
-// from the ground colour at the ridge to its dark shade at the bottom. With "3D" each column
+// the band) times 0.55 to the power of the depth, so the ridge has big shapes and fine
+// crags; then from x = 0 to w the walk from column to column is held to the amplitude, and
+// every height to the band between the top line and 85 % of the height. The sky above the
+// ridge runs from the sky colour at the top to a light haze at the ridge's lowest point.
+// "Mountains" fills each column below the ridge in the ground colour (with "Füllen"; without
+// it the ridge is a line), "Mountains-Gradient" with a ramp from the ground colour at the
+// highest peak's height to its dark shade at the bottom. With "3D" each column
 // is lit by its slope against the column before it (x - 1), light from the upper left, in a
 // rim that fades over a fortieth of the height below the ridge (the light smoothed over 11
 // columns), so the ridge stands out like an embossed edge. "Mountains-Pen" draws the ridges as
 // lines (with random values 2 to 7, else the count): the front one in the ground colour,
-// those behind it paler towards the cleared picture, each a little higher and calmer. With the horizon "Oben" the figure is mirrored to the top.
+// those behind it paler towards the cleared picture, each a little higher and calmer. With
+// the horizon "Oben" the figure is mirrored to the top.
+//
+// Colours: with the table two cells (sky and ground), with random colours three draws for
+// the sky and three for the ground, else the second colour for the sky and the first for the
+// ground; a ground too close to the sky is moved away from it.
 #include "generators/mountains.h"
 
 #include "generators/centrehelpers.h"
@@ -96,16 +102,16 @@ Mountain mountainOptions(PaintContext &ctx, bool horizonTop)
     // The amplitude is set for a picture of 712 pixels; a smaller one gets smaller crags.
     if (!ctx.colours().RandomValues) M.amplitude *= std::max(1, w) / 712.0;
     M.amplitude = std::max(1.0, M.amplitude);
-    if (ctx.colours().RandomColors) {
-        int ch[6];
-        for (int &v : ch) v = rounded(rnd(ctx) * 255);
-        M.sky = RGB(ch[0], ch[1], ch[2]);
-        M.ground = RGB(ch[3], ch[4], ch[5]);
-    } else if (ctx.opt.UseDuoTable) {
+    if (ctx.opt.UseDuoTable) {
         M.sky = figureColourBack(ctx, 8);
         M.ground = figureColour(ctx, 8);
         if (M.sky == NoColour) M.sky = ctx.colours().ColorBack;
         if (M.ground == NoColour) M.ground = ctx.colours().ColorFore;
+    } else if (ctx.colours().RandomColors) {
+        int ch[6];
+        for (int &v : ch) v = rounded(rnd(ctx) * 255);
+        M.sky = RGB(ch[0], ch[1], ch[2]);
+        M.ground = RGB(ch[3], ch[4], ch[5]);
     } else {
         M.sky = ctx.colours().ColorBack;
         M.ground = ctx.colours().ColorFore;
@@ -214,7 +220,7 @@ void penMountains(PaintContext &ctx, const Mountain &M, StopRule &stop)
         const std::vector<double> ridge =
             mountainRidge(ctx, w, M.amplitude * (1 + i * 0.3), lo, std::min(hi, h - 1.0));
         const double depth = ridges > 1 ? double(ridges - 1 - i) / ridges : 0.0;
-        const ColorLong c = blend(apartFrom(paper, M.ground), paper, depth * 0.75);
+        const ColorLong c = blend(apartFrom(paper, M.ground), paper, depth * 0.6);
         const auto yAt = [&](int x) {
             const double v = ridge[size_t(x)];
             return M.mirrored ? h - 1 - v : v;
