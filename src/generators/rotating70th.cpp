@@ -11,8 +11,9 @@
 //
 // One colour for all lines (channels rounded(Rnd*256) with random colours, a table cell with
 // the table, else the first colour); "Crazy" takes a new colour for every line (without
-// random colours or the table a ramp from the first colour to the second). Lines go through
-// AA_Line with anti-aliasing on, else Line, in the pen's width.
+// random colours or the table a ramp from the first colour to the second); a colour close to
+// the cleared picture's is moved away from it. Lines go through AA_Line with anti-aliasing
+// on, else Line, in the pen's width.
 #include "generators/rosettes.h"
 
 #include "generators/centrehelpers.h"
@@ -73,6 +74,8 @@ void Do_Rotating70th(PaintContext &ctx, bool crazy)
     const ColorLong back = apartFrom(0xFFFFFF, ctx.colours().ColorBack);
     ColorLong colour = table ? figureColour(ctx, n) : random ? randomChannels(ctx) : fore;
     const double R = 0.48 * std::min(w, h);
+    // A line too close to the cleared picture's colour would hardly show.
+    const ColorLong paper = ctx.XBild.Point(int(cx), int(cy));
     const int pen = std::max<int>(1, ctx.opt.PenWidth);
     for (int k = 1; k <= n; ++k) {
         if (crazy) {
@@ -84,7 +87,8 @@ void Do_Rotating70th(PaintContext &ctx, bool crazy)
         const RotatingLine L = rotatingLine(style, k * (style == 0 ? 180.0 : 360.0) / n, R);
         if (colour != NoColour)
             line(ctx, cx + L.r1 * std::cos(L.a1), cy - L.r1 * std::sin(L.a1),
-                 cx + L.r2 * std::cos(L.a2), cy - L.r2 * std::sin(L.a2), colour, pen);
+                 cx + L.r2 * std::cos(L.a2), cy - L.r2 * std::sin(L.a2),
+                 apartFrom(paper, colour), pen);
         if (!stop.next()) break;
     }
     end(ctx);

@@ -5,8 +5,8 @@
 // wheel's radius from its middle (beyond the rim the curve makes loops, near the middle it is
 // a soft wavy band). The ring is sized so that the curve reaches 0.46 of the shorter side
 // from the centre; a random centre lies in the middle third of the picture. One colour
-// (moved away from the cleared picture's when the two are close), or with the colour table
-// one cell a turn; the line is always anti-aliased, in the pen's width.
+// or with the colour table one cell a turn, each moved away from the cleared picture's colour
+// when the two are close; the line is always anti-aliased, in the pen's width.
 #include "generators/centrehelpers.h"
 #include "generators/figures.h"
 #include "generators/longrun.h"
@@ -66,10 +66,13 @@ bool Draw_Spirograph(PaintContext &ctx, double cx, double cy, int r, int k, doub
     const int perTurn = std::clamp(int(way / 2), 180, 40000);
     const int width = std::max<int>(1, ctx.opt.PenWidth);
     const bool table = ctx.opt.UseDuoTable;
+    // A colour close to the cleared picture's would hardly show.
+    const ColorLong paper = ctx.XBild.Point(int(cx), int(cy));
 
     double px = cx + inner + pen, py = cy;
     for (int turn = 0; turn < g.turns; ++turn) {
-        const ColorLong c = table ? tableColour(ctx, turn + 1, g.turns) : colour;
+        ColorLong c = table ? tableColour(ctx, turn + 1, g.turns) : colour;
+        if (c != NoColour) c = apartFrom(paper, c);
         for (int i = 1; i <= perTurn; ++i) {
             const double t = 2 * Pi * (turn + double(i) / perTurn);
             const double x = cx + inner * std::cos(t) + pen * std::cos(spin * t);
@@ -112,8 +115,6 @@ void Do_Spirograph(PaintContext &ctx)
         colour = RGB(red, green, blue);
     }
     begin(ctx, k);
-    // A colour close to the cleared picture would hardly show.
-    colour = apartFrom(ctx.XBild.Point(int(cx), int(cy)), colour);
     Draw_Spirograph(ctx, cx, cy, r, k, aspect, colour, stop);
     end(ctx);
 }
