@@ -553,3 +553,23 @@ TEST_F(CircleTest, EveryCircleGradientPaintsAndStops)
 }
 
 } // namespace
+
+namespace {
+
+TEST_F(CentreFigures, EveryTypePaintsTinyAndThinPicturesWithoutAFault)
+{
+    const char *const keys[] = {"Spirograph", "Mountains", "Mountains-Pen", "Mountains-Gradient",
+                                "Wave-Grid", "70th-Rotating", "70th-Rotating-Crazy", "Radial",
+                                "Sunburst", "Radial-4spirals"};
+    for (const auto &[w, h] : {std::pair{1, 1}, {2, 3}, {7, 1}, {1, 9}, {900, 2}}) {
+        size(w, h);
+        for (bool randomValues : {true, false}) {
+            s.colours().RandomValues = randomValues;
+            for (const char *key : keys)
+                EXPECT_EQ(paint(key, 3), PaintOutcome::Painted) << key << ' ' << w << 'x' << h;
+        }
+    }
+    EXPECT_TRUE(prompter.asked().empty()) << prompter.lastText().toStdString();
+}
+
+} // namespace
