@@ -101,9 +101,12 @@ bool Kreis_Scheibe(PictureBox &pic, const Scheibe &S, StopRule &stop)
             const double d = std::hypot(dx, dy);
             double cover = std::clamp(S.radius - d + 0.5, 0.0, 1.0);
             if (cover <= 0) continue;
-            double theta = std::atan2(dy, dx) - start;
-            theta = std::fmod(theta, 2 * Pi);
-            if (theta < 0) theta += 2 * Pi;
+            // Whole rings need no angle.
+            double theta = 0;
+            if (!whole || S.kind != ScheibeKind::Rings) {
+                theta = std::fmod(std::atan2(dy, dx) - start, 2 * Pi);
+                if (theta < 0) theta += 2 * Pi;
+            }
             if (!whole) {
                 if (theta > span) {
                     // Outside the sector: soft within a pixel of its edges.
