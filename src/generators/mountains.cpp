@@ -14,8 +14,9 @@
 // rim that fades over a fortieth of the height below the ridge (the light smoothed over 11
 // columns), so the ridge stands out like an embossed edge. "Mountains-Pen" draws the ridges as
 // lines (with random values 2 to 7, else the count): the front one in the ground colour,
-// those behind it paler towards the cleared picture, each a little higher and calmer. With
-// the horizon "Oben" the figure is mirrored to the top.
+// those behind it paler towards the cleared picture, each a little higher and calmer, and
+// each nearer range hiding the lines behind it. With the horizon "Oben" the figure is
+// mirrored to the top.
 //
 // Colours: with the table two cells (sky and ground), with random colours three draws for
 // the sky and three for the ground, else the second colour for the sky and the first for the
@@ -213,6 +214,7 @@ void penMountains(PaintContext &ctx, const Mountain &M, StopRule &stop)
     const double first = std::max(M.top, h * 0.25);
     const double band = (h * 0.85 - first) / (ridges + 1);
     const ColorLong paper = ctx.XBild.Point(w / 2, h / 2);
+    const QImage cleared = ctx.XBild.Image().copy();
     for (int i = 0; i < ridges; ++i) {
         // Ridge i lies i bands lower; the front one (the last) in the ground colour, those
         // behind it paler towards the cleared picture.
@@ -225,6 +227,19 @@ void penMountains(PaintContext &ctx, const Mountain &M, StopRule &stop)
             const double v = ridge[size_t(x)];
             return M.mirrored ? h - 1 - v : v;
         };
+        // The nearer range hides what lies behind it: below its ridge the picture as it was
+        // cleared comes back.
+        if (i > 0) {
+            DeviceContext &dc = ctx.XBild.hDC();
+            for (int y = 0; y < std::min(h, dc.height()); ++y) {
+                auto *row = reinterpret_cast<uint32_t *>(dc.scanLine(y));
+                const auto *was = reinterpret_cast<const uint32_t *>(cleared.constScanLine(y));
+                const int depthRow = M.mirrored ? h - 1 - y : y;
+                for (int x = 0; x < std::min(w, dc.width()); ++x)
+                    if (depthRow > ridge[size_t(x)] + pen) row[x] = was[x];
+            }
+            ctx.XBild.markChanged();
+        }
         for (int x = 1; x < w; ++x) line(ctx, x - 1, yAt(x - 1), x, yAt(x), c, pen);
         if (!stop.next()) break;
     }
