@@ -196,9 +196,10 @@ void fillMountain(PaintContext &ctx, const Mountain &M, const std::vector<double
     if (!fill) {
         const int pen = std::max<int>(1, ctx.opt.PenWidth);
         ctx.XBild.setDrawWidth(pen);
-        for (int x = 1; x < w; ++x)
+        // One segment past the last column, since a line leaves out its end point.
+        for (int x = 1; x <= w; ++x)
             ctx.XBild.Line(x - 1, rowOf(M, int(ridge[size_t(x - 1)]), h), x,
-                           rowOf(M, int(ridge[size_t(x)]), h), M.ground);
+                           rowOf(M, int(ridge[size_t(std::min(x, w - 1))]), h), M.ground);
     }
 }
 
@@ -240,7 +241,9 @@ void penMountains(PaintContext &ctx, const Mountain &M, StopRule &stop)
             }
             ctx.XBild.markChanged();
         }
-        for (int x = 1; x < w; ++x) line(ctx, x - 1, yAt(x - 1), x, yAt(x), c, pen);
+        // One segment past the last column, since a line leaves out its end point.
+        for (int x = 1; x <= w; ++x)
+            line(ctx, x - 1, yAt(x - 1), x, yAt(std::min(x, w - 1)), c, pen);
         if (!stop.next()) break;
     }
 }

@@ -267,13 +267,17 @@ TEST_F(MountainTest, ThePenDrawsRidgesOnTheClearedPicture)
     set("cmbNumbArr", QStringLiteral("3"));
     ground();
     ASSERT_EQ(paint("Mountains-Pen", 6), PaintOutcome::Painted);
-    // Lines only: most of the picture stays as it was, and every column is crossed.
+    // Lines only: most of the picture stays as it was, every column is crossed, and most
+    // show all three ranges (a nearer range hides the lines behind it where they dip below).
     EXPECT_GT(count(Ground), 240 * 180 * 8 / 10);
-    for (int x = 0; x < 240; x += 11) {
+    int allThree = 0;
+    for (int x = 0; x < 240; ++x) {
         int crossed = 0;
         for (int y = 0; y < 180; ++y) crossed += at(x, y) != Ground;
-        EXPECT_GE(crossed, 3) << x;
+        EXPECT_GE(crossed, 1) << x;
+        allThree += crossed >= 3;
     }
+    EXPECT_GT(allThree, 120);
 }
 
 TEST_F(MountainTest, EveryMountainPaintsAndStops)
