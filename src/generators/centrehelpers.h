@@ -23,5 +23,8 @@ double lumaOf(ColorLong c);
 // to white (when `a` is dark), so the two stay apart (a light yellow line on white would
 // hardly show).
 ColorLong apartFrom(ColorLong a, ColorLong b, double gap = 64);
+// The gap a thin line keeps from the picture it is drawn on: a line shows less of its colour
+// than an area does.
+constexpr double LineGap = 112;
 
 } // namespace tf

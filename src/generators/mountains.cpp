@@ -223,7 +223,7 @@ void penMountains(PaintContext &ctx, const Mountain &M, StopRule &stop)
         const std::vector<double> ridge =
             mountainRidge(ctx, w, M.amplitude * (1 + i * 0.3), lo, std::min(hi, h - 1.0));
         const double depth = ridges > 1 ? double(ridges - 1 - i) / ridges : 0.0;
-        const ColorLong c = blend(apartFrom(paper, M.ground), paper, depth * 0.6);
+        const ColorLong c = blend(apartFrom(paper, M.ground, LineGap), paper, depth * 0.6);
         const auto yAt = [&](int x) {
             const double v = ridge[size_t(x)];
             return M.mirrored ? h - 1 - v : v;

@@ -88,7 +88,7 @@ void Do_Rotating70th(PaintContext &ctx, bool crazy)
         if (colour != NoColour)
             line(ctx, cx + L.r1 * std::cos(L.a1), cy - L.r1 * std::sin(L.a1),
                  cx + L.r2 * std::cos(L.a2), cy - L.r2 * std::sin(L.a2),
-                 apartFrom(paper, colour), pen);
+                 apartFrom(paper, colour, LineGap), pen);
         if (!stop.next()) break;
     }
     end(ctx);

@@ -72,7 +72,7 @@ bool Draw_Spirograph(PaintContext &ctx, double cx, double cy, int r, int k, doub
     double px = cx + inner + pen, py = cy;
     for (int turn = 0; turn < g.turns; ++turn) {
         ColorLong c = table ? tableColour(ctx, turn + 1, g.turns) : colour;
-        if (c != NoColour) c = apartFrom(paper, c);
+        if (c != NoColour) c = apartFrom(paper, c, LineGap);
         for (int i = 1; i <= perTurn; ++i) {
             const double t = 2 * Pi * (turn + double(i) / perTurn);
             const double x = cx + inner * std::cos(t) + pen * std::cos(spin * t);
