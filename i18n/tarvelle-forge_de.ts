@@ -664,6 +664,42 @@
         <source>Jalousie step 1-255</source>
         <translation>Jalousie step 1-255</translation>
     </message>
+    <message>
+        <source>Berge</source>
+        <translation>Berge</translation>
+    </message>
+    <message>
+        <source>3D</source>
+        <translation>3D</translation>
+    </message>
+    <message>
+        <source>Amplitude</source>
+        <translation>Amplitude</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Kreisverläufe</source>
+        <translation>Kreisverläufe</translation>
+    </message>
+    <message>
+        <source>Teilungen</source>
+        <translation>Teilungen</translation>
+    </message>
+    <message>
+        <source>Endwinkel</source>
+        <translation>Endwinkel</translation>
+    </message>
+    <message>
+        <source>Startwinkel</source>
+        <translation>Startwinkel</translation>
+    </message>
+    <message>
+        <source>Stift verwenden</source>
+        <translation>Stift verwenden</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

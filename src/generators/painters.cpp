@@ -3,12 +3,16 @@
 #include "generators/gradientpanels.h"
 #include "generators/gradients.h"
 #include "generators/borders.h"
+#include "generators/centrepanels.h"
+#include "generators/circlegradients.h"
 #include "generators/curves.h"
 #include "generators/matrixrain.h"
+#include "generators/mountains.h"
 #include "generators/papers.h"
 #include "generators/polygraphics.h"
 #include "generators/polypanels.h"
 #include "generators/rosettes.h"
+#include "generators/wavegrid.h"
 #include "generators/webtiles.h"
 #include "paint/grafdialogpanel.h"
 
@@ -66,14 +70,14 @@ std::span<const PainterEntry> painterTable()
         {"Plasma", nullptr, Prepare},
         {"Lissajou", paintLissajou, Prepare},
         {"LissaBand", paintLissaBand, Prepare},
-        {"70th-Rotating", nullptr, Prepare},
-        {"70th-Rotating-Crazy", nullptr, Prepare},
+        {"70th-Rotating", paintRotating70th, Prepare},
+        {"70th-Rotating-Crazy", paintRotating70thCrazy, Prepare},
         {"Rosetta", paintRosetta, Prepare},
         {"Rosetta-Pixelized", paintRosettaPixelized, Prepare},
         {"Rosetta-Crazy", paintRosettaCrazy, Prepare},
         {"Rosetta-Pixelized-Crazy", paintRosettaPixelizedCrazy, Prepare},
         {"Thread-Rosette", Circle_Rosette, Prepare},
-        {"Spirograph", nullptr, Prepare},
+        {"Spirograph", Do_Spirograph, Prepare},
         {"Squares-In-Square", Draw_SQINSQ, Prepare},
         {"Rose", paintRose, Prepare},
         {"Rose-Crazy", paintRoseCrazy, Prepare},
@@ -83,15 +87,15 @@ std::span<const PainterEntry> painterTable()
         {"Chromo-Steps", Create_GradientChromo, Prepare},
         {"Framegradient-Transp", Create_GradientFrames, Prepare},
         {"Frequenzgradient-Transp", Create_GradientFrequences, Prepare},
-        {"Radial", nullptr, Prepare},
-        {"Sunburst", nullptr, Prepare},
-        {"Radial-4spirals", nullptr, Prepare},
+        {"Radial", paintRadial, Prepare},
+        {"Sunburst", paintSunburst, Prepare},
+        {"Radial-4spirals", paintRadial4Spirals, Prepare},
         {"Neonbars vertical", paintNeonbarsVertical, Prepare},
         {"Neon vertical", paintNeonVertical, Prepare},
         {"Horizon", paintHorizon, Prepare},
         {"Lense", paintLense, Prepare},
         {"Sky gradient", paintSkyGradient, Prepare},
-        {"Mountains-Gradient", nullptr, Prepare},
+        {"Mountains-Gradient", paintMountainsGradient, Prepare},
         {"Fixed 4 squares", paintFixed4Squares, Prepare},
         {"Randomized 4 squares", paintRandomized4Squares, Prepare},
         {"Randomized bars", paintRandomizedBars, Prepare},
@@ -102,8 +106,8 @@ std::span<const PainterEntry> painterTable()
         {"V-GradientCrazy", paintVGradientCrazy, Prepare},
         // Group 6
         {"Exchange Rates", paintExchangeRates, Prepare},
-        {"Mountains-Pen", nullptr, Prepare},
-        {"Mountains", nullptr, Prepare},
+        {"Mountains-Pen", paintMountainsPen, Prepare},
+        {"Mountains", paintMountains, Prepare},
         {"Soundwaves", paintSoundwaves, Prepare},
         {"Sinus", paintSinus, Prepare},
         {"Pulse", paintPulse, Prepare},
@@ -146,7 +150,7 @@ std::span<const PainterEntry> painterTable()
         {"PAP-Lines", Create_Papers, Prepare},
         {"PAP-Notes", Create_Papers, Prepare},
         {"PAP-Karo", Create_Papers, Prepare},
-        {"Wave-Grid", nullptr, Prepare},
+        {"Wave-Grid", paintWaveGrid, Prepare},
     };
     return table;
 }
@@ -159,6 +163,7 @@ void registerAllPanels()
         registerPolyPanels();
         registerPaperPanels();
         registerFramePanels();
+        registerCentrePanels();
         return true;
     }();
     (void)once;

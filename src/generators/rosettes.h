@@ -3,6 +3,8 @@
 // the rotating lines and the circle gradients. The long ones follow the stop rule of
 // longrun.h. Each unit says its figures at its top.
 
+#include "core/colour.h"
+
 namespace tf {
 
 struct PaintContext;
@@ -32,5 +34,41 @@ namespace tf {
 void Do_Spirals(PaintContext &ctx, bool twister);
 void paintSpiral(PaintContext &ctx);
 void paintTwister(PaintContext &ctx);
+
+} // namespace tf
+
+namespace tf {
+
+class StopRule;
+
+// spirograph.cpp: "Spirograph". The wheel that closes the curve: `lobes` loops after `turns`
+// turns round the ring, the wheel's radius ring * turns / lobes (lobes > turns, coprime).
+struct SpirographGear {
+    int turns = 1;
+    int lobes = 2;
+    double wheel = 0;
+};
+SpirographGear spirographGear(double ring, double wheel, int turns);
+// The curve of a wheel of radius about r (at 712 pixels) rolling k times round a ring that
+// fills the picture about (cx, cy), the pen at `aspect` of the wheel's radius; false when a
+// Stop came.
+bool Draw_Spirograph(PaintContext &ctx, double cx, double cy, int r, int k, double aspect,
+                     ColorLong colour, StopRule &stop);
+void Do_Spirograph(PaintContext &ctx);
+
+} // namespace tf
+
+namespace tf {
+
+// rotating70th.cpp: "70th-Rotating", "70th-Rotating-Crazy". The two ends of the k-th line
+// of `style` (0..3) at the turning angle a (degrees) on circles about the centre, as radius
+// and angle (radians, counter-clockwise with y up).
+struct RotatingLine {
+    double r1, a1, r2, a2;
+};
+RotatingLine rotatingLine(int style, double a, double R);
+void Do_Rotating70th(PaintContext &ctx, bool crazy);
+void paintRotating70th(PaintContext &ctx);
+void paintRotating70thCrazy(PaintContext &ctx);
 
 } // namespace tf

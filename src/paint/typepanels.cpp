@@ -39,6 +39,12 @@ std::span<const TypePanel> typePanels()
         {"Forms-Cut out Squares", "feat_10Rahmen"},
         {"Forms-Cut out Areas", "feat_10Rahmen"},
         {"Forms-Cut out Rects", "feat_10Rahmen"},
+        {"Mountains", "feat_07Mountains"},
+        {"Mountains-Pen", "feat_07Mountains"},
+        {"Mountains-Gradient", "feat_07Mountains"},
+        {"Radial", "feat_04CircleGradients"},
+        {"Sunburst", "feat_04CircleGradients"},
+        {"Radial-4spirals", "feat_04CircleGradients"},
     };
     return table;
 }

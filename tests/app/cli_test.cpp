@@ -186,11 +186,11 @@ TEST_F(CliTest, BadTypeControlOrValueEndWithTheirMessageAndExitCodeTwo)
 TEST_F(CliTest, ATypeWithoutPainterOrAnUnreadablePictureFailWithExitCodeOne)
 {
     const Result tunnel =
-        forge({QStringLiteral("paint"), QStringLiteral("Spirograph"), QStringLiteral("--lang"),
+        forge({QStringLiteral("paint"), QStringLiteral("PIC-DiaShow"), QStringLiteral("--lang"),
                QStringLiteral("en"), QStringLiteral("-o"), file("t.png")});
     EXPECT_EQ(tunnel.code, 1);
     EXPECT_EQ(tunnel.err,
-              QStringLiteral("tarvelle-forge: \"Spirograph\" paints nothing yet: its painter is "
+              QStringLiteral("tarvelle-forge: \"PIC-DiaShow\" paints nothing yet: its painter is "
                              "not built in.\n"));
     EXPECT_FALSE(QFile::exists(file("t.png")));
     const Result over = paint({QStringLiteral("--over"), file("missing.png")});
