@@ -972,6 +972,25 @@
     </message>
 </context>
 <context>
+    <name>Superformat</name>
+    <message>
+        <source>0 - sizes not allowed</source>
+        <translation>0 - sizes not allowed</translation>
+    </message>
+    <message>
+        <source>Superformat: %1 x %2 px = %3 x %4 cm bei %5 DPI, %6 MB</source>
+        <translation>Superformat: %1 x %2 px = %3 x %4 cm bei %5 DPI, %6 MB</translation>
+    </message>
+    <message>
+        <source>Memory problem creating Superimage!</source>
+        <translation>Memory problem creating Superimage!</translation>
+    </message>
+    <message>
+        <source>Superformat %1 x %2 wird angelegt ...</source>
+        <translation>Superformat %1 x %2 wird angelegt ...</translation>
+    </message>
+</context>
+<context>
     <name>SystemPalettes</name>
     <message>
         <source>Regenbogen</source>
