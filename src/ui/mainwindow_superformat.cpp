@@ -7,7 +7,7 @@ namespace tf::ui {
 
 MosaikShow &MainWindow::mosaikShow()
 {
-    if (!m_mosaikShow) m_mosaikShow = new MosaikShow(m_session, m_prompter, m_settings.SaveJPQ, this);
+    if (!m_mosaikShow) m_mosaikShow = new MosaikShow(m_session, m_settings.SaveJPQ, this);
     return *m_mosaikShow;
 }
 

@@ -30,8 +30,8 @@ constexpr int PrintSide = 4096;
 
 } // namespace
 
-MosaikShow::MosaikShow(Session &session, Prompter &prompter, int &SaveJPQ, QWidget *parent)
-    : QMainWindow(parent), m_session(session), m_prompter(prompter), m_SaveJPQ(SaveJPQ)
+MosaikShow::MosaikShow(Session &session, int &SaveJPQ, QWidget *parent)
+    : QMainWindow(parent), m_session(session), m_SaveJPQ(SaveJPQ)
 {
     setObjectName(QStringLiteral("frmMosaikShow"));
     setWindowFlag(Qt::Window);
@@ -109,7 +109,7 @@ bool MosaikShow::saveTo(const QString &path, const QString &tag, int quality)
         p.buttons = Buttons::YesNo;
         p.icon = Icon::Question;
         p.defaultButton = 1;
-        if (m_prompter.ask(p) != Answer::Yes) return false;
+        if (m_session.prompter().ask(p) != Answer::Yes) return false;
     }
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const WriteResult r =
@@ -119,7 +119,7 @@ bool MosaikShow::saveTo(const QString &path, const QString &tag, int quality)
         Prompt p;
         p.text = r.message;
         p.icon = Icon::Exclamation;
-        m_prompter.ask(p);
+        m_session.prompter().ask(p);
         return false;
     }
     statusBar()->showMessage(tr("Gespeichert: %1").arg(QDir::toNativeSeparators(path)), 5000);
@@ -183,7 +183,7 @@ void MosaikShow::mn_Drucken()
     job.dpi = std::max(1, int(std::lround((dpi >= 1 ? dpi : 300) * job.picture.width() /
                                           sf.SuperDIB.dib_width())));
     job.title = tr("Superformat");
-    printWithPreview(this, m_prompter, job);
+    printWithPreview(this, m_session.prompter(), job);
 }
 
 void MosaikShow::Menu_UndoRedo()
@@ -198,7 +198,7 @@ void MosaikShow::Menu_UndoRedo()
         p.text = superimageMemoryText();
         p.icon = Icon::Critical;
         p.title = QStringLiteral("Tarvelle-Forge");
-        m_prompter.ask(p);
+        m_session.prompter().ask(p);
     }
     refresh();
     emit pictureChanged();

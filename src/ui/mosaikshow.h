@@ -25,8 +25,9 @@ class SuperCanvas;
 class MosaikShow : public QMainWindow {
     Q_OBJECT
 public:
-    // `SaveJPQ` is the remembered JPEG quality of the viewers (borrowed).
-    MosaikShow(Session &session, Prompter &prompter, int &SaveJPQ, QWidget *parent = nullptr);
+    // `SaveJPQ` is the remembered JPEG quality of the viewers (borrowed). Questions and
+    // messages go through the session's prompter.
+    MosaikShow(Session &session, int &SaveJPQ, QWidget *parent = nullptr);
 
     // Shows the Superformat picture as it stands now (or that there is none).
     void refresh();
@@ -52,7 +53,6 @@ private:
     void showZoom(double zoom);
 
     Session &m_session;
-    Prompter &m_prompter;
     int &m_SaveJPQ;
     SuperCanvas *picMosaik = nullptr;
     QLabel *lblSize = nullptr;

@@ -76,17 +76,18 @@ TEST(SurfacePreview, SamplesThePartInViewAndAveragesTheOverview)
     // Beyond the zoomed picture stays black.
     EXPECT_EQ(renderSurfacePart(d, QRect(240, 0, 20, 5), 0.25).pixel(15, 0), qRgb(0, 0, 0));
     // At 2 a surface pixel covers 2 x 2 view pixels.
-    const QImage big = renderSurfacePart(d, QRect(660, 0, 4, 4), 2.0);
-    EXPECT_EQ(big.pixel(0, 0), rgbOf(Red));  // x 330: red ends at 332 less the line
-    EXPECT_EQ(big.pixel(3, 3), rgbOf(Red));
+    const QImage big = renderSurfacePart(d, QRect(646, 0, 6, 2), 2.0);
+    EXPECT_EQ(big.pixel(3, 1), rgbOf(Red)); // x 324, the last column before the line
+    EXPECT_EQ(big.pixel(4, 0), qRgb(0, 0, 0));
+    EXPECT_EQ(big.pixel(5, 1), qRgb(0, 0, 0));
 
     const QImage over = surfaceOverview(d, 256);
     EXPECT_EQ(over.size(), QSize(250, 150)); // a factor of 4
     EXPECT_EQ(over.pixel(10, 10), rgbOf(Red));
     EXPECT_EQ(over.pixel(240, 140), rgbOf(Blue));
-    // A block across the line is its mean: half black, half yellow/red.
-    const QRgb edge = over.pixel(83, 10); // x 332..335: 4 columns of the black line
-    EXPECT_EQ(qRed(edge), 0);
+    // A block is the mean of its pixels: x 324..327 are one red and three black columns.
+    EXPECT_EQ(over.pixel(81, 10), qRgb(55, 8, 8));
+    EXPECT_EQ(over.pixel(83, 10), qRgb(0, 0, 0)); // x 332..335 lie in the line
 }
 
 TEST_F(MosaikShowTest, ShowsTheSurfaceToFitAndAt100PercentAndSavesIt)
