@@ -88,6 +88,7 @@ void MosaikShow::refresh()
     for (QAction *a : {mn_SaveOther, mn_Print, mn_Fit, mn_Zoom100, mn_ZoomIn, mn_ZoomOut})
         a->setEnabled(sf.hasPicture());
     m_jpegMenu->setEnabled(sf.hasPicture());
+    lblZoom->setVisible(sf.hasPicture());
     lblSize->setText(sf.hasPicture() ? tr("%1 x %2 Pixel")
                                            .arg(sf.SuperDIB.dib_width())
                                            .arg(sf.SuperDIB.dib_height())
