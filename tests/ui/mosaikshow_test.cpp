@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScrollBar>
+#include <QWheelEvent>
 
 using namespace tf;
 
@@ -124,6 +125,19 @@ TEST_F(MosaikShowTest, ShowsTheSurfaceToFitAndAt100PercentAndSavesIt)
     EXPECT_EQ(seen.pixel(1990 - x0, 1900 - y0), rgbOf(Red));
     EXPECT_EQ(seen.pixel(2100 - x0, 1900 - y0), rgbOf(Yellow));
     screenshot(*v, "superformat_100");
+
+    // Ctrl with the mouse wheel zooms about the point under the mouse: the black lines'
+    // crossing stays where it was.
+    const QPointF at(2000 - x0, 2000 - y0);
+    QWheelEvent wheel(at, canvas->viewport()->mapToGlobal(at), QPoint(), QPoint(0, -120),
+                      Qt::NoButton, Qt::ControlModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(canvas->viewport(), &wheel);
+    EXPECT_DOUBLE_EQ(canvas->zoom(), 2.0 / 3);
+    QApplication::processEvents();
+    seen = canvas->viewport()->grab().toImage();
+    EXPECT_EQ(seen.pixel(int(at.x()), int(at.y())), qRgb(0, 0, 0));
+    EXPECT_EQ(seen.pixel(int(at.x()) - 12, int(at.y()) - 12), rgbOf(Red));
+    canvas->setZoom(1);
 
     // "+" and "-" step through the zoom steps.
     canvas->zoomIn();
