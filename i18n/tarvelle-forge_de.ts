@@ -201,6 +201,10 @@
         <source>Das Bild im Passepartout wäre größer als 14000 Pixel.</source>
         <translation>Das Bild im Passepartout wäre größer als 14000 Pixel.</translation>
     </message>
+    <message>
+        <source>Ein Superformat wird in ein eigenes Bild gemalt, nicht über ein anderes.</source>
+        <translation>Ein Superformat wird in ein eigenes Bild gemalt, nicht über ein anderes.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1008,6 +1012,25 @@
     </message>
 </context>
 <context>
+    <name>Superformat</name>
+    <message>
+        <source>0 - sizes not allowed</source>
+        <translation>0 - sizes not allowed</translation>
+    </message>
+    <message>
+        <source>Superformat: %1 x %2 px = %3 x %4 cm bei %5 DPI, %6 MB</source>
+        <translation>Superformat: %1 x %2 px = %3 x %4 cm bei %5 DPI, %6 MB</translation>
+    </message>
+    <message>
+        <source>Memory problem creating Superimage!</source>
+        <translation>Memory problem creating Superimage!</translation>
+    </message>
+    <message>
+        <source>Superformat %1 x %2 wird angelegt ...</source>
+        <translation>Superformat %1 x %2 wird angelegt ...</translation>
+    </message>
+</context>
+<context>
     <name>SystemPalettes</name>
     <message>
         <source>Regenbogen</source>
@@ -1629,6 +1652,93 @@
     <message>
         <source>Bild</source>
         <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Superformat anzeigen</source>
+        <translation>Superformat anzeigen</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::MosaikShow</name>
+    <message>
+        <source>%1 x %2 Pixel</source>
+        <translation>%1 x %2 Pixel</translation>
+    </message>
+    <message>
+        <source>Es gibt noch kein Superformat-Bild.</source>
+        <translation>Es gibt noch kein Superformat-Bild.</translation>
+    </message>
+    <message>
+        <source>Soll die Datei %1 überschrieben werden?</source>
+        <translation>Soll die Datei %1 überschrieben werden?</translation>
+    </message>
+    <message>
+        <source>Gespeichert: %1</source>
+        <translation>Gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>Das Bild wird mit %1% JPQ - Qualität gespeichert.</source>
+        <translation>Das Bild wird mit %1% JPQ - Qualität gespeichert.</translation>
+    </message>
+    <message>
+        <source>Bild speichern</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message>
+        <source>Alle Dateien (*)</source>
+        <translation>Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Superformat</source>
+        <translation>Superformat</translation>
+    </message>
+    <message>
+        <source>&amp;Datei</source>
+        <translation>&amp;Datei</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern als JPEG</source>
+        <translation>&amp;Speichern als JPEG</translation>
+    </message>
+    <message>
+        <source>Speichern andere For&amp;mate...</source>
+        <translation>Speichern andere For&amp;mate...</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>&amp;Drucken...</translation>
+    </message>
+    <message>
+        <source>S&amp;chließen</source>
+        <translation>S&amp;chließen</translation>
+    </message>
+    <message>
+        <source>&amp;Bearbeiten</source>
+        <translation>&amp;Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo / Redo</source>
+        <translation>&amp;Undo / Redo</translation>
+    </message>
+    <message>
+        <source>&amp;Ansicht</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Einpassen</source>
+        <translation>&amp;Einpassen</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>&amp;100 %</translation>
+    </message>
+    <message>
+        <source>Ver&amp;größern</source>
+        <translation>Ver&amp;größern</translation>
+    </message>
+    <message>
+        <source>Ver&amp;kleinern</source>
+        <translation>Ver&amp;kleinern</translation>
     </message>
 </context>
 <context>

@@ -201,6 +201,10 @@
         <source>Das Bild im Passepartout wäre größer als 14000 Pixel.</source>
         <translation>The picture in the passepartout would be larger than 14000 pixels.</translation>
     </message>
+    <message>
+        <source>Ein Superformat wird in ein eigenes Bild gemalt, nicht über ein anderes.</source>
+        <translation>A Superformat is painted into a picture of its own, not over another.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1008,6 +1012,25 @@
     </message>
 </context>
 <context>
+    <name>Superformat</name>
+    <message>
+        <source>0 - sizes not allowed</source>
+        <translation>0 - sizes not allowed</translation>
+    </message>
+    <message>
+        <source>Superformat: %1 x %2 px = %3 x %4 cm bei %5 DPI, %6 MB</source>
+        <translation>Superformat: %1 x %2 px = %3 x %4 cm at %5 DPI, %6 MB</translation>
+    </message>
+    <message>
+        <source>Memory problem creating Superimage!</source>
+        <translation>Memory problem creating Superimage!</translation>
+    </message>
+    <message>
+        <source>Superformat %1 x %2 wird angelegt ...</source>
+        <translation>Creating Superformat %1 x %2 ...</translation>
+    </message>
+</context>
+<context>
     <name>SystemPalettes</name>
     <message>
         <source>Regenbogen</source>
@@ -1629,6 +1652,93 @@
     <message>
         <source>Bild</source>
         <translation>Picture</translation>
+    </message>
+    <message>
+        <source>Superformat anzeigen</source>
+        <translation>Show Superformat</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::MosaikShow</name>
+    <message>
+        <source>%1 x %2 Pixel</source>
+        <translation>%1 x %2 pixels</translation>
+    </message>
+    <message>
+        <source>Es gibt noch kein Superformat-Bild.</source>
+        <translation>There is no Superformat picture yet.</translation>
+    </message>
+    <message>
+        <source>Soll die Datei %1 überschrieben werden?</source>
+        <translation>Do you want to overwrite the file %1 ?</translation>
+    </message>
+    <message>
+        <source>Gespeichert: %1</source>
+        <translation>Saved: %1</translation>
+    </message>
+    <message>
+        <source>Das Bild wird mit %1% JPQ - Qualität gespeichert.</source>
+        <translation>The picture will be saved with %1% JPQ - quality.</translation>
+    </message>
+    <message>
+        <source>Bild speichern</source>
+        <translation>Save picture</translation>
+    </message>
+    <message>
+        <source>Alle Dateien (*)</source>
+        <translation>All Files (*)</translation>
+    </message>
+    <message>
+        <source>Superformat</source>
+        <translation>Superformat</translation>
+    </message>
+    <message>
+        <source>&amp;Datei</source>
+        <translation>&amp;File</translation>
+    </message>
+    <message>
+        <source>&amp;Speichern als JPEG</source>
+        <translation>&amp;Save as JPEG</translation>
+    </message>
+    <message>
+        <source>Speichern andere For&amp;mate...</source>
+        <translation>Save other for&amp;mats...</translation>
+    </message>
+    <message>
+        <source>&amp;Drucken...</source>
+        <translation>&amp;Print...</translation>
+    </message>
+    <message>
+        <source>S&amp;chließen</source>
+        <translation>&amp;Close</translation>
+    </message>
+    <message>
+        <source>&amp;Bearbeiten</source>
+        <translation>&amp;Edit</translation>
+    </message>
+    <message>
+        <source>&amp;Undo / Redo</source>
+        <translation>&amp;Undo / Redo</translation>
+    </message>
+    <message>
+        <source>&amp;Ansicht</source>
+        <translation>&amp;View</translation>
+    </message>
+    <message>
+        <source>&amp;Einpassen</source>
+        <translation>&amp;Fit to window</translation>
+    </message>
+    <message>
+        <source>&amp;100 %</source>
+        <translation>&amp;100 %</translation>
+    </message>
+    <message>
+        <source>Ver&amp;größern</source>
+        <translation>Zoom &amp;in</translation>
+    </message>
+    <message>
+        <source>Ver&amp;kleinern</source>
+        <translation>Zoom &amp;out</translation>
     </message>
 </context>
 <context>

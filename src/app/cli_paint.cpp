@@ -5,6 +5,7 @@
 #include "core/language.h"
 #include "files/picturefile.h"
 #include "files/recipe.h"
+#include "files/surfacesave.h"
 #include "generators/painters.h"
 #include "paint/catalogue.h"
 #include "paint/grafmenu.h"
@@ -14,6 +15,7 @@
 #include "paint/paletteload.h"
 #include "paint/systempalettes.h"
 #include "paint/session.h"
+#include "paint/superformat.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -220,9 +222,19 @@ bool applyColours(Session &s, const PaintOptions &o)
 // One paint as the desktop program makes it, on a session of its own: over `over` when it is
 // not null, else on a cleared picture. Answers the exit code; `result` and `record` are set on
 // success.
+//
+// A Superformat type paints straight into the session's Superformat surface at `--size` (else
+// at the size of its --set txtSuperSize fields), which is written to `superOutput` from the
+// surface itself, without a copy and without an undo image; `result` stays null.
 int paintOnce(const PaintOptions &o, const QImage &over, QImage &result, PaintRecord &record,
-              PictureMeta &meta)
+              PictureMeta &meta, const QString &superOutput = {})
 {
+    const bool super = isSuperformatType(o.type);
+    if (super && !over.isNull()) {
+        printError(QCoreApplication::translate(
+            "Cli", "Ein Superformat wird in ein eigenes Bild gemalt, nicht über ein anderes."));
+        return ExitUsage;
+    }
     CliPrompter prompter;
     TerminalStatus status;
     Session s;
@@ -238,7 +250,18 @@ int paintOnce(const PaintOptions &o, const QImage &over, QImage &result, PaintRe
     InterruptYield interrupt;
     s.setYieldHook(&interrupt);
 
-    const QSize size = o.size.value_or(over.isNull() ? QSize(712, 712) : over.size());
+    QSize size = o.size.value_or(over.isNull() ? QSize(712, 712) : over.size());
+    if (super) {
+        if (o.size) {
+            s.controls().setRaw(ControlKey{QStringLiteral("txtSuperSize"), 0},
+                                QString::number(o.size->width()));
+            s.controls().setRaw(ControlKey{QStringLiteral("txtSuperSize"), 1},
+                                QString::number(o.size->height()));
+        }
+        // The picture control only stands by: the paint goes into the surface.
+        size = QSize(712, 712);
+        s.superformat().setKeepUndo(false);
+    }
     Workspace &ws = s.workspace();
     ws.New_BildSize(size.width(), size.height());
     if (!over.isNull()) ws.Bild.setPicture(over);
@@ -260,20 +283,30 @@ int paintOnce(const PaintOptions &o, const QImage &over, QImage &result, PaintRe
         printError(QCoreApplication::translate("Cli", "Das Malen wurde abgebrochen."));
         return ExitFailed;
     }
-    if (outcome != PaintOutcome::Painted || prompter.faultSeen() || !s.paint().lastPaint) {
+    if (outcome != PaintOutcome::Painted || prompter.faultSeen() || !s.paint().lastPaint ||
+        (super && !s.superformat().hasPicture())) {
         printError(QCoreApplication::translate("Cli", "Das Malen ist fehlgeschlagen."));
         return ExitFailed;
     }
     // Without a seed of its own the paint took one from the clock: the user may want it back.
     if (!o.seed) print(stderr, status.panelText(sbrState) + QLatin1Char('\n'));
-    result = ws.Bild.Image();
     record = *s.paint().lastPaint;
+    if (super) {
+        meta = pictureMetaOf(s, QStringList{paintCommandLine(record)});
+        QString message;
+        if (!writeSurfaceForCommand(s.superformat().SuperDIB, superOutput, meta, message)) {
+            printError(message);
+            return ExitFailed;
+        }
+        return ExitOk;
+    }
+    result = ws.Bild.Image();
     meta = pictureMetaOf(s, {});
     return ExitOk;
 }
 
 // The paints of a picture file's recipe, one over the other, at their size or `size`.
-int paintRecipe(const PaintOptions &o, QImage &result, PictureMeta &meta)
+int paintRecipe(const PaintOptions &o, const QString &output, QImage &result, PictureMeta &meta)
 {
     const QStringList lines = readPictureMeta(o.recipe).recipe;
     if (lines.isEmpty()) {
@@ -293,8 +326,16 @@ int paintRecipe(const PaintOptions &o, QImage &result, PictureMeta &meta)
         const PaintOptions step = parsePaintOptions(args->mid(1));
         PaintRecord record;
         QImage painted;
-        if (const int code = paintOnce(step, result, painted, record, meta); code != ExitOk)
+        if (isSuperformatType(step.type) && lines.size() > 1) {
+            printError(QCoreApplication::translate(
+                "Cli", "Ein Superformat wird in ein eigenes Bild gemalt, nicht über ein anderes."));
+            return ExitUsage;
+        }
+        if (const int code = paintOnce(step, result, painted, record, meta, output);
+            code != ExitOk)
             return code;
+        // A Superformat recipe is its one paint, written by paintOnce.
+        if (isSuperformatType(step.type)) return ExitOk;
         result = painted;
         recipe << paintCommandLine(record);
     }
@@ -308,11 +349,14 @@ int runPaint(const QStringList &args)
 {
     const PaintOptions o = parsePaintOptions(args);
     registerAllPanels();
+    const QString output = o.output.isEmpty()
+                               ? defaultOutput(o.recipe.isEmpty() ? o.type : QStringLiteral("recipe"))
+                               : o.output;
 
     QImage result;
     PictureMeta meta;
     if (!o.recipe.isEmpty()) {
-        if (const int code = paintRecipe(o, result, meta); code != ExitOk)
+        if (const int code = paintRecipe(o, output, result, meta); code != ExitOk)
             return code;
     } else {
         QImage over;
@@ -326,16 +370,15 @@ int runPaint(const QStringList &args)
             }
         }
         PaintRecord record;
-        if (const int code = paintOnce(o, over, result, record, meta); code != ExitOk)
+        if (const int code = paintOnce(o, over, result, record, meta, output); code != ExitOk)
             return code;
         // A paint without transparency makes the whole picture; one laid over a given picture
         // cannot be made again from its command alone.
         if (over.isNull() || record.TranspPercent == 0)
             meta.recipe = QStringList{paintCommandLine(record)};
     }
-    const QString output = o.output.isEmpty()
-                               ? defaultOutput(o.recipe.isEmpty() ? o.type : QStringLiteral("recipe"))
-                               : o.output;
+    // A Superformat paint has written its surface itself.
+    if (result.isNull()) return ExitOk;
     QString message;
     if (!writePictureForCommand(result, output, meta, message)) {
         printError(message);

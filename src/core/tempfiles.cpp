@@ -36,7 +36,8 @@ QImage readPictureFile(const QString &path)
 void removeTempFilesAtEnd(const QString &tempDir, bool fixDelete)
 {
     const QDir dir(tempDir);
-    for (const char *name : {TempFiles::UndoBild, TempFiles::UndoMask, TempFiles::Alias})
+    for (const char *name : {TempFiles::UndoBild, TempFiles::UndoMask, TempFiles::Alias,
+                             TempFiles::SuperUndo0, TempFiles::SuperUndo1})
         QFile::remove(dir.filePath(QString::fromLatin1(name)));
     if (!fixDelete)
         return;

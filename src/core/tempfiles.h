@@ -12,6 +12,8 @@ namespace TempFiles {
 inline constexpr char UndoBild[] = "tmpundob.bmp";     // undo image of the picture
 inline constexpr char UndoMask[] = "tmpundom.bmp";     // undo image of a selection or mask
 inline constexpr char Alias[] = "tmpalias.bmp";        // anti-aliasing buffer of a paint
+inline constexpr char SuperUndo0[] = "tmpsuper0.dat";  // the kept former Superformat picture
+inline constexpr char SuperUndo1[] = "tmpsuper1.dat";  // ... and its second while Undo runs
 inline constexpr char FixSingle[] = "tmpfixm.bmp";     // the one fixing when fewer than 2 are kept
 inline constexpr char FixSelection[] = "tmpfixs.bmp";  // the fixing of a selection
 inline constexpr int FixNumberMax = 99;                // fixings have two-digit numbers

@@ -6,7 +6,8 @@ namespace tf {
 
 Session::Session()
     : m_workspace(std::make_unique<Workspace>()),
-      m_fixings(std::make_unique<Fixings>(*m_workspace, m_statusDoor, m_run))
+      m_fixings(std::make_unique<Fixings>(*m_workspace, m_statusDoor, m_run)),
+      m_superformat(std::make_unique<SuperformatSurfaces>(*m_workspace))
 {
     m_transparency.XBild = &m_workspace->Bild;
     m_transparency.XUndo = &m_workspace->BildUndo;

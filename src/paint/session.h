@@ -30,6 +30,7 @@
 #include "paint/painter.h"
 #include "paint/paintrecord.h"
 #include "paint/sessionview.h"
+#include "paint/superformat.h"
 #include "paint/transparency.h"
 
 #include <array>
@@ -93,6 +94,9 @@ public:
     // The frame tables of the Mondrian family, kept from one paint to the next.
     MondrianTables &mondrian() { return m_mondrian; }
     const MondrianTables &mondrian() const { return m_mondrian; }
+    // The Superformat surfaces and the kept former picture (see superformat.h).
+    SuperformatSurfaces &superformat() { return *m_superformat; }
+    const SuperformatSurfaces &superformat() const { return *m_superformat; }
     const TransparencyState &transparency() const { return m_transparency; }
 
     // The painters this session paints with, one entry per type key (borrowed; it must outlive
@@ -140,6 +144,7 @@ private:
     TransparencyState m_transparency;
     FilterState m_filters;
     MondrianTables m_mondrian;
+    std::unique_ptr<SuperformatSurfaces> m_superformat;
     Random m_random;
     SessionClock m_clock;
 

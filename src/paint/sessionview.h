@@ -20,6 +20,9 @@ public:
     virtual void Handle_Formobjects() {}
     // The brushes take the picture anew as their working copy.
     virtual void Refresh_BrushImage() {}
+    // Shows the Superformat picture (the session's SuperDIB) in the Superformat viewer, after
+    // a Superformat paint.
+    virtual void showSuperformat() {}
     // Opens the matrix window ("The Matrix") with glyphs of `glyph` pixels falling at `speed`
     // (1..10); answers false when there is no window to open it in.
     virtual bool openMatrixWindow(int glyph, int speed)

@@ -5,6 +5,7 @@
 #include "paint/grafdialogpanel.h"
 #include "paint/grafmenu.h"
 #include "paint/session.h"
+#include "paint/superformat.h"
 #include "ui/controlpanelwidget.h"
 #include "ui/previewcache.h"
 
@@ -92,7 +93,17 @@ GrafDialogDock::GrafDialogDock(Session &session, PreviewCache &previews, QWidget
     m_general = new ControlPanelWidget(grafDialogPanel(), session.controls(), content);
     m_general->setRunState(&session.runState());
     auto *scroll = new QScrollArea(content);
-    scroll->setWidget(m_general);
+    // The Superformat fields are the panel's last: their label stands right under them.
+    auto *general = new QWidget;
+    auto *generalLayout = new QVBoxLayout(general);
+    generalLayout->setContentsMargins(0, 0, 0, 0);
+    generalLayout->addWidget(m_general);
+    lblSuperSize = new QLabel(general);
+    lblSuperSize->setObjectName(QStringLiteral("lblSuperSize"));
+    lblSuperSize->setWordWrap(true);
+    generalLayout->addWidget(lblSuperSize);
+    generalLayout->addStretch(1);
+    scroll->setWidget(general);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     layout->addWidget(scroll, 1);
@@ -211,6 +222,7 @@ void GrafDialogDock::updatePixelSize()
 {
     // The pixel size of the chosen format, with " px" behind it.
     lblPixelSize->setText(pixelSizeLabel(Calc_Bildformate_WH(m_session.controls())));
+    lblSuperSize->setText(superformatPlanLabel(m_session.controls()));
 }
 
 void GrafDialogDock::changeEvent(QEvent *event)

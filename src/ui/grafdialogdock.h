@@ -67,6 +67,8 @@ private:
     QLabel *m_preview = nullptr;
     ControlPanelWidget *m_general = nullptr;
     QLabel *lblPixelSize = nullptr;
+    // Under the Superformat fields: its size in pixels, centimetres and memory.
+    QLabel *lblSuperSize = nullptr;
     QPushButton *BtnPaint = nullptr;
     QPushButton *BtnPaintRoll[2] = {nullptr, nullptr};
     QPushButton *BtnClip = nullptr;

@@ -244,6 +244,9 @@ void MainWindow::createActions()
     onTriggered(mn_Passepartouts, [this] { showPassepartouts(); });
     mn_Kachelansicht = new QAction(this);
     onTriggered(mn_Kachelansicht, [this] { showTileViewer(); });
+    mn_SuperShow = new QAction(this);
+    mn_SuperShow->setObjectName(QStringLiteral("mn_SuperShow"));
+    onTriggered(mn_SuperShow, [this] { showSuperformat(); });
 }
 
 void MainWindow::createMenus()
@@ -303,6 +306,8 @@ void MainWindow::createMenus()
     m_viewMenu->addAction(m_colourDialog->toggleViewAction());
     m_viewMenu->addAction(m_grafDialog->toggleViewAction());
     m_viewMenu->addAction(m_featDialog->toggleViewAction());
+    m_viewMenu->addSeparator();
+    m_viewMenu->addAction(mn_SuperShow);
 }
 
 void MainWindow::createToolBar()
@@ -349,6 +354,7 @@ void MainWindow::retranslate()
     mn_CopyCommand->setText(tr("Als Befehlszeile kopieren"));
     mn_CopyCommand->setToolTip(tr("Den Befehl, der das letzte Bild wieder malt, in die Zwischenablage kopieren"));
     m_viewMenu->setTitle(tr("&Ansicht"));
+    mn_SuperShow->setText(tr("Superformat anzeigen"));
     m_colourMenu->setTitle(tr("&Farben"));
     mn_LadePalette->setText(tr("&Palette laden..."));
     mn_SystemPalette->setText(tr("Syste&mpaletten..."));

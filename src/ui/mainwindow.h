@@ -36,6 +36,7 @@ class PreviewCache;
 struct SystemOptions;
 class StatusBarSink;
 class TileViewer;
+class MosaikShow;
 
 class MainWindow : public QMainWindow, private SessionView {
     Q_OBJECT
@@ -86,6 +87,8 @@ private:
     void controlChanged(const ControlKey &key) override;
     void Handle_Formobjects() override;
     bool openMatrixWindow(int glyph, int speed) override;
+    // After a Superformat paint: the viewer shows the new picture (mainwindow_superformat.cpp).
+    void showSuperformat() override;
 
     void createActions();
     void createMenus();
@@ -181,6 +184,10 @@ private:
     QAction *mn_Passepartouts = nullptr;
     QAction *mn_Kachelansicht = nullptr;
     TileViewer *m_tileViewer = nullptr;
+    // "Superformat anzeigen": the Superformat viewer over the session's last Superformat picture.
+    QAction *mn_SuperShow = nullptr;
+    MosaikShow *m_mosaikShow = nullptr;
+    MosaikShow &mosaikShow();
 };
 
 } // namespace tf::ui

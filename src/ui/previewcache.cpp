@@ -3,7 +3,11 @@
 #include "generators/painters.h"
 #include "paint/paintdriver.h"
 #include "paint/painter.h"
+#include "core/surfacepreview.h"
 #include "paint/session.h"
+#include "paint/superformat.h"
+
+#include <algorithm>
 
 namespace tf::ui {
 
@@ -11,6 +15,13 @@ PreviewCache::PreviewCache() : m_session(std::make_unique<Session>())
 {
     m_session->setPainters(painterTable());
     m_session->workspace().New_BildSize(Side, Side);
+    // A Superformat type paints its preview at the smallest Superformat size; the preview
+    // keeps no former picture.
+    m_session->superformat().setKeepUndo(false);
+    m_session->controls().setRaw(ControlKey{QStringLiteral("txtSuperSize"), 0},
+                                 QString::number(SuperMinSide));
+    m_session->controls().setRaw(ControlKey{QStringLiteral("txtSuperSize"), 1},
+                                 QString::number(SuperMinSide));
 }
 
 PreviewCache::~PreviewCache() = default;
@@ -31,8 +42,18 @@ QImage PreviewCache::preview(const QString &key)
         ws.lastaction.clear();
         s.paint().GrafKey = key;
         s.paint().nextSeed = Seed;
-        if (Create_Polygraphics(s) == PaintOutcome::Painted)
-            image = ws.Bild.Image().copy();
+        if (Create_Polygraphics(s) == PaintOutcome::Painted) {
+            SuperformatSurfaces &sf = s.superformat();
+            if (isSuperformatType(key) && sf.hasPicture()) {
+                const double zoom = double(Side) / std::max(sf.SuperDIB.dib_width(),
+                                                            sf.SuperDIB.dib_height());
+                image = renderSurfacePart(sf.SuperDIB, QRect(QPoint(0, 0), zoomedSize(sf.SuperDIB, zoom)),
+                                          zoom);
+                sf.drop();
+            } else {
+                image = ws.Bild.Image().copy();
+            }
+        }
     }
     m_cache.insert(key, image);
     return image;
