@@ -29,6 +29,7 @@
 #include "paint/painter.h"
 #include "paint/paintrecord.h"
 #include "paint/sessionview.h"
+#include "paint/textstate.h"
 #include "paint/transparency.h"
 
 #include <array>
@@ -89,6 +90,9 @@ public:
     // TranspPercent and the paint target XBild, XUndo, XWork (Bild's until Set_BILD).
     TransparencyState &transparency() { return m_transparency; }
     FilterState &filters() { return m_filters; }
+    // The text types' state between paints, the system's fonts and the text placing mode.
+    TextState &text() { return m_text; }
+    const TextState &text() const { return m_text; }
     const TransparencyState &transparency() const { return m_transparency; }
 
     // The painters this session paints with, one entry per type key (borrowed; it must outlive
@@ -135,6 +139,7 @@ private:
     ColourState m_colours;
     TransparencyState m_transparency;
     FilterState m_filters;
+    TextState m_text;
     Random m_random;
     SessionClock m_clock;
 

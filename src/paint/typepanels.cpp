@@ -1,6 +1,7 @@
 #include "paint/typepanels.h"
 
 #include "paint/grafdialogpanel.h"
+#include "paint/textstate.h"
 
 #include <array>
 
@@ -39,6 +40,11 @@ std::span<const TypePanel> typePanels()
         {"Forms-Cut out Squares", "feat_10Rahmen"},
         {"Forms-Cut out Areas", "feat_10Rahmen"},
         {"Forms-Cut out Rects", "feat_10Rahmen"},
+        {"TEXT-Dialog", "feat_14Textdialog", TextDialogPanelName},
+        {"TEXT-Textblock", "feat_13TextBlock", TextDialogPanelName},
+        {"TEXT-StarRotated", "feat_11TextRotation", TextDialogPanelName},
+        {"TEXT-Circular", "feat_12TextCircular", TextDialogPanelName},
+        {"TEXT-Spiral", "feat_12TextCircular", TextDialogPanelName},
     };
     return table;
 }
@@ -53,6 +59,8 @@ QString optionPanelOf(const QString &key)
 QStringList panelsReadBy(const QString &key)
 {
     QStringList out{QString::fromLatin1(GrafDialogPanelName)};
+    for (const TypePanel &t : typePanels())
+        if (t.dialog && key == QString::fromUtf8(t.key)) out << QString::fromLatin1(t.dialog);
     const QString own = optionPanelOf(key);
     if (!own.isEmpty()) out << own;
     return out;

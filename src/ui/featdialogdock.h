@@ -30,17 +30,26 @@ public:
     // The name of the panel on top ("" for the note).
     QString currentPanel() const;
 
+signals:
+    // A button of the text panel armed the placing mode: the next click on the picture
+    // places the text.
+    void textPlacingArmed();
+
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
     void retranslate();
+    // The placing buttons under the text panel (BtnSet_TextDialogPosition, BtnSet_TextPosC).
+    QWidget *textPlacingButtons(QWidget *parent);
 
     Session &m_session;
     QStackedWidget *m_stack;
     QLabel *m_none;
     std::map<QString, ControlPanelWidget *> m_panels;
     std::map<QString, QWidget *> m_pages;
+    class QPushButton *BtnSet_TextDialogPosition = nullptr;
+    class QPushButton *BtnSet_TextPosC = nullptr;
 };
 
 } // namespace tf::ui
