@@ -66,7 +66,7 @@ const char *const usage =
     "                         set an option control (repeatable; see `controls TYPE`)\n"
     "  --fore, --back, --border #RRGGBB\n"
     "                         the colours; giving one turns random colours off\n"
-    "  --text TEXT            the text of the text types (a line break written \\n)\n"
+    "  --text TEXT            the text of the text types (a line break written \\n, a tab \\t)\n"
     "  --text-file FILE       the text from a .txt file (UTF-8, else Windows-1252)\n"
     "  --font NAME, --font-size N\n"
     "                         the text's font and its size in points (the other fields of\n"

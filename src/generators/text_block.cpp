@@ -2,7 +2,8 @@
 // ("Kinoabspann": the part before a tab right-aligned to the middle, the part after it
 // left-aligned, a gap between) or left and right ("Links && rechts": the part after a tab at
 // the right margin). The block starts at scrollTextBlock(0), (1) and walks down a line step
-// per row; a row below the picture is not drawn.
+// per row; a row below the picture is not drawn. A row without a tab that is wider than the
+// room between the two margins is broken at its blanks.
 #include "generators/longrun.h"
 #include "generators/textdraw.h"
 #include "generators/textpanels.h"
@@ -37,6 +38,30 @@ std::vector<TextBlockRow> textBlockRows(const QString &prepared)
            rows.back().after.trimmed().isEmpty())
         rows.pop_back();
     return rows;
+}
+
+std::vector<TextBlockRow> wrapTextBlockRows(const std::vector<TextBlockRow> &rows, double room,
+                                            const std::function<double(const QString &)> &width)
+{
+    std::vector<TextBlockRow> out;
+    for (const TextBlockRow &row : rows) {
+        if (row.tab || width(row.before) <= room) {
+            out.push_back(row);
+            continue;
+        }
+        QString line;
+        for (const QString &word : row.before.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            const QString longer = line.isEmpty() ? word : line + QLatin1Char(' ') + word;
+            if (!line.isEmpty() && width(longer) > room) {
+                out.push_back({line, QString(), false});
+                line = word;
+            } else {
+                line = longer;
+            }
+        }
+        out.push_back({line, QString(), false});
+    }
+    return out;
 }
 
 double textBlockLeft(int align, double left, int b)
@@ -93,7 +118,8 @@ void textBlock(PaintContext &ctx, bool allow_randoms, bool allow_mixfonts)
     const int b = ctx.opt.W, h = ctx.opt.H;
     ctx.Bild_CLEAR();
     Start_Transparent(s);
-    double left = std::clamp(c.value(key("scrollTextBlock", 0)), 0, b);
+    const int margin = std::clamp(c.value(key("scrollTextBlock", 0)), 0, b);
+    double left = margin;
     const int top = std::clamp(c.value(key("scrollTextBlock", 1)), 0, h);
     int align = c.listIndex(key("optTextBlockAlign"));
     if (s.colours().RandomValues && allow_randoms) {
@@ -110,8 +136,13 @@ void textBlock(PaintContext &ctx, bool allow_randoms, bool allow_mixfonts)
     const int thickness = shadowThickness(c);
     const QString prepared =
         prepareText(ctx, "XTextBlock_BigLetters", -1, true, allow_mixfonts);
-    const std::vector<TextBlockRow> rows = textBlockRows(prepared);
     TextFont font = dialogFont(c);
+    // A long row is broken at its blanks to the width between two margins (at least a third
+    // of the picture), measured in the dialog's font.
+    const double room = std::max(b / 3.0, double(b - 2 * margin));
+    const std::vector<TextBlockRow> rows = wrapTextBlockRows(
+        textBlockRows(prepared), room,
+        [&font](const QString &t) { return Measure_Rotated(font, t).width(); });
     const QPoint d = shadowOffset(0, thickness);
 
     StopRule stop(ctx);

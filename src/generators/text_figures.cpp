@@ -29,6 +29,8 @@ using namespace text;
 namespace {
 
 const double Rad = Pi / 180.0;
+// The smallest size, in points, to which the circle mode sets a text to fit its span.
+constexpr double MinCircleFontSize = 6.0;
 
 ControlKey key(const char *name, int index = -1) { return ControlKey{QString::fromLatin1(name), index}; }
 double rnd(PaintContext &ctx) { return double(ctx.Rnd()); }
@@ -164,14 +166,18 @@ void textCircular(PaintContext &ctx, bool allow_randoms)
     const double r = std::max(1.0, o.radius);
     const double arc = r * o.span * Rad;
 
-    // Circle mode spreads the text over the span: a font too large for it is made smaller,
-    // and the letters share out what room is left.
+    // Circle mode spreads the text over the span: a font too large for it is made smaller
+    // (down to a size still legible, 6 points), and the letters share out what room is left.
+    // A text too long even then stops at the span's end, as without the circle mode.
     double perWidth = 1.0 / r; // radians per pixel of advance
+    bool stopAtSpan = !o.circleMode;
     if (o.circleMode) {
         const double natural = Measure_Rotated(font, line).width();
-        if (natural > arc && natural > 0) font.size = std::max(1.0, font.size * arc / natural);
+        if (natural > arc && natural > 0)
+            font.size = std::max(std::min(font.size, MinCircleFontSize), font.size * arc / natural);
         const double total = Measure_Rotated(font, line).width();
-        if (total > 0) perWidth = o.span * Rad / total;
+        if (total > 0 && total <= arc * 1.001) perWidth = o.span * Rad / total;
+        else stopAtSpan = true;
     }
 
     ctx.Bild_CLEAR();
@@ -186,7 +192,7 @@ void textCircular(PaintContext &ctx, bool allow_randoms)
         const QFontMetricsF m(toQFont(logicalFont(font, 0)));
         const double advance = m.horizontalAdvance(letter);
         const double step = advance * perWidth / Rad;
-        if (!o.circleMode && used + step > o.span + 1e-9) break;
+        if (stopAtSpan && used + step > o.span + 1e-9) break;
         const double mid = theta - step / 2;
         const QPointF at(o.centre.x() + r * std::cos(mid * Rad), o.centre.y() - r * std::sin(mid * Rad));
         pic.setForeColor(letterColour(ctx, colours, int(i)));

@@ -40,6 +40,11 @@ struct TextBlockRow {
 // The rows of a prepared text (rows split at "$$"), cut after the last row that holds text.
 std::vector<TextBlockRow> textBlockRows(const QString &prepared);
 
+// Breaks every row without a tab that is wider than `room` at its blanks into rows that fit
+// (a word wider than the room stands alone); rows with a tab stay as they are.
+std::vector<TextBlockRow> wrapTextBlockRows(const std::vector<TextBlockRow> &rows, double room,
+                                            const std::function<double(const QString &)> &width);
+
 // One piece of a row as it is laid: its text and the x of its left edge.
 struct TextBlockPiece {
     QString text;

@@ -88,6 +88,7 @@ QString escapeTextArgument(const QString &text)
     out.replace(QLatin1String("\r\n"), QLatin1String("\n"));
     out.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
     out.replace(QLatin1Char('\n'), QLatin1String("\\n"));
+    out.replace(QLatin1Char('\t'), QLatin1String("\\t"));
     return out;
 }
 
@@ -99,8 +100,8 @@ QString unescapeTextArgument(const QString &argument)
         const QChar c = argument[i];
         if (c == QLatin1Char('\\') && i + 1 < argument.size()) {
             const QChar next = argument[i + 1];
-            if (next == QLatin1Char('n')) {
-                out += QLatin1Char('\n');
+            if (next == QLatin1Char('n') || next == QLatin1Char('t')) {
+                out += next == QLatin1Char('n') ? QLatin1Char('\n') : QLatin1Char('\t');
                 ++i;
                 continue;
             }

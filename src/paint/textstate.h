@@ -73,7 +73,7 @@ bool placeTextAt(Session &s, int x, int y);
 QString decodeTextFile(const QByteArray &bytes);
 
 // The text dialog's text on the command line: a line break is written as the two characters
-// "\n", a backslash as "\\"; and back.
+// "\n", a tab as "\t", a backslash as "\\"; and back.
 QString escapeTextArgument(const QString &text);
 QString unescapeTextArgument(const QString &argument);
 

@@ -7,6 +7,7 @@
 #include <map>
 
 class QLabel;
+class QPushButton;
 class QStackedWidget;
 
 namespace tf {
@@ -48,8 +49,8 @@ private:
     QLabel *m_none;
     std::map<QString, ControlPanelWidget *> m_panels;
     std::map<QString, QWidget *> m_pages;
-    class QPushButton *BtnSet_TextDialogPosition = nullptr;
-    class QPushButton *BtnSet_TextPosC = nullptr;
+    QPushButton *BtnSet_TextDialogPosition = nullptr;
+    QPushButton *BtnSet_TextPosC = nullptr;
 };
 
 } // namespace tf::ui

@@ -141,6 +141,32 @@ TEST_F(TextTest, TheRowsOfABlockEndAtTheLastRowWithText)
     EXPECT_TRUE(rows[1].tab);
 }
 
+TEST_F(TextTest, ALongRowIsBrokenAtItsBlanksToTheRoomBetweenTheMargins)
+{
+    const auto width = [](const QString &t) { return double(t.size() * 10); };
+    const auto rows = wrapTextBlockRows(
+        {{QStringLiteral("eins zwei drei vier"), QString(), false},
+         {QStringLiteral("links"), QStringLiteral("rechts und noch mehr"), true},
+         {QStringLiteral("Donaudampfschifffahrt kurz"), QString(), false}},
+        100, width);
+    ASSERT_EQ(rows.size(), 5u);
+    EXPECT_EQ(rows[0].before, QStringLiteral("eins zwei"));
+    EXPECT_EQ(rows[1].before, QStringLiteral("drei vier"));
+    EXPECT_TRUE(rows[2].tab); // a row with a tab keeps its two parts
+    EXPECT_EQ(rows[3].before, QStringLiteral("Donaudampfschifffahrt")); // too long alone
+    EXPECT_EQ(rows[4].before, QStringLiteral("kurz"));
+
+    // The Latin sample fills the picture's width between the margins, line under line.
+    set("scrollTextBlock", QStringLiteral("40"), 0);
+    set("scrollTextBlock", QStringLiteral("10"), 1);
+    text(QString());
+    ASSERT_EQ(paint("TEXT-Textblock"), PaintOutcome::Painted);
+    const QRect ink = inkIn();
+    EXPECT_GE(ink.left(), 38);
+    EXPECT_LE(ink.right(), 400 - 40);
+    EXPECT_GT(ink.bottom(), 250);
+}
+
 TEST_F(TextTest, TheCreditsCentreTheBlockWhenTheLeftEdgeIsBelowFifty)
 {
     EXPECT_EQ(textBlockLeft(AlignCinema, 10, 400), 200);

@@ -34,7 +34,10 @@ TEST(TextFile, TheCommandLineWritesLineBreaksAsBackslashN)
     EXPECT_EQ(unescapeTextArgument(escapeTextArgument(text)),
               QStringLiteral("Zeile 1\nC:\\Pfad\\neu\nEnde"));
     // A lone backslash or an unknown escape stays as it stands.
-    EXPECT_EQ(unescapeTextArgument(QStringLiteral("a\\tb\\")), QStringLiteral("a\\tb\\"));
+    EXPECT_EQ(unescapeTextArgument(QStringLiteral("a\\xb\\")), QStringLiteral("a\\xb\\"));
+    // A tab, which splits a row of a text block, is written "\t".
+    EXPECT_EQ(escapeTextArgument(QStringLiteral("Regie\tAnna")), QStringLiteral("Regie\\tAnna"));
+    EXPECT_EQ(unescapeTextArgument(QStringLiteral("Regie\\tAnna")), QStringLiteral("Regie\tAnna"));
 }
 
 TEST(TextFile, ATextPaintsCommandRepeatsTheTextAndItsColours)

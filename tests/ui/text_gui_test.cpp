@@ -17,7 +17,7 @@
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
-#include <QTest>
+#include <QMouseEvent>
 #include <gtest/gtest.h>
 
 using namespace tf;
@@ -41,7 +41,21 @@ struct TextWindowTest : WindowFixture {
         ASSERT_TRUE(where);
         mn_Grafmodes(window->session(), where->group);
         QApplication::processEvents();
-        typeList()->setCurrentRow(where->listIndex);
+        // The type list's click, as the list gives it (also for the row already current).
+        ListBoxType_Click(window->session(), where->listIndex);
+        QApplication::processEvents();
+    }
+    // A press of the left button on the picture at `at`, as the mouse gives it.
+    void pressOnPicture(QPoint at)
+    {
+        auto *view = window->findChild<ui::PictureView *>();
+        ASSERT_NE(view, nullptr);
+        QMouseEvent press(QEvent::MouseButtonPress, QPointF(at), view->mapToGlobal(QPointF(at)),
+                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(view, &press);
+        QMouseEvent release(QEvent::MouseButtonRelease, QPointF(at), view->mapToGlobal(QPointF(at)),
+                            Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+        QApplication::sendEvent(view, &release);
         QApplication::processEvents();
     }
     // The box of the pixels of Bild that are not white.
@@ -77,7 +91,7 @@ TEST_F(TextWindowTest, ATextTypeBringsTheTextDialogAndItsTextPaints)
     EXPECT_EQ(edit->toPlainText(), QStringLiteral("Neu"));
     edit->setPlainText(QStringLiteral("Größe, Übermaß,\nÄpfel und Öl"));
 
-    QTest::mouseClick(window->findChild<QPushButton *>(QStringLiteral("BtnPaint")), Qt::LeftButton);
+    window->findChild<QPushButton *>(QStringLiteral("BtnPaint"))->click();
     QApplication::processEvents();
     EXPECT_FALSE(ink().isEmpty());
     screenshot(*window, "text-window");
@@ -87,17 +101,15 @@ TEST_F(TextWindowTest, ATextTypeBringsTheTextDialogAndItsTextPaints)
 TEST_F(TextWindowTest, ThePlacingButtonMakesTheNextClickTheTextsPlace)
 {
     choose("TEXT-Dialog");
+    ASSERT_EQ(window->session().paint().GrafKey, QStringLiteral("TEXT-Dialog"));
     window->session().controls().set(ControlKey{QStringLiteral("txtOrthoIn")}, QStringLiteral("Hier"));
     window->session().controls().set(ControlKey{QStringLiteral("cmbShadeThickness")}, QStringLiteral("0"));
     auto *centre = window->findChild<QPushButton *>(QStringLiteral("BtnSet_TextPosC"));
     ASSERT_NE(centre, nullptr);
-    QTest::mouseClick(centre, Qt::LeftButton);
+    centre->click();
     EXPECT_EQ(window->session().text().placing, TextPlacing::Centre);
 
-    auto *view = window->findChild<ui::PictureView *>();
-    ASSERT_NE(view, nullptr);
-    QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, QPoint(300, 200));
-    QApplication::processEvents();
+    pressOnPicture(QPoint(300, 200));
     EXPECT_EQ(window->session().text().placing, TextPlacing::Off);
     const QRect box = ink();
     ASSERT_FALSE(box.isEmpty());
@@ -106,7 +118,6 @@ TEST_F(TextWindowTest, ThePlacingButtonMakesTheNextClickTheTextsPlace)
 
     // A second click places nothing.
     const QImage before = window->session().workspace().Bild.Image();
-    QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, QPoint(50, 50));
-    QApplication::processEvents();
+    pressOnPicture(QPoint(50, 50));
     EXPECT_EQ(window->session().workspace().Bild.Image(), before);
 }
