@@ -115,6 +115,7 @@ TEST_F(TextWindowTest, ThePlacingButtonMakesTheNextClickTheTextsPlace)
     ASSERT_FALSE(box.isEmpty());
     EXPECT_NEAR(box.center().x(), 300, 2);
     EXPECT_NEAR(box.center().y(), 200, 2);
+    screenshot(*window->findChild<ui::FeatDialogDock *>(), "text-dialog-panel");
 
     // A second click places nothing.
     const QImage before = window->session().workspace().Bild.Image();
