@@ -261,7 +261,15 @@ void TextDialog::chooseTextFile()
 void TextDialog::changeEvent(QEvent *event)
 {
     if (event->type() == QEvent::LanguageChange) retranslate();
+    // The colour dialog may have handed its colours over while this one stood behind.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) refreshColours();
     QDialog::changeEvent(event);
+}
+
+void TextDialog::showEvent(QShowEvent *event)
+{
+    refreshColours();
+    QDialog::showEvent(event);
 }
 
 void TextDialog::retranslate()

@@ -8,12 +8,15 @@
 #include "paint/grafmenu.h"
 #include "paint/session.h"
 #include "paint/textstate.h"
+#include "ui/colourfield.h"
 #include "ui/featdialogdock.h"
 #include "ui/pictureview.h"
 #include "ui/textdialog.h"
 #include "windowfixture.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QTemporaryDir>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -115,10 +118,34 @@ TEST_F(TextWindowTest, ThePlacingButtonMakesTheNextClickTheTextsPlace)
     ASSERT_FALSE(box.isEmpty());
     EXPECT_NEAR(box.center().x(), 300, 2);
     EXPECT_NEAR(box.center().y(), 200, 2);
-    screenshot(*window->findChild<ui::FeatDialogDock *>(), "text-dialog-panel");
+    window->findChild<ui::FeatDialogDock *>()->raise();
+    screenshot(*window, "text-placed");
 
     // A second click places nothing.
     const QImage before = window->session().workspace().Bild.Image();
     pressOnPicture(QPoint(50, 50));
     EXPECT_EQ(window->session().workspace().Bild.Image(), before);
+}
+
+TEST_F(TextWindowTest, ATextFileLoadsIntoTheDialogInItsEncoding)
+{
+    QTemporaryDir files;
+    const QString western = files.filePath(QStringLiteral("westen.txt"));
+    QFile file(western);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("Gr\xF6\xDF" "e \x80 5\r\n\xC4pfel");
+    file.close();
+    ASSERT_TRUE(dialog()->loadTextFile(western));
+    EXPECT_EQ(window->session().controls().text(QStringLiteral("txtOrthoIn")),
+              QStringLiteral("Größe € 5\r\nÄpfel"));
+    EXPECT_EQ(dialog()->findChild<QPlainTextEdit *>(QStringLiteral("txtOrthoIn"))->toPlainText(),
+              QStringLiteral("Größe € 5\nÄpfel"));
+
+    // The colour dialog's foreground, taken over by a right click there, shows here when the
+    // dialog comes up.
+    window->session().colours().TextFore = RGB(10, 200, 30);
+    dialog()->hide();
+    dialog()->show();
+    EXPECT_EQ(dialog()->findChild<ui::ColourField *>(QStringLiteral("txtForeColor"))->colour(),
+              RGB(10, 200, 30));
 }
