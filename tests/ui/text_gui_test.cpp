@@ -15,6 +15,7 @@
 #include "windowfixture.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QFile>
 #include <QTemporaryDir>
 #include <QListWidget>
@@ -83,6 +84,12 @@ TEST_F(TextWindowTest, ATextTypeBringsTheTextDialogAndItsTextPaints)
     EXPECT_TRUE(dialog()->isVisible());
     EXPECT_EQ(window->findChild<ui::FeatDialogDock *>()->currentPanel(),
               QStringLiteral("feat_13TextBlock"));
+    // The alignments as a list: the option button's "&&" is one "&" there.
+    auto *align = window->findChild<QComboBox *>(QStringLiteral("optTextBlockAlign"));
+    ASSERT_NE(align, nullptr);
+    ASSERT_EQ(align->count(), 5);
+    EXPECT_EQ(align->itemText(3), QStringLiteral("Kinoabspann"));
+    EXPECT_EQ(align->itemText(4), QStringLiteral("Links & rechts"));
 
     auto *edit = dialog()->findChild<QPlainTextEdit *>(QStringLiteral("txtOrthoIn"));
     ASSERT_NE(edit, nullptr);
