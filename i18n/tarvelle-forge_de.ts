@@ -704,6 +704,142 @@
         <source>Stift verwenden</source>
         <translation>Stift verwenden</translation>
     </message>
+    <message>
+        <source>Textdialog</source>
+        <translation>Textdialog</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Schrift</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Größe</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Z.-Breite</source>
+        <translation>Z.-Breite</translation>
+    </message>
+    <message>
+        <source>Zeichenbreite (%)</source>
+        <translation>Zeichenbreite (%)</translation>
+    </message>
+    <message>
+        <source>Schatten</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <source>3D-Farbe</source>
+        <translation>3D-Farbe</translation>
+    </message>
+    <message>
+        <source>Schattenfarbe</source>
+        <translation>Schattenfarbe</translation>
+    </message>
+    <message>
+        <source>Schwarz</source>
+        <translation>Schwarz</translation>
+    </message>
+    <message>
+        <source>Grau</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>Weiß</source>
+        <translation>Weiß</translation>
+    </message>
+    <message>
+        <source>Textfarbe abgedunkelt</source>
+        <translation>Textfarbe abgedunkelt</translation>
+    </message>
+    <message>
+        <source>Anti-Aliasing</source>
+        <translation>Anti-Aliasing</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Bold</translation>
+    </message>
+    <message>
+        <source>Schriften mischen</source>
+        <translation>Schriften mischen</translation>
+    </message>
+    <message>
+        <source>Position links</source>
+        <translation>Position links</translation>
+    </message>
+    <message>
+        <source>Position oben</source>
+        <translation>Position oben</translation>
+    </message>
+    <message>
+        <source>Rotationswinkel</source>
+        <translation>Rotationswinkel</translation>
+    </message>
+    <message>
+        <source>Position ist die Textmitte</source>
+        <translation>Position ist die Textmitte</translation>
+    </message>
+    <message>
+        <source>Nur Großbuchstaben</source>
+        <translation>Nur Großbuchstaben</translation>
+    </message>
+    <message>
+        <source>Textblock</source>
+        <translation>Textblock</translation>
+    </message>
+    <message>
+        <source> Ausrichtung </source>
+        <translation> Ausrichtung </translation>
+    </message>
+    <message>
+        <source>Zentriert</source>
+        <translation>Zentriert</translation>
+    </message>
+    <message>
+        <source>Kinoabspann</source>
+        <translation>Kinoabspann</translation>
+    </message>
+    <message>
+        <source>Links &amp;&amp; rechts</source>
+        <translation>Links &amp;&amp; rechts</translation>
+    </message>
+    <message>
+        <source>Abstand links</source>
+        <translation>Abstand links</translation>
+    </message>
+    <message>
+        <source>Abstand oben</source>
+        <translation>Abstand oben</translation>
+    </message>
+    <message>
+        <source>Lücke (Pixel)</source>
+        <translation>Lücke (Pixel)</translation>
+    </message>
+    <message>
+        <source>Text auf Kreis und Spirale</source>
+        <translation>Text auf Kreis und Spirale</translation>
+    </message>
+    <message>
+        <source>Kreismodus</source>
+        <translation>Kreismodus</translation>
+    </message>
+    <message>
+        <source>Textwinkel</source>
+        <translation>Textwinkel</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Radius</translation>
+    </message>
+    <message>
+        <source>Teilungswinkel</source>
+        <translation>Teilungswinkel</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -1177,6 +1313,28 @@
     </message>
 </context>
 <context>
+    <name>TextDialog</name>
+    <message>
+        <source>Klicken Sie in das Bild: dort steht der Text.</source>
+        <translation>Klicken Sie in das Bild: dort steht der Text.</translation>
+    </message>
+</context>
+<context>
+    <name>TextFile</name>
+    <message>
+        <source>Die Textdatei %1 gibt es nicht.</source>
+        <translation>Die Textdatei %1 gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Die Textdatei %1 ist zu groß (höchstens 1 MB).</source>
+        <translation>Die Textdatei %1 ist zu groß (höchstens 1 MB).</translation>
+    </message>
+    <message>
+        <source>Die Textdatei %1 kann nicht gelesen werden: %2</source>
+        <translation>Die Textdatei %1 kann nicht gelesen werden: %2</translation>
+    </message>
+</context>
+<context>
     <name>frmPassepGen</name>
     <message>
         <source>&lt;-- Neuer Eintrag --&gt;</source>
@@ -1321,6 +1479,22 @@
     <message>
         <source>Dieser Grafiktyp liest nur die allgemeinen Optionen des Maldialogs.</source>
         <translation>Dieser Grafiktyp liest nur die allgemeinen Optionen des Maldialogs.</translation>
+    </message>
+    <message>
+        <source>Setze Position ...</source>
+        <translation>Setze Position ...</translation>
+    </message>
+    <message>
+        <source>Der nächste Klick in das Bild setzt die linke obere Ecke des Textes.</source>
+        <translation>Der nächste Klick in das Bild setzt die linke obere Ecke des Textes.</translation>
+    </message>
+    <message>
+        <source>Setze Mitte ...</source>
+        <translation>Setze Mitte ...</translation>
+    </message>
+    <message>
+        <source>Der nächste Klick in das Bild setzt die Mitte des Textes.</source>
+        <translation>Der nächste Klick in das Bild setzt die Mitte des Textes.</translation>
     </message>
 </context>
 <context>
@@ -1656,6 +1830,10 @@
     <message>
         <source>Superformat anzeigen</source>
         <translation>Superformat anzeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Text und Schrift...</source>
+        <translation>&amp;Text und Schrift...</translation>
     </message>
 </context>
 <context>
@@ -2154,6 +2332,57 @@
     <message>
         <source>Systempaletten</source>
         <translation>Systempaletten</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::TextDialog</name>
+    <message>
+        <source>Text bearbeiten</source>
+        <translation>Text bearbeiten</translation>
+    </message>
+    <message>
+        <source>Text laden</source>
+        <translation>Text laden</translation>
+    </message>
+    <message>
+        <source>Textdateien (*.txt);;Alle Dateien (*)</source>
+        <translation>Textdateien (*.txt);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Text und Schrift</source>
+        <translation>Text und Schrift</translation>
+    </message>
+    <message>
+        <source>Text (leer: ein lateinischer Mustertext)</source>
+        <translation>Text (leer: ein lateinischer Mustertext)</translation>
+    </message>
+    <message>
+        <source>Text laden ...</source>
+        <translation>Text laden ...</translation>
+    </message>
+    <message>
+        <source>Zoom ...</source>
+        <translation>Zoom ...</translation>
+    </message>
+    <message>
+        <source>Schrift</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>Schriftart</source>
+        <translation>Schriftart</translation>
+    </message>
+    <message>
+        <source>Text- und Schattenfarbe</source>
+        <translation>Text- und Schattenfarbe</translation>
+    </message>
+    <message>
+        <source>Doppelklick: Farbe wählen; rechte Maustaste: die Vordergrundfarbe</source>
+        <translation>Doppelklick: Farbe wählen; rechte Maustaste: die Vordergrundfarbe</translation>
+    </message>
+    <message>
+        <source>Doppelklick: Farbe wählen; rechte Maustaste: die Hintergrundfarbe</source>
+        <translation>Doppelklick: Farbe wählen; rechte Maustaste: die Hintergrundfarbe</translation>
     </message>
 </context>
 <context>

@@ -1,4 +1,5 @@
-<?xml version='1.0' encoding='utf-8'?>
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
     <name>Blurize</name>
@@ -131,7 +132,7 @@
     </message>
     <message>
         <source>„%1“ konnte nicht gemalt werden.</source>
-        <translation>"%1" could not be painted.</translation>
+        <translation>&quot;%1&quot; could not be painted.</translation>
     </message>
     <message>
         <source>Ungültige Größe: %1 (BxH)</source>
@@ -174,16 +175,16 @@
         <translation>The transformation failed.</translation>
     </message>
     <message>
-        <source>%1 erwartet eine Zahl von 0 bis 14000, nicht "%2"</source>
-        <translation>%1 expects a number from 0 to 14000, not "%2"</translation>
+        <source>%1 erwartet eine Zahl von 0 bis 14000, nicht &quot;%2&quot;</source>
+        <translation>%1 expects a number from 0 to 14000, not &quot;%2&quot;</translation>
     </message>
     <message>
         <source>Aufruf: tarvelle-forge passepartouts [--data DATEI]</source>
         <translation>Usage: tarvelle-forge passepartouts [--data FILE]</translation>
     </message>
     <message>
-        <source>--gradient erwartet on oder off, nicht "%1"</source>
-        <translation>--gradient expects on or off, not "%1"</translation>
+        <source>--gradient erwartet on oder off, nicht &quot;%1&quot;</source>
+        <translation>--gradient expects on or off, not &quot;%1&quot;</translation>
     </message>
     <message>
         <source>Unbekannte Angabe: %1</source>
@@ -194,8 +195,8 @@
         <translation>Usage: tarvelle-forge passepartout --set NAME PICTURE -o OUTPUT</translation>
     </message>
     <message>
-        <source>Es gibt kein Passepartout "%1" (siehe tarvelle-forge passepartouts).</source>
-        <translation>There is no passepartout "%1" (see tarvelle-forge passepartouts).</translation>
+        <source>Es gibt kein Passepartout &quot;%1&quot; (siehe tarvelle-forge passepartouts).</source>
+        <translation>There is no passepartout &quot;%1&quot; (see tarvelle-forge passepartouts).</translation>
     </message>
     <message>
         <source>Das Bild im Passepartout wäre größer als 14000 Pixel.</source>
@@ -704,6 +705,142 @@
         <source>Stift verwenden</source>
         <translation>Use pen</translation>
     </message>
+    <message>
+        <source>Textdialog</source>
+        <translation>Text dialog</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Schrift</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>Größe</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>Z.-Breite</source>
+        <translation>Char. width</translation>
+    </message>
+    <message>
+        <source>Zeichenbreite (%)</source>
+        <translation>Character width (%)</translation>
+    </message>
+    <message>
+        <source>Schatten</source>
+        <translation>Shadow</translation>
+    </message>
+    <message>
+        <source>3D-Farbe</source>
+        <translation>3-D colour</translation>
+    </message>
+    <message>
+        <source>Schattenfarbe</source>
+        <translation>Shadow colour</translation>
+    </message>
+    <message>
+        <source>Schwarz</source>
+        <translation>Black</translation>
+    </message>
+    <message>
+        <source>Grau</source>
+        <translation>Grey</translation>
+    </message>
+    <message>
+        <source>Weiß</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>Textfarbe abgedunkelt</source>
+        <translation>Text colour darkened</translation>
+    </message>
+    <message>
+        <source>Anti-Aliasing</source>
+        <translation>Anti-aliasing</translation>
+    </message>
+    <message>
+        <source>Bold</source>
+        <translation>Bold</translation>
+    </message>
+    <message>
+        <source>Schriften mischen</source>
+        <translation>Mix fonts</translation>
+    </message>
+    <message>
+        <source>Position links</source>
+        <translation>Position left</translation>
+    </message>
+    <message>
+        <source>Position oben</source>
+        <translation>Position top</translation>
+    </message>
+    <message>
+        <source>Rotationswinkel</source>
+        <translation>Rotation angle</translation>
+    </message>
+    <message>
+        <source>Position ist die Textmitte</source>
+        <translation>Position is the middle of the text</translation>
+    </message>
+    <message>
+        <source>Nur Großbuchstaben</source>
+        <translation>Capitals only</translation>
+    </message>
+    <message>
+        <source>Textblock</source>
+        <translation>Text block</translation>
+    </message>
+    <message>
+        <source> Ausrichtung </source>
+        <translation> Alignment </translation>
+    </message>
+    <message>
+        <source>Zentriert</source>
+        <translation>Centred</translation>
+    </message>
+    <message>
+        <source>Kinoabspann</source>
+        <translation>Film credits</translation>
+    </message>
+    <message>
+        <source>Links &amp;&amp; rechts</source>
+        <translation>Left &amp;&amp; right</translation>
+    </message>
+    <message>
+        <source>Abstand links</source>
+        <translation>Left margin</translation>
+    </message>
+    <message>
+        <source>Abstand oben</source>
+        <translation>Top margin</translation>
+    </message>
+    <message>
+        <source>Lücke (Pixel)</source>
+        <translation>Gap (pixels)</translation>
+    </message>
+    <message>
+        <source>Text auf Kreis und Spirale</source>
+        <translation>Text on circle and spiral</translation>
+    </message>
+    <message>
+        <source>Kreismodus</source>
+        <translation>Circle mode</translation>
+    </message>
+    <message>
+        <source>Textwinkel</source>
+        <translation>Text angle</translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation>Radius</translation>
+    </message>
+    <message>
+        <source>Teilungswinkel</source>
+        <translation>Division angle</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -839,7 +976,7 @@
     </message>
     <message>
         <source>„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.</source>
-        <translation>"%1" paints nothing yet: its painter is not built in.</translation>
+        <translation>&quot;%1&quot; paints nothing yet: its painter is not built in.</translation>
     </message>
     <message>
         <source>Startwert %1</source>
@@ -1177,6 +1314,28 @@
     </message>
 </context>
 <context>
+    <name>TextDialog</name>
+    <message>
+        <source>Klicken Sie in das Bild: dort steht der Text.</source>
+        <translation>Click into the picture: the text goes there.</translation>
+    </message>
+</context>
+<context>
+    <name>TextFile</name>
+    <message>
+        <source>Die Textdatei %1 gibt es nicht.</source>
+        <translation>The text file %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Die Textdatei %1 ist zu groß (höchstens 1 MB).</source>
+        <translation>The text file %1 is too large (1 MB at most).</translation>
+    </message>
+    <message>
+        <source>Die Textdatei %1 kann nicht gelesen werden: %2</source>
+        <translation>The text file %1 cannot be read: %2</translation>
+    </message>
+</context>
+<context>
     <name>frmPassepGen</name>
     <message>
         <source>&lt;-- Neuer Eintrag --&gt;</source>
@@ -1321,6 +1480,22 @@
     <message>
         <source>Dieser Grafiktyp liest nur die allgemeinen Optionen des Maldialogs.</source>
         <translation>This graphics type reads only the general options of the paint dialog.</translation>
+    </message>
+    <message>
+        <source>Setze Position ...</source>
+        <translation>Set position ...</translation>
+    </message>
+    <message>
+        <source>Der nächste Klick in das Bild setzt die linke obere Ecke des Textes.</source>
+        <translation>The next click into the picture sets the top left corner of the text.</translation>
+    </message>
+    <message>
+        <source>Setze Mitte ...</source>
+        <translation>Set middle ...</translation>
+    </message>
+    <message>
+        <source>Der nächste Klick in das Bild setzt die Mitte des Textes.</source>
+        <translation>The next click into the picture sets the middle of the text.</translation>
     </message>
 </context>
 <context>
@@ -1656,6 +1831,10 @@
     <message>
         <source>Superformat anzeigen</source>
         <translation>Show Superformat</translation>
+    </message>
+    <message>
+        <source>&amp;Text und Schrift...</source>
+        <translation>&amp;Text and font...</translation>
     </message>
 </context>
 <context>
@@ -2154,6 +2333,57 @@
     <message>
         <source>Systempaletten</source>
         <translation>System palettes</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::TextDialog</name>
+    <message>
+        <source>Text bearbeiten</source>
+        <translation>Edit text</translation>
+    </message>
+    <message>
+        <source>Text laden</source>
+        <translation>Load text</translation>
+    </message>
+    <message>
+        <source>Textdateien (*.txt);;Alle Dateien (*)</source>
+        <translation>Text files (*.txt);;All files (*)</translation>
+    </message>
+    <message>
+        <source>Text und Schrift</source>
+        <translation>Text and font</translation>
+    </message>
+    <message>
+        <source>Text (leer: ein lateinischer Mustertext)</source>
+        <translation>Text (empty: a Latin sample text)</translation>
+    </message>
+    <message>
+        <source>Text laden ...</source>
+        <translation>Load text ...</translation>
+    </message>
+    <message>
+        <source>Zoom ...</source>
+        <translation>Zoom ...</translation>
+    </message>
+    <message>
+        <source>Schrift</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>Schriftart</source>
+        <translation>Typeface</translation>
+    </message>
+    <message>
+        <source>Text- und Schattenfarbe</source>
+        <translation>Text and shadow colour</translation>
+    </message>
+    <message>
+        <source>Doppelklick: Farbe wählen; rechte Maustaste: die Vordergrundfarbe</source>
+        <translation>Double click: choose a colour; right button: the foreground colour</translation>
+    </message>
+    <message>
+        <source>Doppelklick: Farbe wählen; rechte Maustaste: die Hintergrundfarbe</source>
+        <translation>Double click: choose a colour; right button: the background colour</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,7 @@
 #include "files/picturefile.h"
 #include "files/recipe.h"
 #include "files/surfacesave.h"
+#include "files/textfile.h"
 #include "generators/painters.h"
 #include "paint/catalogue.h"
 #include "paint/grafmenu.h"
@@ -16,6 +17,7 @@
 #include "paint/systempalettes.h"
 #include "paint/session.h"
 #include "paint/superformat.h"
+#include "paint/textstate.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -36,6 +38,8 @@ struct PaintOptions {
     std::optional<uint32_t> seed;
     std::vector<std::pair<QString, QString>> sets; // control, value as written
     std::optional<ColorLong> fore, back, border;
+    std::optional<ColorLong> textFore, textBack; // the text dialog's colours
+    QString textFile;                            // --text-file: the text dialog's text
     std::optional<bool> randomColors, randomValues;
     std::optional<int> transparency;
     QString over;
@@ -102,6 +106,18 @@ PaintOptions parsePaintOptions(const QStringList &words)
             o.back = parseColour(a.valueOf(w));
         } else if (w == QLatin1String("--border")) {
             o.border = parseColour(a.valueOf(w));
+        } else if (w == QLatin1String("--text")) {
+            o.sets.emplace_back(QStringLiteral("txtOrthoIn"), unescapeTextArgument(a.valueOf(w)));
+        } else if (w == QLatin1String("--text-file")) {
+            o.textFile = a.valueOf(w);
+        } else if (w == QLatin1String("--font")) {
+            o.sets.emplace_back(QStringLiteral("cmbFontName"), a.valueOf(w));
+        } else if (w == QLatin1String("--font-size")) {
+            o.sets.emplace_back(QStringLiteral("txtFontSize"), a.valueOf(w));
+        } else if (w == QLatin1String("--text-fore")) {
+            o.textFore = parseColour(a.valueOf(w));
+        } else if (w == QLatin1String("--text-back")) {
+            o.textBack = parseColour(a.valueOf(w));
         } else if (w == QLatin1String("--random-colors")) {
             o.randomColors = parseOnOff(w, a.valueOf(w));
         } else if (w == QLatin1String("--random-values")) {
@@ -173,7 +189,14 @@ QString defaultOutput(const QString &key)
 
 void applyControls(Session &s, const PaintOptions &o)
 {
-    for (const auto &[name, value] : o.sets) {
+    auto sets = o.sets;
+    if (!o.textFile.isEmpty()) {
+        QString message;
+        const auto text = readTextFile(o.textFile, message);
+        if (!text) throw UsageError(message);
+        sets.emplace_back(QStringLiteral("txtOrthoIn"), *text);
+    }
+    for (const auto &[name, value] : sets) {
         const auto key = ControlKey::parse(name);
         const ControlSpec *def = key ? findControlSpec(*key) : nullptr;
         if (!def)
@@ -196,8 +219,10 @@ bool applyColours(Session &s, const PaintOptions &o)
     if (o.fore) c.ColorFore = *o.fore;
     if (o.back) c.ColorBack = *o.back;
     if (o.border) c.ColorBorder = *o.border;
+    if (o.textFore) c.TextFore = *o.textFore;
+    if (o.textBack) c.TextBack = *o.textBack;
     // A colour given by hand is meant to be used.
-    c.RandomColors = !(o.fore || o.back || o.border);
+    c.RandomColors = !(o.fore || o.back || o.border || o.textFore || o.textBack);
     c.RandomValues = o.randomValues.value_or(true);
     if (o.fore || o.back)
         Create2ColorPAL(s);

@@ -40,7 +40,8 @@ struct Brush {
 };
 
 // A logical font: height in pixels (0 the default), escapement in tenths of a degree,
-// counter-clockwise; weight 400 normal, 700 bold.
+// counter-clockwise; weight 400 normal, 700 bold; quality as the font's output quality
+// (ANTIALIASED_QUALITY and CLEARTYPE_QUALITY draw soft edges, everything else hard ones).
 struct Font {
     QString faceName = QStringLiteral("Arial");
     int height = 0;
@@ -51,6 +52,7 @@ struct Font {
     bool italic = false;
     bool underline = false;
     bool strikeOut = false;
+    int quality = 0;
 };
 
 // Binary raster operations of the pen (the drawing modes 1..16).

@@ -152,7 +152,14 @@ struct TEXTMETRIC {
     uint8_t tmStruckOut = 0;
 };
 
-// A logical font; the character set, precisions, quality and pitch are accepted and ignored.
+// Output qualities of a logical font.
+enum FontQuality {
+    DEFAULT_QUALITY = 0, DRAFT_QUALITY = 1, PROOF_QUALITY = 2, NONANTIALIASED_QUALITY = 3,
+    ANTIALIASED_QUALITY = 4, CLEARTYPE_QUALITY = 5
+};
+
+// A logical font; the character set, precisions and pitch are accepted and ignored. The
+// quality decides whether its text is drawn with soft edges.
 Font CreateFontA(int height, int width, int escapement, int orientation, int weight,
                  unsigned italic, unsigned underline, unsigned strikeOut, unsigned charSet,
                  unsigned outPrecision, unsigned clipPrecision, unsigned quality,
@@ -163,12 +170,15 @@ bool GetTextMetricsA(const DeviceContext &dc, TEXTMETRIC &tm);
 // Advance width and cell height of `text` in the selected font, unrotated.
 bool GetTextExtentPoint32A(const DeviceContext &dc, const QString &text, SIZE &size);
 // Draws `text` with its cell's top left at (x,y), rotated by the font's escapement, in the
-// text colour; with bkMode OPAQUE the rotated cell is filled with bkColor first. Text is not
-// anti-aliased and ignores the raster mode.
+// text colour; with bkMode OPAQUE the rotated cell is filled with bkColor first. A font of
+// hard edges writes whole pixels (a glyph covers a pixel when at least half of it is ink); a
+// font of ANTIALIASED_QUALITY or CLEARTYPE_QUALITY lays the text colour over each pixel by its
+// coverage. Text ignores the raster mode.
 bool TextOutA(DeviceContext &dc, int x, int y, const QString &text);
 bool TextOutA(DeviceContext &dc, int x, int y, const QString &text, int count);
 
-// The Qt font that renders a logical font (no anti-aliasing, the height rules above).
+// The Qt font that renders a logical font (the height rules above; anti-aliased only for the
+// soft qualities).
 QFont toQFont(const Font &font);
 
 } // namespace tf

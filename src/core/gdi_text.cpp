@@ -1,6 +1,7 @@
 // Fonts, text metrics and rotated text.
 #include "core/gdi.h"
 #include "core/gdi_raster.h"
+#include "core/numeric.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -26,12 +27,17 @@ int emForCell(QFont f, int cell)
     return std::max(1, int(std::lround(double(cell) * cell / actual)));
 }
 
+bool softEdges(const Font &font)
+{
+    return font.quality == ANTIALIASED_QUALITY || font.quality == CLEARTYPE_QUALITY;
+}
+
 } // namespace
 
 QFont toQFont(const Font &font)
 {
     QFont f(font.faceName.isEmpty() ? QStringLiteral("Arial") : font.faceName);
-    f.setStyleStrategy(QFont::NoAntialias);
+    f.setStyleStrategy(softEdges(font) ? QFont::PreferAntialias : QFont::NoAntialias);
     f.setWeight(QFont::Weight(font.weight <= 0 ? 400 : std::clamp(font.weight, 1, 1000)));
     f.setItalic(font.italic);
     f.setUnderline(font.underline);
@@ -86,6 +92,7 @@ Font CreateFontIndirectA(const LOGFONT &lf)
     f.italic = lf.lfItalic != 0;
     f.underline = lf.lfUnderline != 0;
     f.strikeOut = lf.lfStrikeOut != 0;
+    f.quality = lf.lfQuality;
     return f;
 }
 
@@ -116,6 +123,34 @@ bool GetTextExtentPoint32A(const DeviceContext &dc, const QString &text, SIZE &s
     return true;
 }
 
+namespace {
+
+// Lays `colour` over the pixels of `box` by the coverage in `ink` (one byte a pixel, 255 whole),
+// each channel rounded half to even.
+void blendInk(DeviceContext &dc, const QImage &ink, const QRect &box, ColorLong colour)
+{
+    const int r = RedOf(colour), g = GreenOf(colour), b = BlueOf(colour);
+    for (int j = 0; j < box.height(); ++j) {
+        const uchar *row = ink.constScanLine(j);
+        for (int i = 0; i < box.width(); ++i) {
+            const int a = row[i];
+            if (a == 0) continue;
+            const int px = box.left() + i, py = box.top() + j;
+            if (a == 255) {
+                dc.setPixel(px, py, colour);
+                continue;
+            }
+            const ColorLong under = dc.pixel(px, py);
+            const auto mix = [a](int top, int bottom) {
+                return int(roundHalfEven((top * a + bottom * (255 - a)) / 255.0));
+            };
+            dc.setPixel(px, py, RGB(mix(r, RedOf(under)), mix(g, GreenOf(under)), mix(b, BlueOf(under))));
+        }
+    }
+}
+
+} // namespace
+
 bool TextOutA(DeviceContext &dc, int x, int y, const QString &text)
 {
     if (!dc.valid())
@@ -139,12 +174,13 @@ bool TextOutA(DeviceContext &dc, int x, int y, const QString &text)
     if (box.isEmpty())
         return true;
 
+    const bool soft = softEdges(dc.font);
     QImage glyphs(box.size(), QImage::Format_Alpha8);
     glyphs.fill(0);
     {
         QPainter p(&glyphs);
-        p.setRenderHint(QPainter::Antialiasing, false);
-        p.setRenderHint(QPainter::TextAntialiasing, false);
+        p.setRenderHint(QPainter::Antialiasing, soft);
+        p.setRenderHint(QPainter::TextAntialiasing, soft);
         p.setTransform(toPicture * QTransform::fromTranslate(-box.left(), -box.top()));
         p.setFont(font);
         p.setPen(QColor(255, 255, 255, 255));
@@ -154,11 +190,13 @@ bool TextOutA(DeviceContext &dc, int x, int y, const QString &text)
     raster::Mask mask(box);
     const bool opaque = dc.bkMode == OPAQUE;
     const QTransform toText = toPicture.inverted();
+    // With soft edges the mask holds the cell's background only; the ink is laid over after.
+    const int inkFrom = soft ? 256 : 128;
     for (int j = 0; j < box.height(); ++j) {
         const uchar *row = glyphs.constScanLine(j);
         for (int i = 0; i < box.width(); ++i) {
             const int px = box.left() + i, py = box.top() + j;
-            if (row[i] >= 128) {
+            if (row[i] >= inkFrom) {
                 mask.set(px, py, raster::PenLabel);
             } else if (opaque) {
                 // A pixel belongs to the cell when its centre does.
@@ -174,6 +212,8 @@ bool TextOutA(DeviceContext &dc, int x, int y, const QString &text)
     const ColorLong colours[4] = {-1, dc.textColor & 0xFFFFFF, -1, dc.bkColor & 0xFFFFFF};
     mask.paint(dc, colours);
     dc.rop2 = rop2;
+    if (soft)
+        blendInk(dc, glyphs, box, dc.textColor & 0xFFFFFF);
     return true;
 }
 

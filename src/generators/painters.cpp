@@ -13,6 +13,8 @@
 #include "generators/polypanels.h"
 #include "generators/rosettes.h"
 #include "generators/wavegrid.h"
+#include "generators/textpanels.h"
+#include "generators/texts.h"
 #include "generators/webtiles.h"
 #include "paint/grafdialogpanel.h"
 
@@ -117,14 +119,14 @@ std::span<const PainterEntry> painterTable()
         {"Horiz-Bars", paintHorizBars, Prepare},
         {"Vertic-Bars", paintVerticBars, Prepare},
         // Group 7
-        {"TEXT-Dialog", nullptr, Prepare},
-        {"TEXT-Textblock", nullptr, Prepare},
+        {"TEXT-Dialog", paintTextDialog, Prepare},
+        {"TEXT-Textblock", paintTextblock, Prepare},
         {"TEXT-Mondrian-Raster", nullptr, Prepare},
         {"TEXT-Simple-Raster", nullptr, Prepare},
         {"TEXT-Spiral-Raster", nullptr, Prepare},
-        {"TEXT-StarRotated", nullptr, Prepare},
-        {"TEXT-Circular", nullptr, Prepare},
-        {"TEXT-Spiral", nullptr, Prepare},
+        {"TEXT-StarRotated", paintTextStar, Prepare},
+        {"TEXT-Circular", paintTextCircular, Prepare},
+        {"TEXT-Spiral", paintTextSpiral, Prepare},
         {"The Matrix", paintTheMatrix, NoUndo},
         // Group 8
         {"A-Rahmen-Standard", Create_Borders, Prepare},
@@ -164,6 +166,7 @@ void registerAllPanels()
         registerPaperPanels();
         registerFramePanels();
         registerCentrePanels();
+        registerTextPanels();
         return true;
     }();
     (void)once;

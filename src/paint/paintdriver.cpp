@@ -70,6 +70,8 @@ PaintRecord recordOf(const Session &s, uint32_t seed)
     r.ColorFore = c.ColorFore;
     r.ColorBack = c.ColorBack;
     r.ColorBorder = c.ColorBorder;
+    r.TextFore = c.TextFore;
+    r.TextBack = c.TextBack;
     r.RandomColors = c.RandomColors;
     r.RandomValues = c.RandomValues;
     r.TranspPercent = t.TranspPercent;

@@ -1,5 +1,7 @@
 #include "paint/paintrecord.h"
 
+#include "paint/textstate.h"
+
 #include <QRegularExpression>
 
 namespace tf {
@@ -30,8 +32,16 @@ QStringList paintCommandArguments(const PaintRecord &r)
     else if (r.systemPalette > 0)
         args << QStringLiteral("--system-palette") << QString::number(r.systemPalette);
     if (r.duotones >= 0) args << QStringLiteral("--duotones") << QString::number(r.duotones);
-    for (const auto &[key, value] : r.controls)
-        args << QStringLiteral("--set") << key.toString() + QLatin1Char('=') + value;
+    // The text dialog's colours only where they differ from the start's black on white.
+    if (r.TextFore != 0x000000) args << QStringLiteral("--text-fore") << colourArgument(r.TextFore);
+    if (r.TextBack != 0xFFFFFF) args << QStringLiteral("--text-back") << colourArgument(r.TextBack);
+    for (const auto &[key, value] : r.controls) {
+        // The text goes as --text, its line breaks written "\n", so a command stays one line.
+        if (key.name == QLatin1String("txtOrthoIn"))
+            args << QStringLiteral("--text") << escapeTextArgument(value);
+        else
+            args << QStringLiteral("--set") << key.toString() + QLatin1Char('=') + value;
+    }
     if (r.TranspPercent != 0)
         args << QStringLiteral("--transparency") << QString::number(r.TranspPercent);
     args << QStringLiteral("--seed") << QString::number(r.seed);

@@ -24,6 +24,9 @@ struct PaintRecord {
     ColorLong ColorFore = 0;
     ColorLong ColorBack = 0;
     ColorLong ColorBorder = 0;
+    // The text dialog's colours (TextFore, TextBack).
+    ColorLong TextFore = 0x000000;
+    ColorLong TextBack = 0xFFFFFF;
     bool RandomColors = true;
     bool RandomValues = true;
     int TranspPercent = 0;

@@ -31,6 +31,7 @@
 #include "paint/paintrecord.h"
 #include "paint/sessionview.h"
 #include "paint/superformat.h"
+#include "paint/textstate.h"
 #include "paint/transparency.h"
 
 #include <array>
@@ -97,6 +98,9 @@ public:
     // The Superformat surfaces and the kept former picture (see superformat.h).
     SuperformatSurfaces &superformat() { return *m_superformat; }
     const SuperformatSurfaces &superformat() const { return *m_superformat; }
+    // The text types' state between paints, the system's fonts and the text placing mode.
+    TextState &text() { return m_text; }
+    const TextState &text() const { return m_text; }
     const TransparencyState &transparency() const { return m_transparency; }
 
     // The painters this session paints with, one entry per type key (borrowed; it must outlive
@@ -145,6 +149,7 @@ private:
     FilterState m_filters;
     MondrianTables m_mondrian;
     std::unique_ptr<SuperformatSurfaces> m_superformat;
+    TextState m_text;
     Random m_random;
     SessionClock m_clock;
 

@@ -1,6 +1,7 @@
 #include "paint/typepanels.h"
 
 #include "paint/grafdialogpanel.h"
+#include "paint/textstate.h"
 
 #include <array>
 
@@ -45,6 +46,11 @@ std::span<const TypePanel> typePanels()
         {"Radial", "feat_04CircleGradients"},
         {"Sunburst", "feat_04CircleGradients"},
         {"Radial-4spirals", "feat_04CircleGradients"},
+        {"TEXT-Dialog", "feat_14Textdialog", TextDialogPanelName},
+        {"TEXT-Textblock", "feat_13TextBlock", TextDialogPanelName},
+        {"TEXT-StarRotated", "feat_11TextRotation", TextDialogPanelName},
+        {"TEXT-Circular", "feat_12TextCircular", TextDialogPanelName},
+        {"TEXT-Spiral", "feat_12TextCircular", TextDialogPanelName},
     };
     return table;
 }
@@ -59,6 +65,8 @@ QString optionPanelOf(const QString &key)
 QStringList panelsReadBy(const QString &key)
 {
     QStringList out{QString::fromLatin1(GrafDialogPanelName)};
+    for (const TypePanel &t : typePanels())
+        if (t.dialog && key == QString::fromUtf8(t.key)) out << QString::fromLatin1(t.dialog);
     const QString own = optionPanelOf(key);
     if (!own.isEmpty()) out << own;
     return out;

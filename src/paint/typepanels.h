@@ -12,6 +12,8 @@ namespace tf {
 struct TypePanel {
     const char *key;   // a key of the catalogue
     const char *panel; // the name of its option panel ("feat_01Mondrian")
+    // A dialog whose fields the type reads besides ("frmTextDialog"), null for none.
+    const char *dialog = nullptr;
 };
 
 // One row per type that has an option panel of its own; the other types read the general
@@ -19,7 +21,7 @@ struct TypePanel {
 std::span<const TypePanel> typePanels();
 // The panel of a type, "" when it has none.
 QString optionPanelOf(const QString &key);
-// The panels a type reads: the paint dialog's general options, then its own panel if any.
+// The panels a type reads: the paint dialog's general options, its dialog and its own panel.
 QStringList panelsReadBy(const QString &key);
 
 } // namespace tf

@@ -23,6 +23,13 @@ QString caption(const ControlSpec &def)
     return QCoreApplication::translate("Controls", def.caption);
 }
 
+// A list item as shown: "&&" in a caption written for an option button is one "&" in a list.
+QString itemText(const char *item)
+{
+    return QCoreApplication::translate("Controls", item).replace(QLatin1String("&&"),
+                                                                 QLatin1String("&"));
+}
+
 void setButtonColour(QPushButton *b, ColorLong c)
 {
     b->setStyleSheet(QStringLiteral("background-color: %1; min-width: 40px;")
@@ -101,7 +108,7 @@ void ControlPanelWidget::build()
         case ControlKind::ListIndex: {
             auto *combo = new QComboBox(this);
             for (const char *item : def.items)
-                combo->addItem(QCoreApplication::translate("Controls", item));
+                combo->addItem(itemText(item));
             connect(combo, &QComboBox::currentIndexChanged, this,
                     [this, sp](int i) { commit(*sp, QString::number(i)); });
             b.widget = combo;
@@ -186,7 +193,7 @@ void ControlPanelWidget::retranslate()
             auto *combo = static_cast<QComboBox *>(b.widget);
             m_showing = true;
             for (int i = 0; i < combo->count() && size_t(i) < def.items.size(); ++i)
-                combo->setItemText(i, QCoreApplication::translate("Controls", def.items[size_t(i)]));
+                combo->setItemText(i, itemText(def.items[size_t(i)]));
             b.show();
             m_showing = false;
         }

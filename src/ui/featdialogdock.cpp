@@ -5,13 +5,23 @@
 #include "paint/session.h"
 #include "paint/typepanels.h"
 #include "ui/controlpanelwidget.h"
+#include "ui/idleguard.h"
+#include "paint/textstate.h"
 
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
 #include <QScrollArea>
 #include <QStackedWidget>
 
 namespace tf::ui {
+
+namespace {
+// The text type's panel, under which the placing buttons stand.
+constexpr const char *TextDialogTypePanel = "feat_14Textdialog";
+} // namespace
 
 FeatDialogDock::FeatDialogDock(Session &session, QWidget *parent)
     : QDockWidget(parent), m_session(session)
@@ -25,12 +35,20 @@ FeatDialogDock::FeatDialogDock(Session &session, QWidget *parent)
     m_none->setMargin(8);
     m_stack->addWidget(m_none);
     for (const ControlPanel *panel : controlPanels()) {
-        if (panel->name == QLatin1String(GrafDialogPanelName))
-            continue; // the general options stand in the paint dialog
+        if (panel->name == QLatin1String(GrafDialogPanelName) ||
+            panel->name == QLatin1String(TextDialogPanelName))
+            continue; // the general options stand in the paint dialog, the text's in its own
         auto *scroll = new QScrollArea(m_stack);
-        auto *widget = new ControlPanelWidget(*panel, session.controls(), scroll);
+        auto *page = new QWidget(scroll);
+        auto *column = new QVBoxLayout(page);
+        column->setContentsMargins(0, 0, 0, 0);
+        auto *widget = new ControlPanelWidget(*panel, session.controls(), page);
         widget->setRunState(&session.runState());
-        scroll->setWidget(widget);
+        column->addWidget(widget);
+        if (panel->name == QLatin1String(TextDialogTypePanel))
+            column->addWidget(textPlacingButtons(page));
+        column->addStretch(1);
+        scroll->setWidget(page);
         scroll->setWidgetResizable(true);
         m_stack->addWidget(scroll);
         m_panels[panel->name] = widget;
@@ -39,6 +57,28 @@ FeatDialogDock::FeatDialogDock(Session &session, QWidget *parent)
     setWidget(m_stack);
     retranslate();
     Handle_Formobjects();
+}
+
+QWidget *FeatDialogDock::textPlacingButtons(QWidget *parent)
+{
+    auto *box = new QWidget(parent);
+    auto *row = new QHBoxLayout(box);
+    row->setContentsMargins(4, 0, 4, 4);
+    BtnSet_TextDialogPosition = new QPushButton(box);
+    BtnSet_TextDialogPosition->setObjectName(QStringLiteral("BtnSet_TextDialogPosition"));
+    BtnSet_TextPosC = new QPushButton(box);
+    BtnSet_TextPosC->setObjectName(QStringLiteral("BtnSet_TextPosC"));
+    row->addWidget(BtnSet_TextDialogPosition);
+    row->addWidget(BtnSet_TextPosC);
+    connect(BtnSet_TextDialogPosition, &QPushButton::clicked, this, whenIdle(m_session, [this] {
+                armTextPlacing(m_session, TextPlacing::Corner);
+                emit textPlacingArmed();
+            }));
+    connect(BtnSet_TextPosC, &QPushButton::clicked, this, whenIdle(m_session, [this] {
+                armTextPlacing(m_session, TextPlacing::Centre);
+                emit textPlacingArmed();
+            }));
+    return box;
 }
 
 void FeatDialogDock::Handle_Formobjects()
@@ -77,6 +117,13 @@ void FeatDialogDock::retranslate()
 {
     setWindowTitle(tr("Optionen"));
     m_none->setText(tr("Dieser Grafiktyp liest nur die allgemeinen Optionen des Maldialogs."));
+    if (BtnSet_TextDialogPosition) {
+        BtnSet_TextDialogPosition->setText(tr("Setze Position ..."));
+        BtnSet_TextDialogPosition->setToolTip(
+            tr("Der nächste Klick in das Bild setzt die linke obere Ecke des Textes."));
+        BtnSet_TextPosC->setText(tr("Setze Mitte ..."));
+        BtnSet_TextPosC->setToolTip(tr("Der nächste Klick in das Bild setzt die Mitte des Textes."));
+    }
 }
 
 } // namespace tf::ui

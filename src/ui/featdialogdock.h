@@ -7,6 +7,7 @@
 #include <map>
 
 class QLabel;
+class QPushButton;
 class QStackedWidget;
 
 namespace tf {
@@ -30,17 +31,26 @@ public:
     // The name of the panel on top ("" for the note).
     QString currentPanel() const;
 
+signals:
+    // A button of the text panel armed the placing mode: the next click on the picture
+    // places the text.
+    void textPlacingArmed();
+
 protected:
     void changeEvent(QEvent *event) override;
 
 private:
     void retranslate();
+    // The placing buttons under the text panel (BtnSet_TextDialogPosition, BtnSet_TextPosC).
+    QWidget *textPlacingButtons(QWidget *parent);
 
     Session &m_session;
     QStackedWidget *m_stack;
     QLabel *m_none;
     std::map<QString, ControlPanelWidget *> m_panels;
     std::map<QString, QWidget *> m_pages;
+    QPushButton *BtnSet_TextDialogPosition = nullptr;
+    QPushButton *BtnSet_TextPosC = nullptr;
 };
 
 } // namespace tf::ui

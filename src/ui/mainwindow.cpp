@@ -4,6 +4,8 @@
 #include "generators/painters.h"
 #include "paint/catalogue.h"
 #include "paint/grafmenu.h"
+#include "paint/textstate.h"
+#include "paint/typepanels.h"
 #include "ui/colourdialogdock.h"
 #include "ui/featdialogdock.h"
 #include "ui/filtermenu.h"
@@ -13,6 +15,7 @@
 #include "ui/pictureview.h"
 #include "ui/previewcache.h"
 #include "ui/statusbar.h"
+#include "ui/textdialog.h"
 #include "ui/transformmenu.h"
 
 #include <QAction>
@@ -57,6 +60,13 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     addDockWidget(Qt::RightDockWidgetArea, m_colourDialog);
     tabifyDockWidget(m_featDialog, m_colourDialog);
     m_colourDialog->raise();
+    m_textDialog = new TextDialog(m_session, this);
+    connect(m_view, &PictureView::mousePressed, this,
+            whenIdle(m_session, [this](Qt::MouseButton button, Qt::KeyboardModifiers, QPoint at) {
+                pictureClicked(button, at);
+            }));
+    connect(m_featDialog, &FeatDialogDock::textPlacingArmed, this,
+            [this] { m_view->setCursor(Qt::CrossCursor); });
     // Paint and the roll buttons are Stop while a paint runs: they need no guard.
     connect(m_grafDialog, &GrafDialogDock::paintRequested, this, &MainWindow::paint);
     connect(m_grafDialog, &GrafDialogDock::rollRequested, this, &MainWindow::roll);
@@ -91,6 +101,7 @@ MainWindow::~MainWindow()
     // hold on to its pictures and state.
     m_session.setView(nullptr);
     delete takeCentralWidget();
+    delete m_textDialog;
     delete m_colourDialog;
     delete m_featDialog;
     delete m_grafDialog;
@@ -116,11 +127,34 @@ void MainWindow::controlChanged(const ControlKey &key)
 {
     m_grafDialog->controlChanged(key);
     m_featDialog->controlChanged(key);
+    if (m_textDialog) m_textDialog->controlChanged(key);
 }
 
 void MainWindow::Handle_Formobjects()
 {
     m_featDialog->Handle_Formobjects();
+    // A type that paints the text dialog's text brings the dialog up beside its panel.
+    if (panelsReadBy(m_session.paint().GrafKey).contains(QLatin1String(TextDialogPanelName)) &&
+        m_textDialog && isVisible() && !m_textDialog->isVisible())
+        showTextDialog();
+}
+
+void MainWindow::showTextDialog()
+{
+    m_textDialog->show();
+    m_textDialog->raise();
+}
+
+void MainWindow::pictureClicked(Qt::MouseButton button, QPoint at)
+{
+    if (m_session.text().placing == TextPlacing::Off) return;
+    if (button != Qt::LeftButton) {
+        armTextPlacing(m_session, TextPlacing::Off);
+        m_view->unsetCursor();
+        return;
+    }
+    m_view->unsetCursor();
+    if (placeTextAt(m_session, at.x(), at.y())) paint();
 }
 
 bool MainWindow::openMatrixWindow(int glyph, int speed)
@@ -247,6 +281,8 @@ void MainWindow::createActions()
     mn_SuperShow = new QAction(this);
     mn_SuperShow->setObjectName(QStringLiteral("mn_SuperShow"));
     onTriggered(mn_SuperShow, [this] { showSuperformat(); });
+    mn_TextDialog = new QAction(this);
+    onTriggered(mn_TextDialog, [this] { showTextDialog(); });
 }
 
 void MainWindow::createMenus()
@@ -308,6 +344,7 @@ void MainWindow::createMenus()
     m_viewMenu->addAction(m_featDialog->toggleViewAction());
     m_viewMenu->addSeparator();
     m_viewMenu->addAction(mn_SuperShow);
+    m_viewMenu->addAction(mn_TextDialog);
 }
 
 void MainWindow::createToolBar()
@@ -372,6 +409,7 @@ void MainWindow::retranslate()
     tbDrucken->setText(tr("Drucken"));
     mn_Passepartouts->setText(tr("&Passepartouts..."));
     mn_Kachelansicht->setText(tr("Kachel&ansicht..."));
+    mn_TextDialog->setText(tr("&Text und Schrift..."));
     const int group = m_session.paint().GrafGroup;
     m_toolBar->setToolTip(groupLabel(group));
     Set_MDI_Caption();

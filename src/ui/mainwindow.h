@@ -35,6 +35,7 @@ class PictureView;
 class PreviewCache;
 struct SystemOptions;
 class StatusBarSink;
+class TextDialog;
 class TileViewer;
 class MosaikShow;
 
@@ -110,6 +111,10 @@ private:
     void showPassepartouts();
     // The tile viewer over the work picture (one window, raised again when open).
     void showTileViewer();
+    // The text dialog (made with the window, kept for its life), raised.
+    void showTextDialog();
+    // A press on the picture: the text placing mode takes a left click first.
+    void pictureClicked(Qt::MouseButton button, QPoint at);
     void paint();
     void roll(int index);
     void copyPictureToClipboard();
@@ -137,6 +142,7 @@ private:
     GrafDialogDock *m_grafDialog = nullptr;
     FeatDialogDock *m_featDialog = nullptr;
     ColourDialogDock *m_colourDialog = nullptr;
+    TextDialog *m_textDialog = nullptr;
     QScrollArea *m_picContainer = nullptr;
     PictureView *m_view = nullptr;
     QString m_fileName;
@@ -183,6 +189,7 @@ private:
     QAction *tbDrucken = nullptr;
     QAction *mn_Passepartouts = nullptr;
     QAction *mn_Kachelansicht = nullptr;
+    QAction *mn_TextDialog = nullptr;
     TileViewer *m_tileViewer = nullptr;
     // "Superformat anzeigen": the Superformat viewer over the session's last Superformat picture.
     QAction *mn_SuperShow = nullptr;

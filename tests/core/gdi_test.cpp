@@ -3,6 +3,7 @@
 #include "pixel_art.h"
 
 #include <gtest/gtest.h>
+#include <set>
 
 #include <algorithm>
 #include <tuple>
@@ -290,6 +291,39 @@ TEST_P(Gdi, TextTurnsWithTheEscapement)
     EXPECT_EQ(inkBox(o.dc), QRect(0, 0, ext.cx, ext.cy));
     EXPECT_EQ(o.dc.pixel(0, 0), 0x00FF00);
     EXPECT_NE(o.pixels().find('r'), std::string::npos);
+}
+
+TEST_P(Gdi, TextOfTheSoftQualitiesMixesItsEdgesOverThePicture)
+{
+    const auto colours = [](Surface &s) {
+        std::set<ColorLong> seen;
+        for (int y = 0; y < s.dc.height(); ++y)
+            for (int x = 0; x < s.dc.width(); ++x) seen.insert(s.dc.pixel(x, y));
+        return seen;
+    };
+    for (const int quality : {int(DEFAULT_QUALITY), int(NONANTIALIASED_QUALITY),
+                              int(ANTIALIASED_QUALITY), int(CLEARTYPE_QUALITY)}) {
+        SCOPED_TRACE(quality);
+        Surface s = surface(80, 40);
+        SelectObject(s.dc, CreateFontA(-20, 0, 150, 150, 400, 0, 0, 0, 0, 0, 0, unsigned(quality),
+                                       0, "Arial"));
+        SetBkMode(s.dc, TRANSPARENT);
+        SetTextColor(s.dc, RGB(0, 0, 255));
+        TextOutA(s.dc, 4, 12, "Sog");
+        const std::set<ColorLong> seen = colours(s);
+        const bool soft = quality == ANTIALIASED_QUALITY || quality == CLEARTYPE_QUALITY;
+        EXPECT_TRUE(seen.count(RGB(0, 0, 255))); // the middle of a stroke is the text colour
+        if (soft) {
+            EXPECT_GT(seen.size(), 5u);
+            // Every mixed pixel lies between the picture's white and the text's blue.
+            for (const ColorLong c : seen) {
+                EXPECT_EQ(RedOf(c), GreenOf(c));
+                EXPECT_EQ(BlueOf(c), 255);
+            }
+        } else {
+            EXPECT_EQ(seen.size(), 2u);
+        }
+    }
 }
 
 TEST(GdiText, FontHeightsAndMetrics)
