@@ -288,6 +288,9 @@ int paintOnce(const PaintOptions &o, const QImage &over, QImage &result, PaintRe
         s.superformat().setKeepUndo(false);
     }
     Workspace &ws = s.workspace();
+    // Nobody can press Undo here: the undo image is only wanted as the picture that a
+    // transparent paint is laid over.
+    ws.setUndoKept(s.controls().value(ControlKey{QStringLiteral("ScrollTransparence")}) != 0);
     ws.New_BildSize(size.width(), size.height());
     if (!over.isNull()) ws.Bild.setPicture(over);
     if (!applyColours(s, o))

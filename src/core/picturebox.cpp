@@ -25,7 +25,7 @@ QImage blankImage(int w, int h, ColorLong back)
 } // namespace
 
 PictureBox::PictureBox(const QString &name, int width, int height)
-    : m_name(name), m_image(blankImage(width, height, 0xFFFFFF))
+    : m_name(name), m_blankSize(std::max(1, width), std::max(1, height))
 {
     m_dc.attach(&m_image, false);
     syncPen();
@@ -37,10 +37,29 @@ PictureBox::PictureBox(const QString &name, int width, int height)
 
 // ---- Persistence ---------------------------------------------------------------------------
 
+void PictureBox::realize() const
+{
+    if (!m_blank)
+        return;
+    m_image = blankImage(m_blankSize.width(), m_blankSize.height(), m_backColor);
+    m_blank = false;
+}
+
+bool PictureBox::replaceImage(const QImage &picture)
+{
+    if (m_screenActive || picture.size() != QSize(Width(), Height()) ||
+        picture.format() != QImage::Format_RGB32)
+        return false;
+    m_image = picture;
+    m_blank = false;
+    markChanged();
+    return true;
+}
+
 DeviceContext &PictureBox::beginDrawing()
 {
     if (!m_autoRedraw && !m_screenActive) {
-        m_screen = m_image.copy();
+        m_screen = Image().copy();
         m_screenActive = true;
     }
     m_dc.attach(&target(), false);
@@ -65,11 +84,21 @@ void PictureBox::setAutoRedraw(bool on)
     if (on && m_screenActive)
         dropScreenLayer();
     else
-        m_dc.attach(&target(), false);
+        m_dc.attach(drawingSlot(), false);
 }
 
 void PictureBox::clearImage()
 {
+    if (m_picture.isNull() && m_blank)
+        return;
+    // A picture that covers the whole control becomes the image as it is: the two share their
+    // pixels until the next drawing, so keeping a large paint as the picture copies nothing.
+    if (m_picture.size() == QSize(Width(), Height())) {
+        m_image = m_picture;
+        m_blank = false;
+        return;
+    }
+    realize();
     m_image.fill(toQRgb(m_backColor));
     if (!m_picture.isNull()) {
         QPainter p(&m_image);
@@ -107,13 +136,13 @@ void PictureBox::markChanged(const QRect &r)
 {
     if (!m_hook)
         return;
-    const QRect whole = m_image.rect();
+    const QRect whole(0, 0, Width(), Height());
     m_hook(r.isEmpty() ? whole : r.intersected(whole));
 }
 
 void PictureBox::drawn(const QRect &r)
 {
-    const QRect visible = r.intersected(m_image.rect());
+    const QRect visible = r.intersected(QRect(0, 0, Width(), Height()));
     if (!visible.isEmpty())
         markChanged(visible);
 }
@@ -259,8 +288,13 @@ void PictureBox::resize(int width, int height)
 {
     width = std::max(1, width);
     height = std::max(1, height);
-    if (width == m_image.width() && height == m_image.height())
+    if (width == Width() && height == Height())
         return;
+    if (m_blank) {
+        m_blankSize = QSize(width, height);
+        markChanged();
+        return;
+    }
     QImage img = blankImage(width, height, m_backColor);
     {
         QPainter p(&img);
@@ -276,7 +310,7 @@ void PictureBox::resize(int width, int height)
         p.end();
         m_screen = std::move(screen);
     }
-    m_dc.attach(&target(), false);
+    m_dc.attach(drawingSlot(), false);
     markChanged();
 }
 
@@ -284,14 +318,14 @@ void PictureBox::setWidth(double width)
 {
     if (width < 0)
         invalidProperty();
-    resize(CLng(width), m_image.height());
+    resize(CLng(width), Height());
 }
 
 void PictureBox::setHeight(double height)
 {
     if (height < 0)
         invalidProperty();
-    resize(m_image.width(), CLng(height));
+    resize(Width(), CLng(height));
 }
 
 void PictureBox::Move(double left, std::optional<double> top, std::optional<double> width,
@@ -302,7 +336,7 @@ void PictureBox::Move(double left, std::optional<double> top, std::optional<doub
     setLeft(left);
     if (top)
         setTop(*top);
-    resize(width ? CLng(*width) : m_image.width(), height ? CLng(*height) : m_image.height());
+    resize(width ? CLng(*width) : Width(), height ? CLng(*height) : Height());
 }
 
 void PictureBox::setVisible(bool on)
@@ -352,12 +386,12 @@ void PictureBox::setScaleMode(int mode)
 
 Single PictureBox::ScaleWidth() const
 {
-    return CSng(convert(m_image.width(), vbPixels, m_scaleMode, false));
+    return CSng(convert(Width(), vbPixels, m_scaleMode, false));
 }
 
 Single PictureBox::ScaleHeight() const
 {
-    return CSng(convert(m_image.height(), vbPixels, m_scaleMode, true));
+    return CSng(convert(Height(), vbPixels, m_scaleMode, true));
 }
 
 double PictureBox::ScaleX(double width, int fromScale, int toScale) const

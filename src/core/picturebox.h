@@ -63,10 +63,26 @@ public:
     // BackColor with the picture at (0,0). The control's size does not change.
     void setPicture(const QImage &picture);
     // The persistent image, including all that was drawn with AutoRedraw on.
-    const QImage &Image() const { return m_image; }
+    const QImage &Image() const
+    {
+        realize();
+        return m_image;
+    }
     // The persistent image's pixels, for routines that work on them in place; the caller
     // keeps the size and calls markChanged() afterwards.
-    QImage &mutableImage() { return m_image; }
+    QImage &mutableImage()
+    {
+        realize();
+        return m_image;
+    }
+    // Copies a picture of the control's own size over the whole persistent image by sharing
+    // its pixels (a later drawing detaches them): a full-size copy without a second buffer.
+    // Answers false, changing nothing, for another size or while a screen layer is shown.
+    bool replaceImage(const QImage &picture);
+    // False while the control is blank in BackColor and has not yet needed its pixels: a new
+    // or resized blank control takes no memory until it is drawn on or read, so the work
+    // pictures that follow a 14000 x 14000 picture cost nothing until a routine uses them.
+    bool holdsPixels() const { return !m_blank; }
     // The context of the current drawing target (the screen layer with AutoRedraw off, which
     // this call starts; else the persistent image). Its address is stable for the control's
     // lifetime.
@@ -119,8 +135,8 @@ public:
     void setLeft(double left) { m_left = CSng(left); }
     Single Top() const { return m_top; }
     void setTop(double top) { m_top = CSng(top); }
-    int Width() const { return m_image.width(); }
-    int Height() const { return m_image.height(); }
+    int Width() const { return m_blank ? m_blankSize.width() : m_image.width(); }
+    int Height() const { return m_blank ? m_blankSize.height() : m_image.height(); }
     // Resizing keeps the content at the top left and fills new area with BackColor.
     // A size below 1 is clamped to 1; a negative size is an invalid property value.
     void setWidth(double width);
@@ -200,7 +216,7 @@ public:
 
     // ---- View -----------------------------------------------------------------------------
     // What the screen shows: the screen layer while one exists, else the persistent image.
-    const QImage &screenImage() const { return m_screenActive ? m_screen : m_image; }
+    const QImage &screenImage() const { return target(); }
     // Called with the changed rectangle after each drawing operation and with the whole
     // picture by Refresh, resizing and clearing; the GUI hands it to QWidget::update, which
     // coalesces. Routines that draw through hDC() call markChanged or Refresh.
@@ -209,8 +225,20 @@ public:
     void markChanged(const QRect &r = QRect());
 
 private:
-    QImage &target() { return m_screenActive ? m_screen : m_image; }
-    const QImage &target() const { return m_screenActive ? m_screen : m_image; }
+    QImage &target()
+    {
+        realize();
+        return m_screenActive ? m_screen : m_image;
+    }
+    const QImage &target() const
+    {
+        realize();
+        return m_screenActive ? m_screen : m_image;
+    }
+    // Gives a blank control its pixels (BackColor).
+    void realize() const;
+    // The image that drawing goes to, as it stands (a blank control's is null until used).
+    QImage *drawingSlot() { return m_screenActive ? &m_screen : &m_image; }
     // Prepares the drawing target (starts the screen layer with AutoRedraw off).
     DeviceContext &beginDrawing();
     void dropScreenLayer();
@@ -226,7 +254,10 @@ private:
     void drawn(const QRect &r);
 
     QString m_name;
-    QImage m_image;
+    // While m_blank, m_image is null and the control is m_blankSize pixels of BackColor.
+    mutable QImage m_image;
+    mutable bool m_blank = true;
+    QSize m_blankSize{1, 1};
     QImage m_picture;
     QImage m_screen;
     bool m_screenActive = false;

@@ -1,6 +1,6 @@
 #include "core/tempfiles.h"
 
-#include "core/dibsection.h"
+#include "core/bmpstream.h"
 #include "core/fault.h"
 #include "core/prompter.h"
 
@@ -18,8 +18,9 @@ QString fixingFileName(int number)
 
 void writeBmpFile(const QImage &image, const QString &path)
 {
-    cDIBSection dib;
-    if (!dib.CreateFromPicture(image) || !cDIBSection::Save_BMP(path, dib))
+    // Row by row: the undo image of a large picture must not cost a second copy in memory.
+    QFile f(path);
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate) || !writeBmp24(image, f) || !f.flush())
         throw Fault(Fault::PathFileAccessError);
 }
 

@@ -82,6 +82,8 @@ void Workspace::New_BildSize(int w, int h)
 
 void Workspace::Bildimage_auf_Undo(PictureBox &picsrc, bool usemasks, bool usefile)
 {
+    if (!m_undoKept)
+        return;
     guarded(QStringLiteral("Bildimage_auf_Undo"), [&] {
         const bool toFile = undoGoesToFile(BildMax, usefile);
         if (toFile) {
@@ -129,9 +131,15 @@ void Workspace::UndoBlt_auf_Bild(PictureBox &picdst, int xDst, int yDst, int wds
         if (hdst < 1)
             hdst = undo.height();
         undo = undo.convertToFormat(QImage::Format_RGB32);
-        DeviceContext src(&undo, false);
-        BitBlt(picdst.hDC(), xDst, yDst, wdst, hdst, &src, xSrc, ySrc, SRCCOPY);
-        picdst.markChanged(QRect(xDst, yDst, wdst, hdst));
+        // The usual call copies the whole undo image onto a picture of its size: the picture
+        // then shares the undo image's pixels, and a large picture needs no third copy.
+        const bool whole = xDst == 0 && yDst == 0 && xSrc == 0 && ySrc == 0 &&
+                           wdst == undo.width() && hdst == undo.height();
+        if (!whole || !picdst.replaceImage(undo)) {
+            DeviceContext src(&undo, false);
+            BitBlt(picdst.hDC(), xDst, yDst, wdst, hdst, &src, xSrc, ySrc, SRCCOPY);
+            picdst.markChanged(QRect(xDst, yDst, wdst, hdst));
+        }
         if (fromFile) {
             Bild_Buff.setPicture(QImage());
             Bild_Buff.resize(10, 10);

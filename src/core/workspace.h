@@ -96,6 +96,11 @@ public:
     // the selections are hidden; the frame is laid out by the layout hook.
     void New_BildSize(int w, int h);
 
+    // Whether changes keep an undo image. A session without a window (the command line) has
+    // no Undo to offer and keeps none: a 14000 x 14000 picture then needs no second copy.
+    bool undoKept() const { return m_undoKept; }
+    void setUndoKept(bool on) { m_undoKept = on; }
+
     // Saves `picsrc` as the undo image, in memory or (usefile, or a picture above 712) on disk.
     void Bildimage_auf_Undo(PictureBox &picsrc, bool usemasks, bool usefile);
     // Sets `picdst`'s Picture from the undo image.
@@ -141,6 +146,7 @@ private:
     // Where the undo image of Bild was last put: true on disk.
     bool m_bildUndoInFile = false;
     bool m_maskUndoInFile = false;
+    bool m_undoKept = true;
     WorkspaceView m_noView;
     WorkspaceView *m_view = &m_noView;
     SelectionUndo *m_selectionUndo = nullptr;

@@ -1,4 +1,5 @@
 #include "files/jpegcodec.h"
+#include "files/encoderows.h"
 
 #include "core/dibsection.h"
 #include "core/numeric.h"
@@ -302,7 +303,7 @@ void termDestination(j_compress_ptr c)
     }
 }
 
-int encodeRows(ErrorState &err, DeviceDestination &dest, const cDIBSection &source, int quality,
+int encodeRows(ErrorState &err, DeviceDestination &dest, const EncodeRows &source, int quality,
                int dpi, const QByteArray &comment)
 {
     jpeg_compress_struct cinfo;
@@ -318,11 +319,10 @@ int encodeRows(ErrorState &err, DeviceDestination &dest, const cDIBSection &sour
     dest.pub.term_destination = termDestination;
     cinfo.dest = &dest.pub;
 
-    const int w = source.dib_width(), h = source.dib_height();
-    cinfo.image_width = JDIMENSION(w);
-    cinfo.image_height = JDIMENSION(h);
-    cinfo.input_components = 3;
-    cinfo.in_color_space = JCS_EXT_BGR;
+    cinfo.image_width = JDIMENSION(source.width);
+    cinfo.image_height = JDIMENSION(source.height);
+    cinfo.input_components = source.bytesPerPixel;
+    cinfo.in_color_space = source.bytesPerPixel == 4 ? JCS_EXT_BGRX : JCS_EXT_BGR;
     jpeg_set_defaults(&cinfo);
     jpeg_set_quality(&cinfo, quality, TRUE);
     // 4:2:0: the luminance at full size, both colour planes at half width and height.
@@ -340,11 +340,8 @@ int encodeRows(ErrorState &err, DeviceDestination &dest, const cDIBSection &sour
     if (!comment.isEmpty())
         jpeg_write_marker(&cinfo, JPEG_COM, reinterpret_cast<const JOCTET *>(comment.constData()),
                           unsigned(comment.size()));
-    // Rows of the bottom-up surface, the top row (the last in memory) first; each is
-    // w*3 + IJL_DIB_PAD_BYTES(w, 3) bytes long.
-    const ConstDibView v = source.view();
     while (cinfo.next_scanline < cinfo.image_height) {
-        JSAMPROW row = const_cast<JSAMPROW>(v.row(h - 1 - int(cinfo.next_scanline)));
+        JSAMPROW row = const_cast<JSAMPROW>(source.row(int(cinfo.next_scanline)));
         jpeg_write_scanlines(&cinfo, &row, 1);
     }
     jpeg_finish_compress(&cinfo);
@@ -354,10 +351,12 @@ int encodeRows(ErrorState &err, DeviceDestination &dest, const cDIBSection &sour
 
 } // namespace
 
-bool SaveJPG(const cDIBSection &source, QIODevice &out, int quality, const PictureMeta &meta,
-             QString *why)
+namespace {
+
+bool saveJpgRows(const EncodeRows &source, QIODevice &out, int quality, const PictureMeta &meta,
+                 QString *why)
 {
-    if (!source.hDIB() || source.dib_channels() != 3) {
+    if (source.empty()) {
         if (why)
             *why = QStringLiteral("JPEG: no picture");
         return false;
@@ -377,6 +376,20 @@ bool SaveJPG(const cDIBSection &source, QIODevice &out, int quality, const Pictu
     if (why)
         *why = QStringLiteral("JPEG: ") + QString::fromLatin1(err.message);
     return false;
+}
+
+} // namespace
+
+bool SaveJPG(const cDIBSection &source, QIODevice &out, int quality, const PictureMeta &meta,
+             QString *why)
+{
+    return saveJpgRows(EncodeRows::of(source), out, quality, meta, why);
+}
+
+bool SaveJPG(const QImage &source, QIODevice &out, int quality, const PictureMeta &meta,
+             QString *why)
+{
+    return saveJpgRows(EncodeRows::of(source), out, quality, meta, why);
 }
 
 PictureMeta readJpegMeta(QByteArrayView bytes)

@@ -31,6 +31,9 @@ int IJL_DIB_PAD_BYTES(int width, int channels);
 // failure; the caller throws away what was written.
 bool SaveJPG(const cDIBSection &source, QIODevice &out, int quality, const PictureMeta &meta = {},
              QString *why = nullptr);
+// The same from a picture's own pixels (RGB32 or ARGB32), without a copy.
+bool SaveJPG(const QImage &source, QIODevice &out, int quality, const PictureMeta &meta = {},
+             QString *why = nullptr);
 
 // The density (as dots per inch) and the comment of a JPEG's header.
 PictureMeta readJpegMeta(QByteArrayView bytes);

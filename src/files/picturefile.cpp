@@ -23,7 +23,15 @@ LoadResult loadWith(const QString &file, const DecodeRequest &request)
     if (!QFileInfo(file).isFile() || !f.open(QIODevice::ReadOnly))
         return r;
     // The whole file at once: a decoder reads its header before it allocates the picture.
-    const QByteArray bytes = f.readAll();
+    // Mapped where the system can, so a large file is not copied before it is decoded.
+    QByteArray read;
+    QByteArrayView bytes;
+    if (uchar *mapped = f.size() > 0 ? f.map(0, f.size()) : nullptr) {
+        bytes = QByteArrayView(mapped, f.size());
+    } else {
+        read = f.readAll();
+        bytes = read;
+    }
     Decoded d = decodePicture(bytes, request);
     r.stored = d.stored;
     if (!d.ok()) {
@@ -64,21 +72,23 @@ namespace {
 
 using Encoder = bool (*)(const QImage &, QIODevice &, const PictureMeta &, int quality, QString &);
 
+// The picture's own pixels are encoded as they stand; another format is converted first.
+QImage encodable(const QImage &image)
+{
+    return image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32
+               ? image
+               : image.convertToFormat(QImage::Format_RGB32);
+}
+
 bool encodePng(const QImage &image, QIODevice &out, const PictureMeta &meta, int, QString &why)
 {
-    cDIBSection SaveDIB;
-    if (!SaveDIB.CreateFromPicture(image))
-        return false;
-    return SavePNG(SaveDIB, out, meta, &why);
+    return SavePNG(encodable(image), out, meta, &why);
 }
 
 bool encodeJpg(const QImage &image, QIODevice &out, const PictureMeta &meta, int quality,
                QString &why)
 {
-    cDIBSection SaveDIB;
-    if (!SaveDIB.CreateFromPicture(image))
-        return false;
-    return SaveJPG(SaveDIB, out, quality, meta, &why);
+    return SaveJPG(encodable(image), out, quality, meta, &why);
 }
 
 bool encodeBmp(const QImage &image, QIODevice &out, const PictureMeta &meta, int, QString &)

@@ -1,4 +1,5 @@
 #include "files/pngcodec.h"
+#include "files/encoderows.h"
 
 #include "core/dibsection.h"
 #include "files/picturelimits.h"
@@ -436,7 +437,7 @@ struct TextChunks {
     }
 };
 
-int writeRows(WriteState &state, const cDIBSection &source, int dpi, TextChunks &texts,
+int writeRows(WriteState &state, const EncodeRows &source, int dpi, TextChunks &texts,
               std::vector<png_bytep> &rows)
 {
     png_structp png = png_create_write_struct(png_get_libpng_ver(nullptr), &state, onWriteError,
@@ -453,7 +454,7 @@ int writeRows(WriteState &state, const cDIBSection &source, int dpi, TextChunks 
         return 1;
     }
     png_set_write_fn(png, &state, writeBytes, flushBytes);
-    const int w = source.dib_width(), h = source.dib_height();
+    const int w = source.width, h = source.height;
     png_set_IHDR(png, info, png_uint_32(w), png_uint_32(h), 8, PNG_COLOR_TYPE_RGB,
                  PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
     png_color_8 bits{};
@@ -466,6 +467,8 @@ int writeRows(WriteState &state, const cDIBSection &source, int dpi, TextChunks 
     png_set_text(png, info, texts.chunks, texts.count);
     png_write_info(png, info);
     png_set_bgr(png);
+    if (source.bytesPerPixel == 4)
+        png_set_filler(png, 0, PNG_FILLER_AFTER);
     png_write_image(png, rows.data());
     png_write_end(png, info);
     png_destroy_write_struct(&png, &info);
@@ -474,19 +477,18 @@ int writeRows(WriteState &state, const cDIBSection &source, int dpi, TextChunks 
 
 } // namespace
 
-bool SavePNG(const cDIBSection &source, QIODevice &out, const PictureMeta &meta, QString *why)
+namespace {
+
+bool savePngRows(const EncodeRows &source, QIODevice &out, const PictureMeta &meta, QString *why)
 {
-    if (!source.hDIB()) {
+    if (source.empty()) {
         if (why)
             *why = QStringLiteral("PNG: no picture");
         return false;
     }
-    // One pointer a row over the surface, the top row (the last in memory) first.
-    const int h = source.dib_height();
-    std::vector<png_bytep> rows(static_cast<size_t>(h));
-    const ConstDibView v = source.view();
-    for (int y = 0; y < h; ++y)
-        rows[size_t(y)] = const_cast<png_bytep>(v.row(h - 1 - y));
+    std::vector<png_bytep> rows(static_cast<size_t>(source.height));
+    for (int y = 0; y < source.height; ++y)
+        rows[size_t(y)] = const_cast<png_bytep>(source.row(y));
     TextChunks texts(meta);
     WriteState state;
     state.out = &out;
@@ -495,6 +497,18 @@ bool SavePNG(const cDIBSection &source, QIODevice &out, const PictureMeta &meta,
     if (why)
         *why = QStringLiteral("PNG: ") + QString::fromLatin1(state.message);
     return false;
+}
+
+} // namespace
+
+bool SavePNG(const cDIBSection &source, QIODevice &out, const PictureMeta &meta, QString *why)
+{
+    return savePngRows(EncodeRows::of(source), out, meta, why);
+}
+
+bool SavePNG(const QImage &source, QIODevice &out, const PictureMeta &meta, QString *why)
+{
+    return savePngRows(EncodeRows::of(source), out, meta, why);
 }
 
 } // namespace tf

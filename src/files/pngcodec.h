@@ -42,5 +42,8 @@ PictureMeta readPngMeta(QByteArrayView bytes);
 // the caller throws away what was written.
 bool SavePNG(const cDIBSection &source, QIODevice &out, const PictureMeta &meta = {},
              QString *why = nullptr);
+// The same from a picture's own pixels (RGB32 or ARGB32, alpha not written), without a copy.
+bool SavePNG(const QImage &source, QIODevice &out, const PictureMeta &meta = {},
+             QString *why = nullptr);
 
 } // namespace tf

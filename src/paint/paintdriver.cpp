@@ -142,7 +142,9 @@ PaintOutcome paintButton(Session &s)
 
     // The paint becomes the persistent picture.
     ws.Bild.setPicture(ws.Bild.Image());
-    ws.BildWork.setPicture(ws.BildWork.Image());
+    // The work picture of a transparent paint likewise; one that no paint has used stays
+    // blank and takes no memory.
+    if (ws.BildWork.holdsPixels()) ws.BildWork.setPicture(ws.BildWork.Image());
     CommandState commands = ws.commands;
     commands.save = true;
     if (!p.AutoPaintRun) commands.print = true;

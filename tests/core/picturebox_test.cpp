@@ -309,6 +309,34 @@ TEST(PictureBoxPersistence, ResizeKeepsTheTopLeftAndFillsWithBackColor)
     EXPECT_EQ(art(pb.Image()), "r\nr\nr\n");
 }
 
+TEST(PictureBoxPersistence, ABlankControlTakesItsPixelsOnlyWhenUsed)
+{
+    // The work pictures follow the picture's size; at 14000 x 14000 each would be 784 MB.
+    PictureBox pb(QStringLiteral("pic"), 2, 2);
+    pb.setAutoRedraw(true);
+    pb.resize(14000, 14000);
+    pb.setBackColor(0xFF);
+    pb.resize(3, 2);
+    EXPECT_FALSE(pb.holdsPixels());
+    EXPECT_EQ(pb.Width(), 3);
+    EXPECT_EQ(pb.ScaleHeight(), 2.0f);
+    // Whatever reads or draws sees BackColor as it stands now.
+    EXPECT_EQ(art(pb.Image()), "rrr\n"
+                               "rrr\n");
+    EXPECT_TRUE(pb.holdsPixels());
+
+    // A paint kept as the picture shares its pixels with the image: the next drawing leaves
+    // the picture as it was, and Cls brings it back.
+    pb.PSet(0, 0, 0);
+    pb.setPicture(pb.Image());
+    pb.PSet(2, 1, 0);
+    EXPECT_EQ(art(pb.Picture()), "#rr\n"
+                                 "rrr\n");
+    pb.Cls();
+    EXPECT_EQ(art(pb.Image()), "#rr\n"
+                               "rrr\n");
+}
+
 TEST(PictureBoxPersistence, ChangesReachTheHook)
 {
     PictureBox pb(QStringLiteral("pic"), 10, 10);

@@ -153,6 +153,34 @@ TEST(Encoders, JpegHeaderCarriesDensitySubsamplingAndComment)
     ASSERT_EQ(d.image.size(), QSize(33, 17));
 }
 
+TEST(Encoders, APictureEncodesAsItsSurfaceWould)
+{
+    // Encoding straight from the picture's own 4-byte pixels spares the surface copy; the
+    // files must be the same byte for byte.
+    const QImage picture = testPicture(37, 11);
+    cDIBSection dib;
+    ASSERT_TRUE(dib.CreateFromPicture(picture));
+    QBuffer fromDib, fromImage;
+    fromDib.open(QIODevice::WriteOnly);
+    fromImage.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(SavePNG(dib, fromDib, sampleMeta()));
+    ASSERT_TRUE(SavePNG(picture, fromImage, sampleMeta()));
+    EXPECT_EQ(fromImage.data(), fromDib.data());
+
+    QBuffer jpgDib, jpgImage;
+    jpgDib.open(QIODevice::WriteOnly);
+    jpgImage.open(QIODevice::WriteOnly);
+    ASSERT_TRUE(SaveJPG(dib, jpgDib, 90, sampleMeta()));
+    ASSERT_TRUE(SaveJPG(picture.convertToFormat(QImage::Format_ARGB32), jpgImage, 90, sampleMeta()));
+    EXPECT_EQ(jpgImage.data(), jpgDib.data());
+
+    QBuffer none;
+    none.open(QIODevice::WriteOnly);
+    QString why;
+    EXPECT_FALSE(SavePNG(QImage(), none, {}, &why));
+    EXPECT_EQ(why, QStringLiteral("PNG: no picture"));
+}
+
 TEST(Encoders, SavedFilesOfEveryTypeReadBack)
 {
     QTemporaryDir dir;
