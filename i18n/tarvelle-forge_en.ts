@@ -1,5 +1,4 @@
-<?xml version="1.0" encoding="utf-8"?>
-<!DOCTYPE TS>
+<?xml version='1.0' encoding='utf-8'?>
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
     <name>Blurize</name>
@@ -132,7 +131,7 @@
     </message>
     <message>
         <source>„%1“ konnte nicht gemalt werden.</source>
-        <translation>&quot;%1&quot; could not be painted.</translation>
+        <translation>"%1" could not be painted.</translation>
     </message>
     <message>
         <source>Ungültige Größe: %1 (BxH)</source>
@@ -175,16 +174,16 @@
         <translation>The transformation failed.</translation>
     </message>
     <message>
-        <source>%1 erwartet eine Zahl von 0 bis 14000, nicht &quot;%2&quot;</source>
-        <translation>%1 expects a number from 0 to 14000, not &quot;%2&quot;</translation>
+        <source>%1 erwartet eine Zahl von 0 bis 14000, nicht "%2"</source>
+        <translation>%1 expects a number from 0 to 14000, not "%2"</translation>
     </message>
     <message>
         <source>Aufruf: tarvelle-forge passepartouts [--data DATEI]</source>
         <translation>Usage: tarvelle-forge passepartouts [--data FILE]</translation>
     </message>
     <message>
-        <source>--gradient erwartet on oder off, nicht &quot;%1&quot;</source>
-        <translation>--gradient expects on or off, not &quot;%1&quot;</translation>
+        <source>--gradient erwartet on oder off, nicht "%1"</source>
+        <translation>--gradient expects on or off, not "%1"</translation>
     </message>
     <message>
         <source>Unbekannte Angabe: %1</source>
@@ -195,8 +194,8 @@
         <translation>Usage: tarvelle-forge passepartout --set NAME PICTURE -o OUTPUT</translation>
     </message>
     <message>
-        <source>Es gibt kein Passepartout &quot;%1&quot; (siehe tarvelle-forge passepartouts).</source>
-        <translation>There is no passepartout &quot;%1&quot; (see tarvelle-forge passepartouts).</translation>
+        <source>Es gibt kein Passepartout "%1" (siehe tarvelle-forge passepartouts).</source>
+        <translation>There is no passepartout "%1" (see tarvelle-forge passepartouts).</translation>
     </message>
     <message>
         <source>Das Bild im Passepartout wäre größer als 14000 Pixel.</source>
@@ -665,6 +664,106 @@
         <source>Jalousie step 1-255</source>
         <translation>Blind step 1-255</translation>
     </message>
+    <message>
+        <source>Formen</source>
+        <translation>Shapes</translation>
+    </message>
+    <message>
+        <source>Quadrat am Ankerpunkt</source>
+        <translation>Square at the anchor</translation>
+    </message>
+    <message>
+        <source>Kreis</source>
+        <translation>Circle</translation>
+    </message>
+    <message>
+        <source>Kreis um den Ankerpunkt</source>
+        <translation>Circle round the anchor</translation>
+    </message>
+    <message>
+        <source>Umrandet</source>
+        <translation>Outlined</translation>
+    </message>
+    <message>
+        <source>Gefüllt</source>
+        <translation>Filled</translation>
+    </message>
+    <message>
+        <source>Freihand</source>
+        <translation>Freehand</translation>
+    </message>
+    <message>
+        <source> Stiftart </source>
+        <translation> Pen type </translation>
+    </message>
+    <message>
+        <source>Runde Spitze</source>
+        <translation>Round tip</translation>
+    </message>
+    <message>
+        <source>Feder \</source>
+        <translation>Nib \</translation>
+    </message>
+    <message>
+        <source>Feder /</source>
+        <translation>Nib /</translation>
+    </message>
+    <message>
+        <source>Feder waagerecht</source>
+        <translation>Nib horizontal</translation>
+    </message>
+    <message>
+        <source>Feder senkrecht</source>
+        <translation>Nib vertical</translation>
+    </message>
+    <message>
+        <source>Spitzenbreite </source>
+        <translation>Tip width </translation>
+    </message>
+    <message>
+        <source>Spray</source>
+        <translation>Spray</translation>
+    </message>
+    <message>
+        <source>Pinselart</source>
+        <translation>Brush type</translation>
+    </message>
+    <message>
+        <source>Airbrush</source>
+        <translation>Airbrush</translation>
+    </message>
+    <message>
+        <source>Pinsel</source>
+        <translation>Brush</translation>
+    </message>
+    <message>
+        <source>Pinsel (Sättigung)</source>
+        <translation>Brush (saturation)</translation>
+    </message>
+    <message>
+        <source>Weichzeichnen</source>
+        <translation>Soften</translation>
+    </message>
+    <message>
+        <source>Schärfen</source>
+        <translation>Sharpen</translation>
+    </message>
+    <message>
+        <source>Grösse </source>
+        <translation>Size </translation>
+    </message>
+    <message>
+        <source>Druck </source>
+        <translation>Pressure </translation>
+    </message>
+    <message>
+        <source>Verbundener Pinsel</source>
+        <translation>Connected brush</translation>
+    </message>
+    <message>
+        <source>Weichz. + Überlagern</source>
+        <translation>Soften + overlay</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -758,7 +857,7 @@
     </message>
     <message>
         <source>Formen</source>
-        <translation>Forms</translation>
+        <translation>Shapes</translation>
     </message>
     <message>
         <source>Papiermuster</source>
@@ -800,7 +899,7 @@
     </message>
     <message>
         <source>„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.</source>
-        <translation>&quot;%1&quot; paints nothing yet: its painter is not built in.</translation>
+        <translation>"%1" paints nothing yet: its painter is not built in.</translation>
     </message>
     <message>
         <source>Startwert %1</source>
@@ -1116,6 +1215,133 @@
     <message>
         <source>Das neue Verzeichnis %1 wurde erstellt.</source>
         <translation>The new directory %1 was created.</translation>
+    </message>
+</context>
+<context>
+    <name>Tools</name>
+    <message>
+        <source>&amp;Ausschneiden</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;Kopieren</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Einfügen...</source>
+        <translation>&amp;Paste...</translation>
+    </message>
+    <message>
+        <source>&amp;Löschen</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>Alles aus&amp;wählen</source>
+        <translation>Select &amp;all</translation>
+    </message>
+    <message>
+        <source>Auswahl auf&amp;heben</source>
+        <translation>Des&amp;elect</translation>
+    </message>
+    <message>
+        <source>Auswahl in Datei &amp;speichern...</source>
+        <translation>&amp;Save selection to file...</translation>
+    </message>
+    <message>
+        <source>&amp;1 Links oben</source>
+        <translation>&amp;1 Top left</translation>
+    </message>
+    <message>
+        <source>&amp;2 Rechts oben</source>
+        <translation>&amp;2 Top right</translation>
+    </message>
+    <message>
+        <source>&amp;3 Zentrieren</source>
+        <translation>&amp;3 Centre</translation>
+    </message>
+    <message>
+        <source>&amp;4 Links unten</source>
+        <translation>&amp;4 Bottom left</translation>
+    </message>
+    <message>
+        <source>&amp;5 Rechts unten</source>
+        <translation>&amp;5 Bottom right</translation>
+    </message>
+    <message>
+        <source>Die Zwischenablage enthält kein Bild.</source>
+        <translation>The clipboard holds no picture.</translation>
+    </message>
+    <message>
+        <source>Auswahl</source>
+        <translation>Selection</translation>
+    </message>
+    <message>
+        <source>Ein Rechteck aus dem Bild ausschneiden</source>
+        <translation>Cut a rectangle out of the picture</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Eine Ellipse aus dem Bild ausschneiden (Umschalt: ein Kreis)</source>
+        <translation>Cut an ellipse out of the picture (Shift: a circle)</translation>
+    </message>
+    <message>
+        <source>Füllen</source>
+        <translation>Fill</translation>
+    </message>
+    <message>
+        <source>Eine Fläche gleicher Farbe füllen</source>
+        <translation>Fill an area of one colour</translation>
+    </message>
+    <message>
+        <source>Pipette</source>
+        <translation>Pipette</translation>
+    </message>
+    <message>
+        <source>Farbe aufnehmen: links Vordergrund, rechts Hintergrund</source>
+        <translation>Pick a colour: left foreground, right background</translation>
+    </message>
+    <message>
+        <source>Linie</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>Eine gerade Linie ziehen</source>
+        <translation>Draw a straight line</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Shape</translation>
+    </message>
+    <message>
+        <source>Rechteck, Kreis oder Ellipse aufziehen</source>
+        <translation>Drag a rectangle, circle or ellipse</translation>
+    </message>
+    <message>
+        <source>Stift</source>
+        <translation>Pen</translation>
+    </message>
+    <message>
+        <source>Freihand zeichnen</source>
+        <translation>Draw freehand</translation>
+    </message>
+    <message>
+        <source>Pinsel</source>
+        <translation>Brush</translation>
+    </message>
+    <message>
+        <source>Airbrush, Pinsel, Weichzeichnen und Schärfen von Hand</source>
+        <translation>Airbrush, brush, soften and sharpen by hand</translation>
+    </message>
+    <message>
+        <source>Textposition</source>
+        <translation>Text position</translation>
+    </message>
+    <message>
+        <source>Ein Klick setzt die Position des Textes und malt ihn</source>
+        <translation>A click sets the position of the text and paints it</translation>
     </message>
 </context>
 <context>
@@ -1561,7 +1787,7 @@
     </message>
     <message>
         <source>Auswahl in Datei &amp;speichern...</source>
-        <translation>Save s&amp;election to file...</translation>
+        <translation>&amp;Save selection to file...</translation>
     </message>
     <message>
         <source>Bild laden</source>
@@ -1594,6 +1820,18 @@
     <message>
         <source>Bild</source>
         <translation>Picture</translation>
+    </message>
+    <message>
+        <source>Werkzeuge</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>Auswahl aus&amp;richten</source>
+        <translation>&amp;Align selection</translation>
+    </message>
+    <message>
+        <source>Zwischenablage leeren</source>
+        <translation>Empty the clipboard</translation>
     </message>
 </context>
 <context>

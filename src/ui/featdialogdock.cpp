@@ -52,6 +52,14 @@ void FeatDialogDock::Handle_Formobjects()
     m_stack->setCurrentWidget(m_pages.at(name));
 }
 
+void FeatDialogDock::showPanel(const QString &name)
+{
+    auto it = m_pages.find(name);
+    if (it == m_pages.end()) return;
+    m_stack->setCurrentWidget(it->second);
+    raise();
+}
+
 QString FeatDialogDock::currentPanel() const
 {
     for (const auto &[name, page] : m_pages)

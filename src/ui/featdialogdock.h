@@ -25,6 +25,8 @@ public:
 
     // Shows the panel that GrafKey reads.
     void Handle_Formobjects();
+    // Shows the panel of that name (a hand tool's), when there is one.
+    void showPanel(const QString &name);
     // Shows a control's new value in whichever panel holds it.
     void controlChanged(const ControlKey &key);
     // The name of the panel on top ("" for the note).

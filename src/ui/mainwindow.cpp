@@ -39,11 +39,16 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     m_session.setStatus(m_status.get());
     m_session.setYieldHook(&m_yield);
 
+    // The tools come first: their option panels must stand before the docks are built.
+    m_tools = &ToolEngine::of(m_session);
+    m_tools->setView(this);
+
     m_picContainer = new QScrollArea(this);
     m_picContainer->setObjectName(QStringLiteral("picContainer"));
     m_picContainer->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_picContainer->setBackgroundRole(QPalette::Dark);
     m_view = new PictureView(m_session.workspace().Bild);
+    m_view->showTools(m_session.workspace(), *m_tools);
     m_picContainer->setWidget(m_view);
     setCentralWidget(m_picContainer);
 
@@ -72,6 +77,9 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     createActions();
     createMenus();
     createToolBar();
+    createToolActions();
+    addEditEntries();
+    connectMouse();
     connect(m_grafDialog, &GrafDialogDock::fixRequested, mn_Fixieren, &QAction::trigger);
     connect(m_grafDialog, &GrafDialogDock::restoreRequested, mn_Restaurieren, &QAction::trigger);
 
@@ -90,6 +98,7 @@ MainWindow::~MainWindow()
     // The window's widgets go before the session they show: the picture view and the docks
     // hold on to its pictures and state.
     m_session.setView(nullptr);
+    m_tools->setView(nullptr);
     delete takeCentralWidget();
     delete m_colourDialog;
     delete m_featDialog;
@@ -368,6 +377,7 @@ void MainWindow::retranslate()
     mn_Kachelansicht->setText(tr("Kachel&ansicht..."));
     const int group = m_session.paint().GrafGroup;
     m_toolBar->setToolTip(groupLabel(group));
+    retranslateTools();
     Set_MDI_Caption();
     refreshStatus();
 }
@@ -404,6 +414,7 @@ void MainWindow::updateCommands()
     mn_AuswahlSpeichern->setEnabled(m_session.workspace().PicSelect.Visible() ||
                                     m_session.workspace().picSelectC.Visible());
     tbDrucken->setEnabled(c.print);
+    if (mn_PicAusrichtenMenu) updateToolCommands();
     Set_MDI_Caption();
 }
 

@@ -13,6 +13,8 @@
 #include "files/loadplace.h"
 #include "files/recipe.h"
 #include "paint/session.h"
+#include "tools/editmenu.h"
+#include "tools/toolengine.h"
 #include "ui/guiprompter.h"
 #include "ui/guiyield.h"
 
@@ -37,7 +39,7 @@ struct SystemOptions;
 class StatusBarSink;
 class TileViewer;
 
-class MainWindow : public QMainWindow, private SessionView {
+class MainWindow : public QMainWindow, private SessionView, private ToolView {
     Q_OBJECT
 public:
     explicit MainWindow(QWidget *parent = nullptr);
@@ -86,6 +88,22 @@ private:
     void controlChanged(const ControlKey &key) override;
     void Handle_Formobjects() override;
     bool openMatrixWindow(int glyph, int speed) override;
+    void reset_imgButtons() override;
+    void Refresh_BrushImage() override;
+
+    // The tools' view (mainwindow_tools.cpp).
+    void toolChanged(Tool tool) override;
+    void areaChanged(const QRect &area) override;
+    void coloursChanged() override;
+    void selectionChanged() override;
+    // The toolbar of the hand tools, the edit menu's selection entries, the mouse.
+    void createToolActions();
+    void addEditEntries();
+    void retranslateTools();
+    void updateToolCommands();
+    void connectMouse();
+    // The top left of the part of the picture the frame shows.
+    QPoint visibleTopLeft() const;
 
     void createActions();
     void createMenus();
@@ -179,6 +197,15 @@ private:
     QAction *tbDefault = nullptr;
     QAction *tbDrucken = nullptr;
     QAction *mn_Passepartouts = nullptr;
+    ToolEngine *m_tools = nullptr;
+    SystemClipboard m_clipboard;
+    QToolBar *m_toolsBar = nullptr;
+    std::vector<std::pair<Tool, QAction *>> m_toolActions;
+    std::vector<std::pair<int, QAction *>> mn_Edit;
+    QMenu *mn_PicAusrichtenMenu = nullptr;
+    std::vector<QAction *> mn_PicAusrichten;
+    QAction *mn_ClearClip = nullptr;
+    int m_cursorShown = -1;
     QAction *mn_Kachelansicht = nullptr;
     TileViewer *m_tileViewer = nullptr;
 };

@@ -54,6 +54,11 @@ void MainWindow::startUp(SettingsStore &store)
     }
     if (m_settings.MainWState == 2)
         setWindowState(windowState() | Qt::WindowMaximized);
+    // The docks and tool bars where the user left them.
+    const QString docks = store.Get_Setting(QString::fromLatin1(SubKey::Settings),
+                                            QStringLiteral("DockState"), QString());
+    if (!docks.isEmpty())
+        restoreState(QByteArray::fromBase64(docks.toLatin1()));
 
     Workspace &ws = m_session.workspace();
     if (!m_settings.PDirTemp.isEmpty())
@@ -100,6 +105,8 @@ void MainWindow::shutDown()
         m_settings.initFormatH = ws.BildH;
         m_settings.language = currentLanguage();
         m_settings.save(*m_store);
+        m_store->Put_Setting(QString::fromLatin1(SubKey::Settings), QStringLiteral("DockState"),
+                             QString::fromLatin1(saveState().toBase64()));
         m_mru.Save(*m_store);
         m_store->sync();
     }
