@@ -55,10 +55,12 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     m_previews = std::make_unique<PreviewCache>();
     m_grafDialog = new GrafDialogDock(m_session, *m_previews, this);
     m_featDialog = new FeatDialogDock(m_session, this);
-    addDockWidget(Qt::RightDockWidgetArea, m_grafDialog);
+    // Two columns beside the picture: the paint dialog at full height, so its type list shows
+    // ten rows and more, and the options, tabbed with the colours, likewise without scrolling.
     addDockWidget(Qt::RightDockWidgetArea, m_featDialog);
+    addDockWidget(Qt::RightDockWidgetArea, m_grafDialog);
+    splitDockWidget(m_featDialog, m_grafDialog, Qt::Horizontal);
     m_colourDialog = new ColourDialogDock(m_session, this);
-    // Colours and options share the place below the paint dialog, so the picture keeps its room.
     addDockWidget(Qt::RightDockWidgetArea, m_colourDialog);
     tabifyDockWidget(m_featDialog, m_colourDialog);
     m_colourDialog->raise();

@@ -8,6 +8,7 @@
 #include "paint/catalogue.h"
 #include "files/picturefile.h"
 #include "files/savename.h"
+#include "ui/featdialogdock.h"
 #include "ui/grafdialogdock.h"
 #include "ui/picimportdialog.h"
 #include "ui/pselectdialog.h"
@@ -48,7 +49,9 @@ void MainWindow::startUp(SettingsStore &store)
         const int bar = m_picContainer->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
         const int chromeH = menuBar()->sizeHint().height() + statusBar()->sizeHint().height() +
                             m_toolBar->sizeHint().height();
-        const int docks = m_grafDialog->isVisible() || !isVisible() ? m_grafDialog->sizeHint().width() : 0;
+        const int docks = m_grafDialog->isVisible() || !isVisible()
+                              ? m_grafDialog->sizeHint().width() + m_featDialog->sizeHint().width()
+                              : 0;
         const QSize want(712 + bar + 8 + docks + 8, 712 + chromeH + bar + 8);
         setGeometry(keepOnScreen(QRect(screen.topLeft() + QPoint(20, 20), want), screen));
     }

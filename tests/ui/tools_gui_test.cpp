@@ -9,7 +9,7 @@
 #include <QGuiApplication>
 #include <QListView>
 #include <QScrollArea>
-#include <QTest>
+#include <QMouseEvent>
 
 using namespace tf;
 
@@ -20,10 +20,23 @@ QAction *action(tf::ui::MainWindow &w, const char *name)
     return w.findChild<QAction *>(QString::fromLatin1(name));
 }
 
+// A mouse event as the window system delivers it to the picture.
+void mouse(QWidget *w, QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held, QPoint at)
+{
+    QMouseEvent e(type, QPointF(at), QPointF(at), w->mapToGlobal(QPointF(at)), button, held,
+                  Qt::NoModifier);
+    QApplication::sendEvent(w, &e);
+}
+
 } // namespace
 
 struct ToolsWindow : WindowFixture {
-    tf::ui::PictureView *view() { return window->findChild<tf::ui::PictureView *>(); }
+    // The view of Bild (the colour dock has views of its own).
+    QWidget *view()
+    {
+        auto *area = window->findChild<QScrollArea *>(QStringLiteral("picContainer"));
+        return area ? area->widget() : nullptr;
+    }
     Workspace &ws() { return window->session().workspace(); }
 };
 
@@ -38,15 +51,13 @@ TEST_F(ToolsWindow, TheToolBarArmsAToolAndTheMouseDrawsWithIt)
     EXPECT_EQ(ToolEngine::of(window->session()).armed(), Tool::Freehand);
     EXPECT_TRUE(pen->isChecked());
     auto *v = view();
-    QTest::mousePress(v, Qt::LeftButton, {}, QPoint(20, 30));
-    QTest::mouseMove(v, QPoint(60, 30));
-    QMouseEvent move(QEvent::MouseMove, QPointF(60, 30), QPointF(60, 30), QPointF(60, 30), Qt::NoButton,
-                     Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(v, &move);
-    QTest::mouseRelease(v, Qt::LeftButton, {}, QPoint(60, 30));
+    mouse(v, QEvent::MouseButtonPress, Qt::LeftButton, Qt::LeftButton, QPoint(20, 30));
+    mouse(v, QEvent::MouseMove, Qt::NoButton, Qt::LeftButton, QPoint(60, 30));
+    mouse(v, QEvent::MouseButtonRelease, Qt::LeftButton, Qt::NoButton, QPoint(60, 30));
     EXPECT_EQ(ws().Bild.Point(40, 30), RGB(200, 0, 0));
     // The right button releases the tool and the key pops up.
-    QTest::mouseClick(v, Qt::RightButton, {}, QPoint(5, 5));
+    mouse(v, QEvent::MouseButtonPress, Qt::RightButton, Qt::RightButton, QPoint(5, 5));
+    mouse(v, QEvent::MouseButtonRelease, Qt::RightButton, Qt::NoButton, QPoint(5, 5));
     EXPECT_EQ(ToolEngine::of(window->session()).armed(), Tool::None);
     EXPECT_FALSE(pen->isChecked());
     screenshot(*window, "tools_pen");
