@@ -666,7 +666,7 @@
     </message>
     <message>
         <source>Formen</source>
-        <translation>Shapes</translation>
+        <translation>Forms</translation>
     </message>
     <message>
         <source>Quadrat am Ankerpunkt</source>
@@ -857,7 +857,7 @@
     </message>
     <message>
         <source>Formen</source>
-        <translation>Shapes</translation>
+        <translation>Forms</translation>
     </message>
     <message>
         <source>Papiermuster</source>
@@ -1245,7 +1245,7 @@
     </message>
     <message>
         <source>Auswahl in Datei &amp;speichern...</source>
-        <translation>&amp;Save selection to file...</translation>
+        <translation>Save s&amp;election to file...</translation>
     </message>
     <message>
         <source>&amp;1 Links oben</source>
@@ -1787,7 +1787,7 @@
     </message>
     <message>
         <source>Auswahl in Datei &amp;speichern...</source>
-        <translation>&amp;Save selection to file...</translation>
+        <translation>Save s&amp;election to file...</translation>
     </message>
     <message>
         <source>Bild laden</source>

@@ -48,6 +48,13 @@ const ToolInfo &toolInfo(Tool tool)
     return none;
 }
 
+bool toolAvailable(const Session &s, Tool tool)
+{
+    if (tool != Tool::TextPos) return true;
+    const PainterEntry *text = findPainter(s.painters(), QStringLiteral("TEXT-Dialog"));
+    return text && text->paint;
+}
+
 QRect RubberBands::bounds() const
 {
     QRect r;
@@ -82,7 +89,7 @@ ToolEngine &ToolEngine::of(Session &s)
 
 void ToolEngine::arm(Tool tool)
 {
-    if (m_s.runState().busy()) return;
+    if (m_s.runState().busy() || !toolAvailable(m_s, tool)) return;
     const RubberBands before = m_bands;
     m_bands = RubberBands{};
     m_drag = Drag::None;

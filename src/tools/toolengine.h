@@ -48,6 +48,8 @@ struct ToolInfo {
 };
 std::span<const ToolInfo> toolTable();
 const ToolInfo &toolInfo(Tool tool);
+// Whether the session can use the tool: the text position needs the painter of "TEXT-Dialog".
+bool toolAvailable(const Session &s, Tool tool);
 
 enum MouseButtonCode { vbLeftButton = 1, vbRightButton = 2, vbMiddleButton = 4 };
 enum ShiftCode { vbShiftMask = 1, vbCtrlMask = 2, vbAltMask = 4 };

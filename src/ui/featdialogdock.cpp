@@ -60,6 +60,12 @@ void FeatDialogDock::showPanel(const QString &name)
     raise();
 }
 
+ControlPanelWidget *FeatDialogDock::panelWidget(const QString &name) const
+{
+    auto it = m_panels.find(name);
+    return it == m_panels.end() ? nullptr : it->second;
+}
+
 QString FeatDialogDock::currentPanel() const
 {
     for (const auto &[name, page] : m_pages)

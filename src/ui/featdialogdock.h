@@ -29,6 +29,8 @@ public:
     void showPanel(const QString &name);
     // Shows a control's new value in whichever panel holds it.
     void controlChanged(const ControlKey &key);
+    // The widget of a panel; null when there is none of that name.
+    ControlPanelWidget *panelWidget(const QString &name) const;
     // The name of the panel on top ("" for the note).
     QString currentPanel() const;
 

@@ -102,6 +102,8 @@ private:
     void retranslateTools();
     void updateToolCommands();
     void connectMouse();
+    // The connected brush is offered for the two brushes only.
+    void syncSprayPanel();
     // The top left of the part of the picture the frame shows.
     QPoint visibleTopLeft() const;
 

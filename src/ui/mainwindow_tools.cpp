@@ -2,7 +2,9 @@
 // picture handed to the tool engine, the edit menu's selection and clipboard entries.
 #include "ui/mainwindow.h"
 
+#include "tools/toolpanels.h"
 #include "ui/colourdialogdock.h"
+#include "ui/controlpanelwidget.h"
 #include "ui/featdialogdock.h"
 #include "ui/idleguard.h"
 #include "ui/pictureview.h"
@@ -55,6 +57,7 @@ void MainWindow::createToolActions()
     m_toolsBar->setIconSize(QSize(24, 24));
     addToolBar(Qt::TopToolBarArea, m_toolsBar);
     for (const ToolInfo &info : toolTable()) {
+        if (!toolAvailable(m_session, info.tool)) continue;
         auto *a = new QAction(toolIcon(info.tool), QString(), this);
         a->setCheckable(true);
         a->setObjectName(QStringLiteral("tb") + QString::fromLatin1(info.key));
@@ -169,6 +172,15 @@ void MainWindow::connectMouse()
         m_status->setPanelText(sbrMouse, QString());
         if (m_tools->armed() == Tool::Spray) m_tools->MouseMove(0, 0, -10000, -10000);
     });
+}
+
+void MainWindow::syncSprayPanel()
+{
+    ControlPanelWidget *panel = m_featDialog->panelWidget(QString::fromLatin1(SprayPanelName));
+    if (!panel) return;
+    const int type = m_session.controls().listIndex(ControlKey{QStringLiteral("cmbSprayType")});
+    if (QWidget *w = panel->widgetFor(ControlKey{QStringLiteral("XSprayBrush"), 0}))
+        w->setEnabled(type == 1 || type == 2);
 }
 
 QPoint MainWindow::visibleTopLeft() const

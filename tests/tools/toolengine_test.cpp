@@ -222,3 +222,30 @@ TEST_F(ToolFixture, NoToolArmsWhileAPaintRuns)
     EXPECT_EQ(tools->armed(), Tool::None);
     s.runState().setPainting(false);
 }
+
+namespace {
+
+// A stand-in for the text painter: a dot where the position fields say.
+void textAtPosition(PaintContext &ctx)
+{
+    const Controls &c = ctx.session.controls();
+    ctx.XBild.PSet(c.number(ControlKey{QStringLiteral("txtDialogXYPos"), 0}),
+                   c.number(ControlKey{QStringLiteral("txtDialogXYPos"), 1}), 0xFF0000);
+}
+
+} // namespace
+
+TEST_F(ToolFixture, TheTextPositionNeedsTheTextPainterAndPaintsWhereClicked)
+{
+    tools->arm(Tool::TextPos);
+    EXPECT_EQ(tools->armed(), Tool::None); // no text painter in this session
+    static const PainterEntry table[] = {{"TEXT-Dialog", textAtPosition, true}};
+    s.setPainters(table);
+    tools->arm(Tool::TextPos);
+    ASSERT_EQ(tools->armed(), Tool::TextPos);
+    click(7, 3);
+    EXPECT_EQ(s.controls().text(ControlKey{QStringLiteral("txtDialogXYPos"), 0}), QStringLiteral("7"));
+    EXPECT_EQ(at(7, 3), Blue);
+    EXPECT_EQ(tools->armed(), Tool::None); // one click
+    s.setPainters({});
+}
