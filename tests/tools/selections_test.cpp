@@ -1,6 +1,8 @@
 // Selections through the mouse, the edit menu and Undo: the cut and its hole, moving,
 // stretching, stamping, and painting inside.
 #include "paint/paintdriver.h"
+
+#include <QTransform>
 #include "toolfixture.h"
 
 using namespace tf;
@@ -199,4 +201,26 @@ TEST_F(ToolFixture, APaintClearsTheSelectionsFlags)
     BtnPaint_Click(s);
     EXPECT_FALSE(ws().SelFlagRect);
     EXPECT_FALSE(ws().SelFlagCirc);
+}
+
+TEST_F(ToolFixture, UndoOfATurnedSelectionGivesItsSizeBack)
+{
+    pattern();
+    cut(1, 1, 7, 4); // 6 x 3
+    const QImage before = ws().PicSelect.Image();
+    // A quarter turn, as the picture commands make it on a shown selection.
+    ws().PicSelect_nachUndo();
+    QTransform turn;
+    turn.rotate(90);
+    const QImage turned = before.transformed(turn);
+    ws().PicSelect.resize(turned.width(), turned.height());
+    ws().PicSelect.setPicture(turned);
+    ws().lastaction = QStringLiteral("RECT$TURN90");
+    ws().Menu_UndoRedo();
+    EXPECT_EQ(ws().PicSelect.Width(), 6);
+    EXPECT_EQ(ws().PicSelect.Height(), 3);
+    EXPECT_EQ(ws().PicSelect.Image(), before);
+    EXPECT_EQ(ws().lastaction, QStringLiteral("RECT$TURN90")); // so the next Undo turns it again
+    ws().Menu_UndoRedo();
+    EXPECT_EQ(ws().PicSelect.Width(), 3);
 }

@@ -101,3 +101,17 @@ TEST_F(ToolsWindow, At1600x1000TheTypeListShowsTenRows)
     EXPECT_GE(list->viewport()->height() / row, 10);
     screenshot(*window, "tools_layout");
 }
+
+TEST_F(ToolsWindow, TheDocksStayWhereTheUserPutThem)
+{
+    start();
+    auto *options = window->findChild<QDockWidget *>(QStringLiteral("frmFeatDialog1"));
+    ASSERT_TRUE(options);
+    EXPECT_EQ(window->dockWidgetArea(options), Qt::RightDockWidgetArea);
+    window->addDockWidget(Qt::LeftDockWidgetArea, options);
+    window->close();
+    window.reset();
+    start();
+    options = window->findChild<QDockWidget *>(QStringLiteral("frmFeatDialog1"));
+    EXPECT_EQ(window->dockWidgetArea(options), Qt::LeftDockWidgetArea);
+}
