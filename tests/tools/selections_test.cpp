@@ -2,6 +2,7 @@
 // stretching, stamping, and painting inside.
 #include "paint/paintdriver.h"
 
+#include <QFile>
 #include <QTransform>
 #include "toolfixture.h"
 
@@ -223,4 +224,22 @@ TEST_F(ToolFixture, UndoOfATurnedSelectionGivesItsSizeBack)
     EXPECT_EQ(ws().lastaction, QStringLiteral("RECT$TURN90")); // so the next Undo turns it again
     ws().Menu_UndoRedo();
     EXPECT_EQ(ws().PicSelect.Width(), 3);
+}
+
+TEST_F(ToolFixture, ALargePictureKeepsTheUndoOfAStampOnDisk)
+{
+    picture(800, 40); // above 712: the undo images lie in files
+    ws().Bild.Line(0, 0, 799, 39, Blue, LineFlags::BF);
+    cut(10, 10, 30, 30);
+    EXPECT_EQ(at(20, 20), White);
+    tools->disarm();
+    drag({QPoint(15, 15), QPoint(765, 15)});
+    const QImage withHole = ws().Bild.Image();
+    Menu_Edit(s, EditDeselect, clip);
+    EXPECT_EQ(at(770, 20), Blue);
+    EXPECT_EQ(at(20, 20), White);
+    ws().Menu_UndoRedo();
+    EXPECT_EQ(ws().Bild.Image(), withHole);
+    EXPECT_TRUE(ws().PicSelect.Visible());
+    EXPECT_TRUE(QFile::exists(ws().tempPath(QStringLiteral("tmpundob.bmp"))));
 }
