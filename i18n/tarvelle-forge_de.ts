@@ -1833,6 +1833,10 @@
         <source>Zwischenablage leeren</source>
         <translation>Zwischenablage leeren</translation>
     </message>
+    <message>
+        <source>Sättigung </source>
+        <translation>Sättigung </translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::OptionsDialog</name>

@@ -1833,6 +1833,10 @@
         <source>Zwischenablage leeren</source>
         <translation>Empty the clipboard</translation>
     </message>
+    <message>
+        <source>Sättigung </source>
+        <translation>Saturation </translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::OptionsDialog</name>

@@ -15,6 +15,8 @@
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QGuiApplication>
+#include <QLabel>
+#include <QTimer>
 #include <QMenu>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -121,6 +123,8 @@ void MainWindow::addEditEntries()
 
 void MainWindow::retranslateTools()
 {
+    // After the panels have taken their own captions in the new language.
+    QTimer::singleShot(0, this, &MainWindow::syncSprayPanel);
     m_toolsBar->setWindowTitle(tr("Werkzeuge"));
     for (auto &[tool, a] : m_toolActions) {
         const ToolInfo &info = toolInfo(tool);
@@ -181,6 +185,9 @@ void MainWindow::syncSprayPanel()
     const int type = m_session.controls().listIndex(ControlKey{QStringLiteral("cmbSprayType")});
     if (QWidget *w = panel->widgetFor(ControlKey{QStringLiteral("XSprayBrush"), 0}))
         w->setEnabled(type == 1 || type == 2);
+    // The saturation brush's pressure is the saturation it gives.
+    if (QLabel *label = panel->labelFor(ControlKey{QStringLiteral("scrollSpray"), 1}))
+        label->setText(type == 2 ? tr("Sättigung ") : QCoreApplication::translate("Controls", "Druck "));
 }
 
 QPoint MainWindow::visibleTopLeft() const
