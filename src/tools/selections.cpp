@@ -118,6 +118,7 @@ void Selections::cut(SelectionKind kind, const QRect &area)
         ws.SelOrgLeft = r.left();
         ws.SelOrgTop = r.top();
         ws.lastaction = word(kind) + QStringLiteral("INIT");
+        m_cutKey[int(kind)] = p.Image().cacheKey();
         showAsTarget(kind, true);
     });
 }
@@ -388,6 +389,14 @@ bool Selections::undoSelection(Workspace &ws)
     const SelectionKind kind = kindWord == RectWord ? SelectionKind::Rect : SelectionKind::Circ;
     PictureBox &p = picture(kind);
     const QString la = ws.lastaction;
+    if (la == kindWord + QStringLiteral("INIT") && p.Visible() &&
+        p.Image().cacheKey() != m_cutKey[int(kind)]) {
+        // Changed since the cut by a command that left the action string as it was.
+        swapWithUndo(p);
+        ws.lastaction = kindWord;
+        ws.BildChanged = true;
+        return true;
+    }
     if (la == kindWord + QStringLiteral("INIT")) {
         ws.lastaction = kindWord + QStringLiteral("HIDDEN");
         showAsTarget(kind, false);

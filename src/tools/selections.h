@@ -98,6 +98,9 @@ private:
     void swapWithSaved(SelectionKind kind);
 
     Session &m_s;
+    // The selections' pictures as they were cut: a change since (a filter that leaves the
+    // action string alone) is what Undo takes back first.
+    qint64 m_cutKey[2] = {0, 0};
 };
 
 } // namespace tf

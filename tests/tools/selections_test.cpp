@@ -243,3 +243,16 @@ TEST_F(ToolFixture, ALargePictureKeepsTheUndoOfAStampOnDisk)
     EXPECT_TRUE(ws().PicSelect.Visible());
     EXPECT_TRUE(QFile::exists(ws().tempPath(QStringLiteral("tmpundob.bmp"))));
 }
+
+TEST_F(ToolFixture, AChangeToAFreshSelectionIsUndoneBeforeTheCut)
+{
+    cut(2, 2, 8, 8);
+    // A filter takes the selection's undo image and changes it, leaving "RECTINIT".
+    ws().PicSelect_nachUndo();
+    ws().PicSelect.PSet(1, 1, Blue);
+    ASSERT_EQ(ws().lastaction, QStringLiteral("RECTINIT"));
+    ws().Menu_UndoRedo();
+    EXPECT_TRUE(ws().PicSelect.Visible());
+    EXPECT_EQ(selAt(1, 1), White);
+    EXPECT_EQ(ws().lastaction, QStringLiteral("RECT"));
+}
