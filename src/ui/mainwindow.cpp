@@ -82,7 +82,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     createToolActions();
     addEditEntries();
     connectMouse();
-    syncSprayPanel();
+    syncToolPanels();
     connect(m_grafDialog, &GrafDialogDock::fixRequested, mn_Fixieren, &QAction::trigger);
     connect(m_grafDialog, &GrafDialogDock::restoreRequested, mn_Restaurieren, &QAction::trigger);
 
@@ -128,7 +128,7 @@ void MainWindow::controlChanged(const ControlKey &key)
 {
     m_grafDialog->controlChanged(key);
     m_featDialog->controlChanged(key);
-    if (key.name == QLatin1String("cmbSprayType")) syncSprayPanel();
+    if (key.name == QLatin1String("cmbSprayType")) syncToolPanels();
 }
 
 void MainWindow::Handle_Formobjects()

@@ -102,8 +102,9 @@ private:
     void retranslateTools();
     void updateToolCommands();
     void connectMouse();
-    // The connected brush is offered for the two brushes only.
-    void syncSprayPanel();
+    // What the tool panels show beyond their tables: the pen tips, and the connected brush
+    // offered for the two brushes only.
+    void syncToolPanels();
     // The top left of the part of the picture the frame shows.
     QPoint visibleTopLeft() const;
 

@@ -8,6 +8,7 @@
 #include "paint/catalogue.h"
 #include "files/picturefile.h"
 #include "files/savename.h"
+#include "ui/colourdialogdock.h"
 #include "ui/featdialogdock.h"
 #include "ui/grafdialogdock.h"
 #include "ui/picimportdialog.h"
@@ -17,6 +18,7 @@
 #include "ui/statusbar.h"
 
 #include <QClipboard>
+#include <algorithm>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -29,6 +31,7 @@
 #include <QStyle>
 #include <QToolBar>
 #include <QStandardPaths>
+#include <QTimer>
 
 namespace tf::ui {
 
@@ -50,10 +53,20 @@ void MainWindow::startUp(SettingsStore &store)
         const int chromeH = menuBar()->sizeHint().height() + statusBar()->sizeHint().height() +
                             m_toolBar->sizeHint().height();
         const int docks = m_grafDialog->isVisible() || !isVisible()
-                              ? m_grafDialog->sizeHint().width() + m_featDialog->sizeHint().width()
+                              ? m_grafDialog->sizeHint().width() + 8 +
+                                    std::max(m_featDialog->sizeHint().width(),
+                                             m_colourDialog->sizeHint().width())
                               : 0;
         const QSize want(712 + bar + 8 + docks + 8, 712 + chromeH + bar + 8);
         setGeometry(keepOnScreen(QRect(screen.topLeft() + QPoint(20, 20), want), screen));
+        // Once laid out, the frame grows by what it still lacks for the whole picture.
+        QTimer::singleShot(0, this, [this, screen] {
+            const QSize view = m_picContainer->maximumViewportSize();
+            const Workspace &w = m_session.workspace();
+            const int dw = std::max(0, w.BildW - view.width()), dh = std::max(0, w.BildH - view.height());
+            if ((dw > 0 || dh > 0) && !isMaximized())
+                setGeometry(keepOnScreen(geometry().adjusted(0, 0, dw, dh), screen));
+        });
     }
     if (m_settings.MainWState == 2)
         setWindowState(windowState() | Qt::WindowMaximized);

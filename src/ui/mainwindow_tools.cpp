@@ -13,6 +13,7 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QLabel>
@@ -124,7 +125,7 @@ void MainWindow::addEditEntries()
 void MainWindow::retranslateTools()
 {
     // After the panels have taken their own captions in the new language.
-    QTimer::singleShot(0, this, &MainWindow::syncSprayPanel);
+    QTimer::singleShot(0, this, &MainWindow::syncToolPanels);
     m_toolsBar->setWindowTitle(tr("Werkzeuge"));
     for (auto &[tool, a] : m_toolActions) {
         const ToolInfo &info = toolInfo(tool);
@@ -178,8 +179,13 @@ void MainWindow::connectMouse()
     });
 }
 
-void MainWindow::syncSprayPanel()
+void MainWindow::syncToolPanels()
 {
+    // The pen's kinds show their tips.
+    if (ControlPanelWidget *pen = m_featDialog->panelWidget(QString::fromLatin1(FreeHandPanelName)))
+        if (auto *kinds = qobject_cast<QComboBox *>(pen->widgetFor(ControlKey{QStringLiteral("optPenStyle")})))
+            for (int i = 0; i < kinds->count(); ++i) kinds->setItemIcon(i, penTipIcon(i));
+
     ControlPanelWidget *panel = m_featDialog->panelWidget(QString::fromLatin1(SprayPanelName));
     if (!panel) return;
     const int type = m_session.controls().listIndex(ControlKey{QStringLiteral("cmbSprayType")});

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
+#include <algorithm>
 
 namespace tf::ui {
 
@@ -123,6 +124,24 @@ QIcon bundledToolIcon(Tool tool)
     QPixmap pm = canvas();
     QPainter p(&pm);
     drawTool(p, tool);
+    p.end();
+    return QIcon(pm);
+}
+
+QIcon penTipIcon(int kind)
+{
+    QPixmap pm(16, 16);
+    pm.fill(Qt::transparent);
+    QPainter p(&pm);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(QColor(40, 40, 48), 2.5, Qt::SolidLine, Qt::RoundCap));
+    p.setBrush(QColor(40, 40, 48));
+    static constexpr QPointF ends[5][2] = {{{8, 8}, {8, 8}},  {{3, 3}, {13, 13}}, {{3, 13}, {13, 3}},
+                                           {{2, 8}, {14, 8}}, {{8, 2}, {8, 14}}};
+    if (kind <= 0)
+        p.drawEllipse(QPointF(8, 8), 3, 3);
+    else
+        p.drawLine(ends[std::min(kind, 4)][0], ends[std::min(kind, 4)][1]);
     p.end();
     return QIcon(pm);
 }

@@ -13,6 +13,8 @@ namespace tf::ui {
 QIcon toolIcon(Tool tool);
 // Our own drawing of the tool, 24 x 24.
 QIcon bundledToolIcon(Tool tool);
+// The tip of pen kind 0..4 (optPenStyle): a round dot, the nib \, the nib /, level, upright.
+QIcon penTipIcon(int kind);
 // The pointer that shows `cursor`.
 QCursor toolCursor(ToolCursor cursor);
 
