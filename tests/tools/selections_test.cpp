@@ -256,3 +256,28 @@ TEST_F(ToolFixture, AChangeToAFreshSelectionIsUndoneBeforeTheCut)
     EXPECT_EQ(selAt(1, 1), White);
     EXPECT_EQ(ws().lastaction, QStringLiteral("RECT"));
 }
+
+TEST_F(ToolFixture, AnEllipseTakesAPasteThroughItsMaskAndBlendsWhenStamped)
+{
+    tools->arm(Tool::CSelect);
+    drag({QPoint(1, 1), QPoint(11, 9)});
+    ASSERT_TRUE(ws().picSelectC.Visible());
+    clip.held = QImage(5, 5, QImage::Format_RGB32);
+    clip.held.fill(qRgb(0, 0, 200));
+    Menu_Edit(s, EditPaste, clip);
+    EXPECT_EQ(ws().lastaction, QStringLiteral("CIRCMOVED"));
+    EXPECT_FALSE(ws().PicSelect.Visible());
+    EXPECT_EQ(ws().picSelectC.Width(), 10); // stretched into the ellipse's rectangle
+    // Half transparent: the stamped pixels lie half over the picture (the hole is white).
+    s.transparency().setPercent(50);
+    Menu_Edit(s, EditDeselect, clip);
+    EXPECT_EQ(ws().lastaction, QStringLiteral("CIRCCOPIED"));
+    EXPECT_EQ(ws().Bild.Image().pixel(6, 5), qRgb(128, 128, 228));
+    EXPECT_EQ(at(1, 1), White); // outside the ellipse nothing was stamped
+    // Undo of the stamp: the picture as before, the ellipse with the pasted picture.
+    s.transparency().setPercent(0);
+    ws().Menu_UndoRedo();
+    EXPECT_TRUE(ws().picSelectC.Visible());
+    EXPECT_EQ(at(6, 5), White);
+    EXPECT_EQ(ws().picSelectC.Image().pixel(5, 4), qRgb(0, 0, 200));
+}
