@@ -147,7 +147,10 @@ void ToolEngine::MouseDown(int Button, int Shift, int X, int Y)
             return;
         }
         if (m_tool == Tool::None || m_tool == Tool::Select || m_tool == Tool::CSelect) {
-            if (Button == vbLeftButton) selectionDragDown(t, X, Y);
+            if (Button == vbLeftButton)
+                selectionDragDown(t, X, Y);
+            else if (Button == vbRightButton && m_tool != Tool::None)
+                selectDown(Button, X, Y); // stamps and releases the selection tool
             return;
         }
         m_target = t;

@@ -63,6 +63,16 @@ TEST_F(ToolFixture, AStampHalfOutsideKeepsOnlyTheOverlap)
     EXPECT_EQ(ws().PicSelect.Image(), before.copy(0, 0, 4, 4));
 }
 
+TEST_F(ToolFixture, TheRightButtonOnTheSelectionStampsItAndReleasesTheTool)
+{
+    pattern();
+    cut(2, 2, 5, 5);
+    click(3, 3, vbRightButton);
+    EXPECT_FALSE(ws().PicSelect.Visible());
+    EXPECT_EQ(ws().lastaction, QStringLiteral("RECTCOPIED"));
+    EXPECT_EQ(tools->armed(), Tool::None);
+}
+
 TEST_F(ToolFixture, AMoveIsUndoneToItsPlace)
 {
     pattern();
