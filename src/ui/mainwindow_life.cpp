@@ -275,7 +275,11 @@ bool MainWindow::savePicture(const QString &path, bool selection)
         // A picture that is what its paints made carries their recipe.
         const QStringList recipe =
             source == &ws.Bild ? m_paintHistory.recipeFor(ws.Bild.Image().cacheKey()) : QStringList();
-        const WriteResult r = tf::savePicture(source->Image(), name.path, name.SaveTypeTag,
+        // The elliptic selection is saved as the clipboard takes it: the background colour
+        // round its ellipse.
+        const QImage picture =
+            source == &ws.picSelectC ? m_tools->selections().shownImage() : source->Image();
+        const WriteResult r = tf::savePicture(picture, name.path, name.SaveTypeTag,
                                               pictureMetaOf(m_session, recipe));
         if (!r.ok()) {
             m_session.ask(r.message, Buttons::Ok, Icon::Exclamation);
