@@ -125,16 +125,17 @@ ToolEngine::Target ToolEngine::targetAt(int X, int Y)
     return bildTarget();
 }
 
-ToolEngine::Drag ToolEngine::handleAt(const PictureBox &p, int x, int y) const
+int ToolEngine::handleAt(const PictureBox &p, int x, int y) const
 {
-    // The stretch handles: a band along the right and the bottom edge, not wider than a
-    // third of a small selection, so that it can still be moved.
+    // The stretch bands along the four edges, not wider than a third of a small selection,
+    // so that it can still be moved.
     const int bandX = std::min(6, p.Width() / 3), bandY = std::min(6, p.Height() / 3);
-    const bool right = x >= p.Width() - bandX, down = y >= p.Height() - bandY;
-    if (right && down) return Drag::StretchCorner;
-    if (right) return Drag::StretchRight;
-    if (down) return Drag::StretchDown;
-    return Drag::Move;
+    int edges = 0;
+    if (x < bandX) edges |= EdgeLeft;
+    else if (x >= p.Width() - bandX) edges |= EdgeRight;
+    if (y < bandY) edges |= EdgeTop;
+    else if (y >= p.Height() - bandY) edges |= EdgeBottom;
+    return edges;
 }
 
 void ToolEngine::MouseDown(int Button, int Shift, int X, int Y)
@@ -190,7 +191,7 @@ void ToolEngine::MouseMove(int Button, int Shift, int X, int Y)
             else
                 toolMove(Button, Shift, X - m_target.origin.x(), Y - m_target.origin.y());
             return;
-        default:
+        case Drag::Selection:
             selectionDragMove(X, Y);
             return;
         }
@@ -202,7 +203,7 @@ void ToolEngine::MouseUp(int Button, int Shift, int X, int Y)
     if (m_drag == Drag::None || Button != vbLeftButton) return;
     const Drag drag = m_drag;
     guarded(QStringLiteral("Bild_MouseUp"), [&] {
-        if (drag != Drag::Tool)
+        if (drag == Drag::Selection)
             selectionDragUp(X, Y);
         else if (m_tool == Tool::Select || m_tool == Tool::CSelect)
             selectUp(Shift, X, Y);
@@ -218,12 +219,15 @@ ToolCursor ToolEngine::cursorAt(int X, int Y)
     const Target t = targetAt(X, Y);
     const bool plain = m_tool == Tool::None || m_tool == Tool::Select || m_tool == Tool::CSelect;
     if (t.selection && plain) {
-        switch (handleAt(*t.picture, X - t.origin.x(), Y - t.origin.y())) {
-        case Drag::StretchCorner: return ToolCursor::SizeCorner;
-        case Drag::StretchRight: return ToolCursor::SizeRight;
-        case Drag::StretchDown: return ToolCursor::SizeDown;
-        default: return ToolCursor::Move;
-        }
+        const int edges = handleAt(*t.picture, X - t.origin.x(), Y - t.origin.y());
+        const bool across = edges & (EdgeLeft | EdgeRight), along = edges & (EdgeTop | EdgeBottom);
+        if (across && along)
+            return (edges == (EdgeLeft | EdgeTop) || edges == (EdgeRight | EdgeBottom))
+                       ? ToolCursor::SizeFDiag
+                       : ToolCursor::SizeBDiag;
+        if (across) return ToolCursor::SizeHor;
+        if (along) return ToolCursor::SizeVer;
+        return ToolCursor::Move;
     }
     const Workspace &ws = m_s.workspace();
     if (!t.selection && ((ws.PicSelect.Visible() && m_tool != Tool::Select) ||

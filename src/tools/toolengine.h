@@ -55,7 +55,7 @@ enum MouseButtonCode { vbLeftButton = 1, vbRightButton = 2, vbMiddleButton = 4 }
 enum ShiftCode { vbShiftMask = 1, vbCtrlMask = 2, vbAltMask = 4 };
 
 // What the pointer shows over a place of the picture.
-enum class ToolCursor { Arrow, Cross, Fill, Pipette, Spray, Pen, Text, Move, SizeRight, SizeDown, SizeCorner };
+enum class ToolCursor { Arrow, Cross, Fill, Pipette, Spray, Pen, Text, Move, SizeHor, SizeVer, SizeFDiag, SizeBDiag };
 
 // The rubber bands, in Bild's pixels.
 struct RubberBands {
@@ -129,12 +129,14 @@ private:
         bool selection = false;
         SelectionKind kind = SelectionKind::Rect;
     };
-    enum class Drag { None, Tool, Move, StretchRight, StretchDown, StretchCorner, Outside };
+    enum class Drag { None, Tool, Selection };
+    // The edges of a selection a drag stretches; none: the drag moves it.
+    enum Edge { EdgeLeft = 1, EdgeRight = 2, EdgeTop = 4, EdgeBottom = 8 };
 
     Target targetAt(int X, int Y);
     Target bildTarget();
-    // Which stretch handle of a selection lies at (x, y) of the selection, Drag::Move else.
-    Drag handleAt(const PictureBox &p, int x, int y) const;
+    // The edges whose stretch band holds (x, y) of the selection; 0 inside, where a drag moves.
+    int handleAt(const PictureBox &p, int x, int y) const;
     void setStatus(const QString &text);
     void bandsChanged(const RubberBands &before);
 
@@ -179,6 +181,7 @@ private:
     // The running press.
     Target m_target;
     Drag m_drag = Drag::None;
+    int m_edges = 0;
     int DragX = -512, DragY = -512;
     int LastX = -1, LastY = -1;
     QRect m_startPlace;         // a selection's place when its drag began

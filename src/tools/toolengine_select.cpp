@@ -77,7 +77,8 @@ void ToolEngine::selectUp(int Shift, int X, int Y)
 void ToolEngine::selectionDragDown(const Target &t, int X, int Y)
 {
     m_target = t;
-    m_drag = handleAt(*t.picture, X - t.origin.x(), Y - t.origin.y());
+    m_drag = Drag::Selection;
+    m_edges = handleAt(*t.picture, X - t.origin.x(), Y - t.origin.y());
     m_startPlace = Selections::placeOf(*t.picture);
     DragX = X;
     DragY = Y;
@@ -89,25 +90,20 @@ void ToolEngine::selectionDragMove(int X, int Y)
     PictureBox &p = *m_target.picture;
     const QRect before = Selections::placeOf(p);
     const int dx = X - DragX, dy = Y - DragY;
-    QRect now = m_startPlace;
-    switch (m_drag) {
-    case Drag::Move:
-        now.translate(dx, dy);
-        m_selections.moveTo(m_target.kind, now.left(), now.top());
-        break;
-    case Drag::StretchRight:
-        now.setWidth(std::max(1, m_startPlace.width() + dx));
-        break;
-    case Drag::StretchDown:
-        now.setHeight(std::max(1, m_startPlace.height() + dy));
-        break;
-    default:
-        now.setWidth(std::max(1, m_startPlace.width() + dx));
-        now.setHeight(std::max(1, m_startPlace.height() + dy));
-        break;
+    QRect now = m_startPlace.translated(dx, dy);
+    if (m_edges != 0) {
+        // The dragged edges follow the pointer, at least one pixel from the opposite edge.
+        int l = m_startPlace.left(), t = m_startPlace.top();
+        int r = l + m_startPlace.width(), b = t + m_startPlace.height();
+        if (m_edges & EdgeLeft) l = std::min(l + dx, r - 1);
+        if (m_edges & EdgeRight) r = std::max(r + dx, l + 1);
+        if (m_edges & EdgeTop) t = std::min(t + dy, b - 1);
+        if (m_edges & EdgeBottom) b = std::max(b + dy, t + 1);
+        now = QRect(l, t, r - l, b - t);
+        if (now.size() != before.size())
+            m_selections.stretchTo(m_target.kind, now.width(), now.height());
     }
-    if (m_drag != Drag::Move && now.size() != before.size())
-        m_selections.stretchTo(m_target.kind, now.width(), now.height());
+    m_selections.moveTo(m_target.kind, now.left(), now.top());
     m_view->areaChanged((before | now).adjusted(-2, -2, 2, 2));
     setStatus(QStringLiteral("%1 / %2  (%3 / %4)")
                   .arg(now.left())
@@ -120,10 +116,11 @@ void ToolEngine::selectionDragUp(int X, int Y)
 {
     selectionDragMove(X, Y);
     const QRect now = Selections::placeOf(*m_target.picture);
-    if (m_drag == Drag::Move || now.size() == m_startPlace.size())
-        m_selections.endMove(m_target.kind, now != m_startPlace);
-    else
+    if (now.size() != m_startPlace.size())
         m_selections.endStretch(m_target.kind, true);
+    else
+        m_selections.endMove(m_target.kind, now != m_startPlace);
+    m_edges = 0;
     m_view->selectionChanged();
 }
 

@@ -187,9 +187,10 @@ QCursor toolCursor(ToolCursor cursor)
     case ToolCursor::Pen: return drawn(Tool::Freehand, QPoint(3, 18));
     case ToolCursor::Text: return QCursor(Qt::IBeamCursor);
     case ToolCursor::Move: return QCursor(Qt::SizeAllCursor);
-    case ToolCursor::SizeRight: return QCursor(Qt::SizeHorCursor);
-    case ToolCursor::SizeDown: return QCursor(Qt::SizeVerCursor);
-    case ToolCursor::SizeCorner: return QCursor(Qt::SizeFDiagCursor);
+    case ToolCursor::SizeHor: return QCursor(Qt::SizeHorCursor);
+    case ToolCursor::SizeVer: return QCursor(Qt::SizeVerCursor);
+    case ToolCursor::SizeFDiag: return QCursor(Qt::SizeFDiagCursor);
+    case ToolCursor::SizeBDiag: return QCursor(Qt::SizeBDiagCursor);
     }
     return QCursor(Qt::ArrowCursor);
 }

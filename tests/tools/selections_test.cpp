@@ -92,7 +92,9 @@ TEST_F(ToolFixture, StretchingByTheCornerResizesAndUndoPutsTheSizeBack)
     pattern();
     cut(0, 0, 10, 8);
     tools->disarm();
-    EXPECT_EQ(tools->cursorAt(9, 7), ToolCursor::SizeCorner);
+    EXPECT_EQ(tools->cursorAt(9, 7), ToolCursor::SizeFDiag);
+    EXPECT_EQ(tools->cursorAt(0, 4), ToolCursor::SizeHor);
+    EXPECT_EQ(tools->cursorAt(9, 0), ToolCursor::SizeBDiag);
     EXPECT_EQ(tools->cursorAt(4, 4), ToolCursor::Move);
     drag({QPoint(9, 7), QPoint(4, 3)});
     EXPECT_EQ(ws().PicSelect.Width(), 5);
@@ -101,6 +103,21 @@ TEST_F(ToolFixture, StretchingByTheCornerResizesAndUndoPutsTheSizeBack)
     ws().Menu_UndoRedo();
     EXPECT_EQ(ws().PicSelect.Width(), 10);
     EXPECT_EQ(ws().PicSelect.Height(), 8);
+}
+
+TEST_F(ToolFixture, StretchingByTheLeftEdgeKeepsTheRightEdge)
+{
+    pattern();
+    cut(2, 2, 10, 8); // 8 x 6 at (2,2)
+    tools->disarm();
+    drag({QPoint(2, 5), QPoint(6, 5)});
+    EXPECT_EQ(Selections::placeOf(ws().PicSelect), QRect(6, 2, 4, 6));
+    EXPECT_EQ(ws().lastaction, QStringLiteral("RECTRESIZED"));
+    // Past the opposite edge it stays one pixel wide.
+    drag({QPoint(6, 5), QPoint(11, 5)});
+    EXPECT_EQ(Selections::placeOf(ws().PicSelect), QRect(9, 2, 1, 6));
+    ws().Menu_UndoRedo();
+    EXPECT_EQ(Selections::placeOf(ws().PicSelect), QRect(2, 2, 8, 6));
 }
 
 TEST_F(ToolFixture, ToolsPaintInsideTheSelectionAndUndoSwapsTheStroke)
