@@ -840,6 +840,106 @@
         <source>Teilungswinkel</source>
         <translation>Teilungswinkel</translation>
     </message>
+    <message>
+        <source>Formen</source>
+        <translation>Formen</translation>
+    </message>
+    <message>
+        <source>Quadrat am Ankerpunkt</source>
+        <translation>Quadrat am Ankerpunkt</translation>
+    </message>
+    <message>
+        <source>Kreis</source>
+        <translation>Kreis</translation>
+    </message>
+    <message>
+        <source>Kreis um den Ankerpunkt</source>
+        <translation>Kreis um den Ankerpunkt</translation>
+    </message>
+    <message>
+        <source>Umrandet</source>
+        <translation>Umrandet</translation>
+    </message>
+    <message>
+        <source>Gefüllt</source>
+        <translation>Gefüllt</translation>
+    </message>
+    <message>
+        <source>Freihand</source>
+        <translation>Freihand</translation>
+    </message>
+    <message>
+        <source> Stiftart </source>
+        <translation> Stiftart </translation>
+    </message>
+    <message>
+        <source>Runde Spitze</source>
+        <translation>Runde Spitze</translation>
+    </message>
+    <message>
+        <source>Feder \</source>
+        <translation>Feder \</translation>
+    </message>
+    <message>
+        <source>Feder /</source>
+        <translation>Feder /</translation>
+    </message>
+    <message>
+        <source>Feder waagerecht</source>
+        <translation>Feder waagerecht</translation>
+    </message>
+    <message>
+        <source>Feder senkrecht</source>
+        <translation>Feder senkrecht</translation>
+    </message>
+    <message>
+        <source>Spitzenbreite </source>
+        <translation>Spitzenbreite </translation>
+    </message>
+    <message>
+        <source>Spray</source>
+        <translation>Spray</translation>
+    </message>
+    <message>
+        <source>Pinselart</source>
+        <translation>Pinselart</translation>
+    </message>
+    <message>
+        <source>Airbrush</source>
+        <translation>Airbrush</translation>
+    </message>
+    <message>
+        <source>Pinsel</source>
+        <translation>Pinsel</translation>
+    </message>
+    <message>
+        <source>Pinsel (Sättigung)</source>
+        <translation>Pinsel (Sättigung)</translation>
+    </message>
+    <message>
+        <source>Weichzeichnen</source>
+        <translation>Weichzeichnen</translation>
+    </message>
+    <message>
+        <source>Schärfen</source>
+        <translation>Schärfen</translation>
+    </message>
+    <message>
+        <source>Grösse </source>
+        <translation>Grösse </translation>
+    </message>
+    <message>
+        <source>Druck </source>
+        <translation>Druck </translation>
+    </message>
+    <message>
+        <source>Verbundener Pinsel</source>
+        <translation>Verbundener Pinsel</translation>
+    </message>
+    <message>
+        <source>Weichz. + Überlagern</source>
+        <translation>Weichz. + Überlagern</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -1332,6 +1432,133 @@
     <message>
         <source>Die Textdatei %1 kann nicht gelesen werden: %2</source>
         <translation>Die Textdatei %1 kann nicht gelesen werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Tools</name>
+    <message>
+        <source>&amp;Ausschneiden</source>
+        <translation>&amp;Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Kopieren</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Einfügen...</source>
+        <translation>&amp;Einfügen...</translation>
+    </message>
+    <message>
+        <source>&amp;Löschen</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Alles aus&amp;wählen</source>
+        <translation>Alles aus&amp;wählen</translation>
+    </message>
+    <message>
+        <source>Auswahl auf&amp;heben</source>
+        <translation>Auswahl auf&amp;heben</translation>
+    </message>
+    <message>
+        <source>Auswahl in Datei &amp;speichern...</source>
+        <translation>Auswahl in Datei &amp;speichern...</translation>
+    </message>
+    <message>
+        <source>&amp;1 Links oben</source>
+        <translation>&amp;1 Links oben</translation>
+    </message>
+    <message>
+        <source>&amp;2 Rechts oben</source>
+        <translation>&amp;2 Rechts oben</translation>
+    </message>
+    <message>
+        <source>&amp;3 Zentrieren</source>
+        <translation>&amp;3 Zentrieren</translation>
+    </message>
+    <message>
+        <source>&amp;4 Links unten</source>
+        <translation>&amp;4 Links unten</translation>
+    </message>
+    <message>
+        <source>&amp;5 Rechts unten</source>
+        <translation>&amp;5 Rechts unten</translation>
+    </message>
+    <message>
+        <source>Die Zwischenablage enthält kein Bild.</source>
+        <translation>Die Zwischenablage enthält kein Bild.</translation>
+    </message>
+    <message>
+        <source>Auswahl</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Ein Rechteck aus dem Bild ausschneiden</source>
+        <translation>Ein Rechteck aus dem Bild ausschneiden</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Eine Ellipse aus dem Bild ausschneiden (Umschalt: ein Kreis)</source>
+        <translation>Eine Ellipse aus dem Bild ausschneiden (Umschalt: ein Kreis)</translation>
+    </message>
+    <message>
+        <source>Füllen</source>
+        <translation>Füllen</translation>
+    </message>
+    <message>
+        <source>Eine Fläche gleicher Farbe füllen</source>
+        <translation>Eine Fläche gleicher Farbe füllen</translation>
+    </message>
+    <message>
+        <source>Pipette</source>
+        <translation>Pipette</translation>
+    </message>
+    <message>
+        <source>Farbe aufnehmen: links Vordergrund, rechts Hintergrund</source>
+        <translation>Farbe aufnehmen: links Vordergrund, rechts Hintergrund</translation>
+    </message>
+    <message>
+        <source>Linie</source>
+        <translation>Linie</translation>
+    </message>
+    <message>
+        <source>Eine gerade Linie ziehen</source>
+        <translation>Eine gerade Linie ziehen</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Rechteck, Kreis oder Ellipse aufziehen</source>
+        <translation>Rechteck, Kreis oder Ellipse aufziehen</translation>
+    </message>
+    <message>
+        <source>Stift</source>
+        <translation>Stift</translation>
+    </message>
+    <message>
+        <source>Freihand zeichnen</source>
+        <translation>Freihand zeichnen</translation>
+    </message>
+    <message>
+        <source>Pinsel</source>
+        <translation>Pinsel</translation>
+    </message>
+    <message>
+        <source>Airbrush, Pinsel, Weichzeichnen und Schärfen von Hand</source>
+        <translation>Airbrush, Pinsel, Weichzeichnen und Schärfen von Hand</translation>
+    </message>
+    <message>
+        <source>Textposition</source>
+        <translation>Textposition</translation>
+    </message>
+    <message>
+        <source>Ein Klick setzt die Position des Textes und malt ihn</source>
+        <translation>Ein Klick setzt die Position des Textes und malt ihn</translation>
     </message>
 </context>
 <context>
@@ -1834,6 +2061,22 @@
     <message>
         <source>&amp;Text und Schrift...</source>
         <translation>&amp;Text und Schrift...</translation>
+    </message>
+    <message>
+        <source>Werkzeuge</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Auswahl aus&amp;richten</source>
+        <translation>Auswahl aus&amp;richten</translation>
+    </message>
+    <message>
+        <source>Zwischenablage leeren</source>
+        <translation>Zwischenablage leeren</translation>
+    </message>
+    <message>
+        <source>Sättigung </source>
+        <translation>Sättigung </translation>
     </message>
 </context>
 <context>

@@ -841,6 +841,106 @@
         <source>Teilungswinkel</source>
         <translation>Division angle</translation>
     </message>
+    <message>
+        <source>Formen</source>
+        <translation>Forms</translation>
+    </message>
+    <message>
+        <source>Quadrat am Ankerpunkt</source>
+        <translation>Square at the anchor</translation>
+    </message>
+    <message>
+        <source>Kreis</source>
+        <translation>Circle</translation>
+    </message>
+    <message>
+        <source>Kreis um den Ankerpunkt</source>
+        <translation>Circle round the anchor</translation>
+    </message>
+    <message>
+        <source>Umrandet</source>
+        <translation>Outlined</translation>
+    </message>
+    <message>
+        <source>Gefüllt</source>
+        <translation>Filled</translation>
+    </message>
+    <message>
+        <source>Freihand</source>
+        <translation>Freehand</translation>
+    </message>
+    <message>
+        <source> Stiftart </source>
+        <translation> Pen type </translation>
+    </message>
+    <message>
+        <source>Runde Spitze</source>
+        <translation>Round tip</translation>
+    </message>
+    <message>
+        <source>Feder \</source>
+        <translation>Nib \</translation>
+    </message>
+    <message>
+        <source>Feder /</source>
+        <translation>Nib /</translation>
+    </message>
+    <message>
+        <source>Feder waagerecht</source>
+        <translation>Nib horizontal</translation>
+    </message>
+    <message>
+        <source>Feder senkrecht</source>
+        <translation>Nib vertical</translation>
+    </message>
+    <message>
+        <source>Spitzenbreite </source>
+        <translation>Tip width </translation>
+    </message>
+    <message>
+        <source>Spray</source>
+        <translation>Spray</translation>
+    </message>
+    <message>
+        <source>Pinselart</source>
+        <translation>Brush type</translation>
+    </message>
+    <message>
+        <source>Airbrush</source>
+        <translation>Airbrush</translation>
+    </message>
+    <message>
+        <source>Pinsel</source>
+        <translation>Brush</translation>
+    </message>
+    <message>
+        <source>Pinsel (Sättigung)</source>
+        <translation>Brush (saturation)</translation>
+    </message>
+    <message>
+        <source>Weichzeichnen</source>
+        <translation>Soften</translation>
+    </message>
+    <message>
+        <source>Schärfen</source>
+        <translation>Sharpen</translation>
+    </message>
+    <message>
+        <source>Grösse </source>
+        <translation>Size </translation>
+    </message>
+    <message>
+        <source>Druck </source>
+        <translation>Pressure </translation>
+    </message>
+    <message>
+        <source>Verbundener Pinsel</source>
+        <translation>Connected brush</translation>
+    </message>
+    <message>
+        <source>Weichz. + Überlagern</source>
+        <translation>Soften + overlay</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -1333,6 +1433,133 @@
     <message>
         <source>Die Textdatei %1 kann nicht gelesen werden: %2</source>
         <translation>The text file %1 cannot be read: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Tools</name>
+    <message>
+        <source>&amp;Ausschneiden</source>
+        <translation>Cu&amp;t</translation>
+    </message>
+    <message>
+        <source>&amp;Kopieren</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>&amp;Einfügen...</source>
+        <translation>&amp;Paste...</translation>
+    </message>
+    <message>
+        <source>&amp;Löschen</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>Alles aus&amp;wählen</source>
+        <translation>Select &amp;all</translation>
+    </message>
+    <message>
+        <source>Auswahl auf&amp;heben</source>
+        <translation>Des&amp;elect</translation>
+    </message>
+    <message>
+        <source>Auswahl in Datei &amp;speichern...</source>
+        <translation>Save s&amp;election to file...</translation>
+    </message>
+    <message>
+        <source>&amp;1 Links oben</source>
+        <translation>&amp;1 Top left</translation>
+    </message>
+    <message>
+        <source>&amp;2 Rechts oben</source>
+        <translation>&amp;2 Top right</translation>
+    </message>
+    <message>
+        <source>&amp;3 Zentrieren</source>
+        <translation>&amp;3 Centre</translation>
+    </message>
+    <message>
+        <source>&amp;4 Links unten</source>
+        <translation>&amp;4 Bottom left</translation>
+    </message>
+    <message>
+        <source>&amp;5 Rechts unten</source>
+        <translation>&amp;5 Bottom right</translation>
+    </message>
+    <message>
+        <source>Die Zwischenablage enthält kein Bild.</source>
+        <translation>The clipboard holds no picture.</translation>
+    </message>
+    <message>
+        <source>Auswahl</source>
+        <translation>Selection</translation>
+    </message>
+    <message>
+        <source>Ein Rechteck aus dem Bild ausschneiden</source>
+        <translation>Cut a rectangle out of the picture</translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation>Ellipse</translation>
+    </message>
+    <message>
+        <source>Eine Ellipse aus dem Bild ausschneiden (Umschalt: ein Kreis)</source>
+        <translation>Cut an ellipse out of the picture (Shift: a circle)</translation>
+    </message>
+    <message>
+        <source>Füllen</source>
+        <translation>Fill</translation>
+    </message>
+    <message>
+        <source>Eine Fläche gleicher Farbe füllen</source>
+        <translation>Fill an area of one colour</translation>
+    </message>
+    <message>
+        <source>Pipette</source>
+        <translation>Pipette</translation>
+    </message>
+    <message>
+        <source>Farbe aufnehmen: links Vordergrund, rechts Hintergrund</source>
+        <translation>Pick a colour: left foreground, right background</translation>
+    </message>
+    <message>
+        <source>Linie</source>
+        <translation>Line</translation>
+    </message>
+    <message>
+        <source>Eine gerade Linie ziehen</source>
+        <translation>Draw a straight line</translation>
+    </message>
+    <message>
+        <source>Form</source>
+        <translation>Shape</translation>
+    </message>
+    <message>
+        <source>Rechteck, Kreis oder Ellipse aufziehen</source>
+        <translation>Drag a rectangle, circle or ellipse</translation>
+    </message>
+    <message>
+        <source>Stift</source>
+        <translation>Pen</translation>
+    </message>
+    <message>
+        <source>Freihand zeichnen</source>
+        <translation>Draw freehand</translation>
+    </message>
+    <message>
+        <source>Pinsel</source>
+        <translation>Brush</translation>
+    </message>
+    <message>
+        <source>Airbrush, Pinsel, Weichzeichnen und Schärfen von Hand</source>
+        <translation>Airbrush, brush, soften and sharpen by hand</translation>
+    </message>
+    <message>
+        <source>Textposition</source>
+        <translation>Text position</translation>
+    </message>
+    <message>
+        <source>Ein Klick setzt die Position des Textes und malt ihn</source>
+        <translation>A click sets the position of the text and paints it</translation>
     </message>
 </context>
 <context>
@@ -1835,6 +2062,22 @@
     <message>
         <source>&amp;Text und Schrift...</source>
         <translation>&amp;Text and font...</translation>
+    </message>
+    <message>
+        <source>Werkzeuge</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>Auswahl aus&amp;richten</source>
+        <translation>&amp;Align selection</translation>
+    </message>
+    <message>
+        <source>Zwischenablage leeren</source>
+        <translation>Empty the clipboard</translation>
+    </message>
+    <message>
+        <source>Sättigung </source>
+        <translation>Saturation </translation>
     </message>
 </context>
 <context>

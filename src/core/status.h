@@ -8,7 +8,8 @@
 namespace tf {
 
 // The panels of the main window's status bar.
-enum StatusPanel { sbrState = 1, sbrSize = 2, sbrfixed = 3, sbrSFixed = 4, sbrFont = 5 };
+// sbrMouse shows the position and the colour under the mouse over the picture.
+enum StatusPanel { sbrState = 1, sbrSize = 2, sbrfixed = 3, sbrSFixed = 4, sbrFont = 5, sbrMouse = 6 };
 
 class StatusSink {
 public:

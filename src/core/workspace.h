@@ -78,6 +78,13 @@ public:
     bool BildChanged = false;
     // The action string: what the last user action did to the picture (see the paint driver).
     QString lastaction;
+    // A selection was moved or stamped since it was cut (SelFlagRect, SelFlagCirc), and where
+    // it lay when it was cut. The paint driver checks the flags against the selections' being
+    // shown and clears them before a paint.
+    bool SelFlagRect = false;
+    bool SelFlagCirc = false;
+    int SelOrgLeft = 0;
+    int SelOrgTop = 0;
 
     QString TempDir() const { return m_tempDir; }
     // Sets the folder of the temp files (created when missing).
@@ -136,10 +143,11 @@ public:
         return usefile || (usemasks ? m_maskUndoInFile : m_bildUndoInFile);
     }
 
-private:
-    QString undoFile(bool usemasks) const;
     // The undo image of a slot as it stands (from memory or from its file); null when none.
     QImage undoImage(bool usemasks, bool usefile);
+
+private:
+    QString undoFile(bool usemasks) const;
     void enableUndo();
 
     QString m_tempDir;

@@ -97,6 +97,10 @@ PaintOutcome paintButton(Session &s)
     else if (kind == QLatin1String("CIRC"))
         ws.lastaction = ws.picSelectC.Visible() ? QStringLiteral("CIRC") : QString();
     if (!ws.lastaction.contains(PaintWord)) ws.lastaction += PaintWord;
+    // The selections' flags of "moved or stamped since the cut" tell Undo about the state
+    // before this paint; a paint makes a new state, on the selection shown or on the picture.
+    ws.SelFlagRect = false;
+    ws.SelFlagCirc = false;
 
     if (p.dialog.captionSaysStop()) {
         p.dialog.setButtonState(GrafDialogState::Button::Waiting);

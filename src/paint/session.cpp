@@ -18,8 +18,15 @@ Session::Session()
 
 Session::~Session()
 {
+    // The tools hold on to the workspace and the doors: they go first.
+    m_handTools.reset();
     if (m_installedPrompter)
         installPrompter(m_prompterBefore);
+}
+
+void Session::setHandTools(std::unique_ptr<HandTools> tools)
+{
+    m_handTools = std::move(tools);
 }
 
 void Session::setPrompter(Prompter *p)

@@ -61,6 +61,15 @@ struct PaintState {
     std::optional<PaintRecord> lastPaint;
 };
 
+// The hand tools of the mouse (tools/toolengine.h), which the session owns once they are made
+// for it: the paint layer knows them only by this door.
+class HandTools {
+public:
+    virtual ~HandTools() = default;
+    // Releases the armed tool.
+    virtual void disarm() = 0;
+};
+
 // Values that the start of the program sets for the painters that read them later.
 struct StartValues {
     int TextBlockStep = 80; // the line step of the text blocks
@@ -107,6 +116,11 @@ public:
     // the session). A new session has none: every type says that its painter is not built in.
     void setPainters(std::span<const PainterEntry> table) { m_painters = table; }
     std::span<const PainterEntry> painters() const { return m_painters; }
+
+    // The hand tools (null until made); the session owns them from then on and drops them
+    // before its workspace.
+    HandTools *handTools() { return m_handTools.get(); }
+    void setHandTools(std::unique_ptr<HandTools> tools);
 
     // The doors. Each setter takes a borrowed object (null restores the default).
     Prompter &prompter() { return *m_prompter; }
@@ -161,6 +175,7 @@ private:
     SessionView *m_view = &m_noView;
     Prompter *m_prompterBefore = nullptr;
     bool m_installedPrompter = false; // setPrompter made this session's prompter the process's
+    std::unique_ptr<HandTools> m_handTools;
 };
 
 } // namespace tf

@@ -145,6 +145,12 @@ QWidget *ControlPanelWidget::widgetFor(const ControlKey &key) const
     return it == m_bindings.end() ? nullptr : it->second.widget;
 }
 
+QLabel *ControlPanelWidget::labelFor(const ControlKey &key) const
+{
+    auto it = m_bindings.find(key);
+    return it == m_bindings.end() ? nullptr : it->second.label;
+}
+
 void ControlPanelWidget::refresh()
 {
     for (auto &[key, b] : m_bindings)

@@ -29,6 +29,8 @@ public:
     const ControlPanel &panel() const { return m_panel; }
     // The widget of a control (for layouts that place some controls elsewhere); null if none.
     QWidget *widgetFor(const ControlKey &key) const;
+    // The caption label beside a control; null if it has none.
+    QLabel *labelFor(const ControlKey &key) const;
     // Shows the values as they stand in the control model.
     void refresh();
     // Shows one control's value.

@@ -92,6 +92,20 @@ void FeatDialogDock::Handle_Formobjects()
     m_stack->setCurrentWidget(m_pages.at(name));
 }
 
+void FeatDialogDock::showPanel(const QString &name)
+{
+    auto it = m_pages.find(name);
+    if (it == m_pages.end()) return;
+    m_stack->setCurrentWidget(it->second);
+    raise();
+}
+
+ControlPanelWidget *FeatDialogDock::panelWidget(const QString &name) const
+{
+    auto it = m_panels.find(name);
+    return it == m_panels.end() ? nullptr : it->second;
+}
+
 QString FeatDialogDock::currentPanel() const
 {
     for (const auto &[name, page] : m_pages)

@@ -26,8 +26,12 @@ public:
 
     // Shows the panel that GrafKey reads.
     void Handle_Formobjects();
+    // Shows the panel of that name (a hand tool's), when there is one.
+    void showPanel(const QString &name);
     // Shows a control's new value in whichever panel holds it.
     void controlChanged(const ControlKey &key);
+    // The widget of a panel; null when there is none of that name.
+    ControlPanelWidget *panelWidget(const QString &name) const;
     // The name of the panel on top ("" for the note).
     QString currentPanel() const;
 

@@ -15,6 +15,7 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <algorithm>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
@@ -58,14 +59,16 @@ GrafDialogDock::GrafDialogDock(Session &session, PreviewCache &previews, QWidget
     ListBoxType = new QListWidget(content);
     ListBoxType->setObjectName(QStringLiteral("ListBoxType"));
     ListBoxType->setIconSize(QSize(32, 32));
-    ListBoxType->setMinimumHeight(220);
+    // Ten rows with their previews at the least, more when the dock is higher.
+    const int row = std::max(ListBoxType->iconSize().height(), ListBoxType->fontMetrics().height()) + 4;
+    ListBoxType->setMinimumHeight(10 * row + 2 * ListBoxType->frameWidth());
     listRow->addWidget(ListBoxType, 1);
     m_preview = new QLabel(content);
     m_preview->setFixedSize(PreviewCache::Side + 2, PreviewCache::Side + 2);
     m_preview->setFrameShape(QFrame::Box);
     m_preview->setAlignment(Qt::AlignCenter);
     listRow->addWidget(m_preview, 0, Qt::AlignTop);
-    layout->addLayout(listRow);
+    layout->addLayout(listRow, 2);
 
     auto *buttons = new QGridLayout;
     BtnPaintRoll[0] = new QPushButton(QStringLiteral("<<"), content);

@@ -42,29 +42,32 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     m_session.setStatus(m_status.get());
     m_session.setYieldHook(&m_yield);
 
+    // The tools come first: their option panels must stand before the docks are built.
+    m_tools = &ToolEngine::of(m_session);
+    m_tools->setView(this);
+
     m_picContainer = new QScrollArea(this);
     m_picContainer->setObjectName(QStringLiteral("picContainer"));
     m_picContainer->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     m_picContainer->setBackgroundRole(QPalette::Dark);
     m_view = new PictureView(m_session.workspace().Bild);
+    m_view->showTools(m_session.workspace(), *m_tools);
     m_picContainer->setWidget(m_view);
     setCentralWidget(m_picContainer);
 
     m_previews = std::make_unique<PreviewCache>();
     m_grafDialog = new GrafDialogDock(m_session, *m_previews, this);
     m_featDialog = new FeatDialogDock(m_session, this);
-    addDockWidget(Qt::RightDockWidgetArea, m_grafDialog);
+    // Two columns beside the picture: the paint dialog at full height, so its type list shows
+    // ten rows and more, and the options, tabbed with the colours, likewise without scrolling.
     addDockWidget(Qt::RightDockWidgetArea, m_featDialog);
+    addDockWidget(Qt::RightDockWidgetArea, m_grafDialog);
+    splitDockWidget(m_featDialog, m_grafDialog, Qt::Horizontal);
     m_colourDialog = new ColourDialogDock(m_session, this);
-    // Colours and options share the place below the paint dialog, so the picture keeps its room.
     addDockWidget(Qt::RightDockWidgetArea, m_colourDialog);
     tabifyDockWidget(m_featDialog, m_colourDialog);
     m_colourDialog->raise();
     m_textDialog = new TextDialog(m_session, this);
-    connect(m_view, &PictureView::mousePressed, this,
-            whenIdle(m_session, [this](Qt::MouseButton button, Qt::KeyboardModifiers, QPoint at) {
-                pictureClicked(button, at);
-            }));
     connect(m_featDialog, &FeatDialogDock::textPlacingArmed, this,
             [this] { m_view->setCursor(Qt::CrossCursor); });
     // Paint and the roll buttons are Stop while a paint runs: they need no guard.
@@ -82,6 +85,10 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     createActions();
     createMenus();
     createToolBar();
+    createToolActions();
+    addEditEntries();
+    connectMouse();
+    syncToolPanels();
     connect(m_grafDialog, &GrafDialogDock::fixRequested, mn_Fixieren, &QAction::trigger);
     connect(m_grafDialog, &GrafDialogDock::restoreRequested, mn_Restaurieren, &QAction::trigger);
 
@@ -100,6 +107,7 @@ MainWindow::~MainWindow()
     // The window's widgets go before the session they show: the picture view and the docks
     // hold on to its pictures and state.
     m_session.setView(nullptr);
+    m_tools->setView(nullptr);
     delete takeCentralWidget();
     delete m_textDialog;
     delete m_colourDialog;
@@ -128,6 +136,7 @@ void MainWindow::controlChanged(const ControlKey &key)
     m_grafDialog->controlChanged(key);
     m_featDialog->controlChanged(key);
     if (m_textDialog) m_textDialog->controlChanged(key);
+    if (key.name == QLatin1String("cmbSprayType")) syncToolPanels();
 }
 
 void MainWindow::Handle_Formobjects()
@@ -145,16 +154,17 @@ void MainWindow::showTextDialog()
     m_textDialog->raise();
 }
 
-void MainWindow::pictureClicked(Qt::MouseButton button, QPoint at)
+bool MainWindow::pictureClicked(Qt::MouseButton button, QPoint at)
 {
-    if (m_session.text().placing == TextPlacing::Off) return;
+    if (m_session.text().placing == TextPlacing::Off) return false;
     if (button != Qt::LeftButton) {
         armTextPlacing(m_session, TextPlacing::Off);
         m_view->unsetCursor();
-        return;
+        return true;
     }
     m_view->unsetCursor();
     if (placeTextAt(m_session, at.x(), at.y())) paint();
+    return true;
 }
 
 bool MainWindow::openMatrixWindow(int glyph, int speed)
@@ -412,6 +422,7 @@ void MainWindow::retranslate()
     mn_TextDialog->setText(tr("&Text und Schrift..."));
     const int group = m_session.paint().GrafGroup;
     m_toolBar->setToolTip(groupLabel(group));
+    retranslateTools();
     Set_MDI_Caption();
     refreshStatus();
 }
@@ -448,6 +459,7 @@ void MainWindow::updateCommands()
     mn_AuswahlSpeichern->setEnabled(m_session.workspace().PicSelect.Visible() ||
                                     m_session.workspace().picSelectC.Visible());
     tbDrucken->setEnabled(c.print);
+    if (mn_PicAusrichtenMenu) updateToolCommands();
     Set_MDI_Caption();
 }
 

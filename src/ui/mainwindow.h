@@ -13,6 +13,8 @@
 #include "files/loadplace.h"
 #include "files/recipe.h"
 #include "paint/session.h"
+#include "tools/editmenu.h"
+#include "tools/toolengine.h"
 #include "ui/guiprompter.h"
 #include "ui/guiyield.h"
 
@@ -39,7 +41,7 @@ class TextDialog;
 class TileViewer;
 class MosaikShow;
 
-class MainWindow : public QMainWindow, private SessionView {
+class MainWindow : public QMainWindow, private SessionView, private ToolView {
     Q_OBJECT
 public:
     explicit MainWindow(QWidget *parent = nullptr);
@@ -90,6 +92,25 @@ private:
     bool openMatrixWindow(int glyph, int speed) override;
     // After a Superformat paint: the viewer shows the new picture (mainwindow_superformat.cpp).
     void showSuperformat() override;
+    void reset_imgButtons() override;
+    void Refresh_BrushImage() override;
+
+    // The tools' view (mainwindow_tools.cpp).
+    void toolChanged(Tool tool) override;
+    void areaChanged(const QRect &area) override;
+    void coloursChanged() override;
+    void selectionChanged() override;
+    // The toolbar of the hand tools, the edit menu's selection entries, the mouse.
+    void createToolActions();
+    void addEditEntries();
+    void retranslateTools();
+    void updateToolCommands();
+    void connectMouse();
+    // What the tool panels show beyond their tables: the pen tips, and the connected brush
+    // offered for the two brushes only.
+    void syncToolPanels();
+    // The top left of the part of the picture the frame shows.
+    QPoint visibleTopLeft() const;
 
     void createActions();
     void createMenus();
@@ -114,7 +135,8 @@ private:
     // The text dialog (made with the window, kept for its life), raised.
     void showTextDialog();
     // A press on the picture: the text placing mode takes a left click first.
-    void pictureClicked(Qt::MouseButton button, QPoint at);
+    // The text placing mode takes the press before the hand tools; true when it did.
+    bool pictureClicked(Qt::MouseButton button, QPoint at);
     void paint();
     void roll(int index);
     void copyPictureToClipboard();
@@ -188,6 +210,15 @@ private:
     QAction *tbDefault = nullptr;
     QAction *tbDrucken = nullptr;
     QAction *mn_Passepartouts = nullptr;
+    ToolEngine *m_tools = nullptr;
+    SystemClipboard m_clipboard;
+    QToolBar *m_toolsBar = nullptr;
+    std::vector<std::pair<Tool, QAction *>> m_toolActions;
+    std::vector<std::pair<int, QAction *>> mn_Edit;
+    QMenu *mn_PicAusrichtenMenu = nullptr;
+    std::vector<QAction *> mn_PicAusrichten;
+    QAction *mn_ClearClip = nullptr;
+    int m_cursorShown = -1;
     QAction *mn_Kachelansicht = nullptr;
     QAction *mn_TextDialog = nullptr;
     TileViewer *m_tileViewer = nullptr;

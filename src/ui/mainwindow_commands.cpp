@@ -118,6 +118,9 @@ void MainWindow::mn_ClrPic()
 void MainWindow::undoRedo()
 {
     m_session.workspace().Menu_UndoRedo();
+    // Undo may show, hide, move or resize a selection as well as change the picture.
+    m_view->update();
+    updateCommands();
     refreshStatus();
     Set_MDI_Caption();
     m_view->setFocus();

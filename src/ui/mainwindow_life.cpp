@@ -8,6 +8,8 @@
 #include "paint/catalogue.h"
 #include "files/picturefile.h"
 #include "files/savename.h"
+#include "ui/colourdialogdock.h"
+#include "ui/featdialogdock.h"
 #include "ui/grafdialogdock.h"
 #include "ui/picimportdialog.h"
 #include "ui/pselectdialog.h"
@@ -16,6 +18,7 @@
 #include "ui/statusbar.h"
 
 #include <QClipboard>
+#include <algorithm>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -28,6 +31,7 @@
 #include <QStyle>
 #include <QToolBar>
 #include <QStandardPaths>
+#include <QTimer>
 
 namespace tf::ui {
 
@@ -48,12 +52,29 @@ void MainWindow::startUp(SettingsStore &store)
         const int bar = m_picContainer->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
         const int chromeH = menuBar()->sizeHint().height() + statusBar()->sizeHint().height() +
                             m_toolBar->sizeHint().height();
-        const int docks = m_grafDialog->isVisible() || !isVisible() ? m_grafDialog->sizeHint().width() : 0;
+        const int docks = m_grafDialog->isVisible() || !isVisible()
+                              ? m_grafDialog->sizeHint().width() + 8 +
+                                    std::max(m_featDialog->sizeHint().width(),
+                                             m_colourDialog->sizeHint().width())
+                              : 0;
         const QSize want(712 + bar + 8 + docks + 8, 712 + chromeH + bar + 8);
         setGeometry(keepOnScreen(QRect(screen.topLeft() + QPoint(20, 20), want), screen));
+        // Once laid out, the frame grows by what it still lacks for the whole picture.
+        QTimer::singleShot(0, this, [this, screen] {
+            const QSize view = m_picContainer->maximumViewportSize();
+            const Workspace &w = m_session.workspace();
+            const int dw = std::max(0, w.BildW - view.width()), dh = std::max(0, w.BildH - view.height());
+            if ((dw > 0 || dh > 0) && !isMaximized())
+                setGeometry(keepOnScreen(geometry().adjusted(0, 0, dw, dh), screen));
+        });
     }
     if (m_settings.MainWState == 2)
         setWindowState(windowState() | Qt::WindowMaximized);
+    // The docks and tool bars where the user left them.
+    const QString docks = store.Get_Setting(QString::fromLatin1(SubKey::Settings),
+                                            QStringLiteral("DockState"), QString());
+    if (!docks.isEmpty())
+        restoreState(QByteArray::fromBase64(docks.toLatin1()));
 
     Workspace &ws = m_session.workspace();
     if (!m_settings.PDirTemp.isEmpty())
@@ -100,6 +121,8 @@ void MainWindow::shutDown()
         m_settings.initFormatH = ws.BildH;
         m_settings.language = currentLanguage();
         m_settings.save(*m_store);
+        m_store->Put_Setting(QString::fromLatin1(SubKey::Settings), QStringLiteral("DockState"),
+                             QString::fromLatin1(saveState().toBase64()));
         m_mru.Save(*m_store);
         m_store->sync();
     }
@@ -252,7 +275,11 @@ bool MainWindow::savePicture(const QString &path, bool selection)
         // A picture that is what its paints made carries their recipe.
         const QStringList recipe =
             source == &ws.Bild ? m_paintHistory.recipeFor(ws.Bild.Image().cacheKey()) : QStringList();
-        const WriteResult r = tf::savePicture(source->Image(), name.path, name.SaveTypeTag,
+        // The elliptic selection is saved as the clipboard takes it: the background colour
+        // round its ellipse.
+        const QImage picture =
+            source == &ws.picSelectC ? m_tools->selections().shownImage() : source->Image();
+        const WriteResult r = tf::savePicture(picture, name.path, name.SaveTypeTag,
                                               pictureMetaOf(m_session, recipe));
         if (!r.ok()) {
             m_session.ask(r.message, Buttons::Ok, Icon::Exclamation);

@@ -4,9 +4,15 @@
 
 #include <QWidget>
 
+class QPainter;
+
 namespace tf {
 class PictureBox;
+class ToolEngine;
+class Workspace;
 }
+
+class QTimer;
 
 namespace tf::ui {
 
@@ -20,6 +26,9 @@ public:
     void syncSize();
     QSize sizeHint() const override;
     PictureBox &picture() { return m_picture; }
+    // Shows the workspace's selections floating over the picture, with their blinking frame,
+    // and the tools' rubber bands; both borrowed for the view's life.
+    void showTools(Workspace &ws, ToolEngine &tools);
 
 signals:
     void mousePressed(Qt::MouseButton button, Qt::KeyboardModifiers modifiers, QPoint at);
@@ -38,7 +47,14 @@ protected:
     void leaveEvent(QEvent *event) override;
 
 private:
+    void blink();
+    void paintTools(QPainter &p);
+
     PictureBox &m_picture;
+    Workspace *m_ws = nullptr;
+    ToolEngine *m_tools = nullptr;
+    QTimer *m_blink = nullptr;
+    int m_phase = 0;
 };
 
 } // namespace tf::ui

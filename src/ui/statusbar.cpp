@@ -8,11 +8,11 @@ namespace tf::ui {
 
 StatusBarSink::StatusBarSink(QStatusBar *bar)
 {
-    for (int panel : {sbrState, sbrSize, sbrfixed, sbrSFixed, sbrFont}) {
+    for (int panel : {sbrState, sbrMouse, sbrSize, sbrfixed, sbrSFixed, sbrFont}) {
         auto *label = new QLabel(bar);
         label->setFrameShape(QFrame::StyledPanel);
         label->setFrameShadow(QFrame::Sunken);
-        label->setMinimumWidth(panel == sbrState ? 260 : 90);
+        label->setMinimumWidth(panel == sbrState ? 260 : panel == sbrMouse ? 170 : 90);
         bar->addWidget(label, panel == sbrState ? 1 : 0);
         m_panels[panel] = label;
     }
