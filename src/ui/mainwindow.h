@@ -134,8 +134,8 @@ private:
     void showTileViewer();
     // The text dialog (made with the window, kept for its life), raised.
     void showTextDialog();
-    // A press on the picture: the text placing mode takes a left click first.
-    // The text placing mode takes the press before the hand tools; true when it did.
+    // A press on the picture: the text placing mode takes it before the hand tools (a left
+    // click places, another button ends the mode); true when it did.
     bool pictureClicked(Qt::MouseButton button, QPoint at);
     void paint();
     void roll(int index);
