@@ -5,6 +5,7 @@
 #include "generators/borders.h"
 #include "generators/curves.h"
 #include "generators/matrixrain.h"
+#include "generators/mondrian.h"
 #include "generators/papers.h"
 #include "generators/polygraphics.h"
 #include "generators/polypanels.h"
@@ -39,7 +40,7 @@ std::span<const PainterEntry> painterTable()
         {"Bitblt-Schmieren", paintBitbltSchmieren, NoUndo},
         // Group 2
         {"Filled-Triangles", paintFilledTriangles, Prepare},
-        {"ART-Mondrian", nullptr, Prepare},
+        {"ART-Mondrian", paintMondrian, Prepare},
         {"ART-MondrianSuper", nullptr, Prepare},
         {"PIC-Mosaik", nullptr, Prepare},
         {"PIC-MosaikSuper", nullptr, Prepare},
@@ -159,6 +160,7 @@ void registerAllPanels()
         registerPolyPanels();
         registerPaperPanels();
         registerFramePanels();
+        registerMondrianPanels();
         return true;
     }();
     (void)once;

@@ -83,6 +83,22 @@ PaintRecord recordOf(const Session &s, uint32_t seed)
     return r;
 }
 
+// Create_Polygraphics, then the paint becomes the persistent picture.
+PaintOutcome paintAndKeep(Session &s)
+{
+    const PaintOutcome outcome = Create_Polygraphics(s);
+    if (outcome != PaintOutcome::Painted) return outcome;
+
+    Workspace &ws = s.workspace();
+    ws.Bild.setPicture(ws.Bild.Image());
+    ws.BildWork.setPicture(ws.BildWork.Image());
+    CommandState commands = ws.commands;
+    commands.save = true;
+    if (!s.paint().AutoPaintRun) commands.print = true;
+    ws.setCommands(commands);
+    return PaintOutcome::Painted;
+}
+
 PaintOutcome paintButton(Session &s)
 {
     PaintState &p = s.paint();
@@ -135,17 +151,7 @@ PaintOutcome paintButton(Session &s)
         p.GrafTypeMem[size_t(p.GrafGroup)] = listIndex;
     Hole_GMENU(s, listIndex + 1);
 
-    const PaintOutcome outcome = Create_Polygraphics(s);
-    if (outcome != PaintOutcome::Painted) return outcome;
-
-    // The paint becomes the persistent picture.
-    ws.Bild.setPicture(ws.Bild.Image());
-    ws.BildWork.setPicture(ws.BildWork.Image());
-    CommandState commands = ws.commands;
-    commands.save = true;
-    if (!p.AutoPaintRun) commands.print = true;
-    ws.setCommands(commands);
-    return PaintOutcome::Painted;
+    return paintAndKeep(s);
 }
 
 } // namespace
@@ -179,6 +185,23 @@ PaintOutcome BtnPaintRoll_Click(Session &s, int index)
     }
     ListBoxType_Click(s, i);
     return BtnPaint_Click(s);
+}
+
+PaintOutcome paintAgain(Session &s)
+{
+    PaintOutcome outcome = PaintOutcome::Failed;
+    guarded(QStringLiteral("DoPaintButton"), [&] {
+        if (s.runState().busy()) {
+            outcome = PaintOutcome::Busy;
+            return;
+        }
+        Workspace &ws = s.workspace();
+        if (!ws.lastaction.contains(PaintWord)) ws.lastaction += PaintWord;
+        Set_BILD(s);
+        s.view().reset_imgButtons();
+        outcome = paintAndKeep(s);
+    });
+    return outcome;
 }
 
 void patch_lastactionpaint(Session &s)

@@ -17,6 +17,7 @@
 
 class QFormLayout;
 class QLabel;
+class QPushButton;
 
 namespace tf::ui {
 
@@ -36,6 +37,10 @@ public:
     // Changes are refused (the widget shows the value that stands) while `run` is busy.
     void setRunState(const RunState *run) { m_run = run; }
 
+signals:
+    // A button of the panel's actions was pressed.
+    void actionRequested(const tf::PanelAction *action);
+
 protected:
     void changeEvent(QEvent *event) override;
 
@@ -53,6 +58,7 @@ private:
     const ControlPanel &m_panel;
     Controls &m_controls;
     std::map<ControlKey, Binding> m_bindings;
+    std::vector<std::pair<QPushButton *, const PanelAction *>> m_actions;
     bool m_showing = false;
     const RunState *m_run = nullptr;
 };

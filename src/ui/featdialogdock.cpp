@@ -30,6 +30,8 @@ FeatDialogDock::FeatDialogDock(Session &session, QWidget *parent)
         auto *scroll = new QScrollArea(m_stack);
         auto *widget = new ControlPanelWidget(*panel, session.controls(), scroll);
         widget->setRunState(&session.runState());
+        connect(widget, &ControlPanelWidget::actionRequested, this,
+                &FeatDialogDock::actionRequested);
         scroll->setWidget(widget);
         scroll->setWidgetResizable(true);
         m_stack->addWidget(scroll);

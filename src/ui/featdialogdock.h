@@ -12,6 +12,7 @@ class QStackedWidget;
 namespace tf {
 class Session;
 struct ControlKey;
+struct PanelAction;
 }
 
 namespace tf::ui {
@@ -29,6 +30,10 @@ public:
     void controlChanged(const ControlKey &key);
     // The name of the panel on top ("" for the note).
     QString currentPanel() const;
+
+signals:
+    // A button of a panel's actions was pressed.
+    void actionRequested(const tf::PanelAction *action);
 
 protected:
     void changeEvent(QEvent *event) override;

@@ -109,6 +109,8 @@ private:
     void showTileViewer();
     void paint();
     void roll(int index);
+    // A button of an option panel ("Repaint letztes Set").
+    void runPanelAction(const PanelAction &action);
     void copyPictureToClipboard();
     void copyCommandLine();
     void afterPaint();
