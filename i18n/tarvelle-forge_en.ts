@@ -1,5 +1,4 @@
-<?xml version="1.0" encoding="utf-8"?>
-<!DOCTYPE TS>
+<?xml version='1.0' encoding='utf-8'?>
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
     <name>Blurize</name>
@@ -132,7 +131,7 @@
     </message>
     <message>
         <source>„%1“ konnte nicht gemalt werden.</source>
-        <translation>&quot;%1&quot; could not be painted.</translation>
+        <translation>"%1" could not be painted.</translation>
     </message>
     <message>
         <source>Ungültige Größe: %1 (BxH)</source>
@@ -175,16 +174,16 @@
         <translation>The transformation failed.</translation>
     </message>
     <message>
-        <source>%1 erwartet eine Zahl von 0 bis 14000, nicht &quot;%2&quot;</source>
-        <translation>%1 expects a number from 0 to 14000, not &quot;%2&quot;</translation>
+        <source>%1 erwartet eine Zahl von 0 bis 14000, nicht "%2"</source>
+        <translation>%1 expects a number from 0 to 14000, not "%2"</translation>
     </message>
     <message>
         <source>Aufruf: tarvelle-forge passepartouts [--data DATEI]</source>
         <translation>Usage: tarvelle-forge passepartouts [--data FILE]</translation>
     </message>
     <message>
-        <source>--gradient erwartet on oder off, nicht &quot;%1&quot;</source>
-        <translation>--gradient expects on or off, not &quot;%1&quot;</translation>
+        <source>--gradient erwartet on oder off, nicht "%1"</source>
+        <translation>--gradient expects on or off, not "%1"</translation>
     </message>
     <message>
         <source>Unbekannte Angabe: %1</source>
@@ -195,8 +194,8 @@
         <translation>Usage: tarvelle-forge passepartout --set NAME PICTURE -o OUTPUT</translation>
     </message>
     <message>
-        <source>Es gibt kein Passepartout &quot;%1&quot; (siehe tarvelle-forge passepartouts).</source>
-        <translation>There is no passepartout &quot;%1&quot; (see tarvelle-forge passepartouts).</translation>
+        <source>Es gibt kein Passepartout "%1" (siehe tarvelle-forge passepartouts).</source>
+        <translation>There is no passepartout "%1" (see tarvelle-forge passepartouts).</translation>
     </message>
     <message>
         <source>Das Bild im Passepartout wäre größer als 14000 Pixel.</source>
@@ -665,6 +664,186 @@
         <source>Jalousie step 1-255</source>
         <translation>Blind step 1-255</translation>
     </message>
+    <message>
+        <source>Mondrian</source>
+        <translation>Mondrian</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Quadratisch</source>
+        <translation>Square</translation>
+    </message>
+    <message>
+        <source>Typ</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Be-Pop</source>
+        <translation>Be-Pop</translation>
+    </message>
+    <message>
+        <source>Boogie-Woogie</source>
+        <translation>Boogie-Woogie</translation>
+    </message>
+    <message>
+        <source>Boogie-Rocks</source>
+        <translation>Boogie-Rocks</translation>
+    </message>
+    <message>
+        <source>Boogie-Blocks</source>
+        <translation>Boogie-Blocks</translation>
+    </message>
+    <message>
+        <source>Boogie-Soft-Ice</source>
+        <translation>Boogie-Soft-Ice</translation>
+    </message>
+    <message>
+        <source>Hintergrundfarbe</source>
+        <translation>Backcolor</translation>
+    </message>
+    <message>
+        <source>Zufall</source>
+        <translation>Randomized</translation>
+    </message>
+    <message>
+        <source>Vordergrundfarbe</source>
+        <translation>Forecolor</translation>
+    </message>
+    <message>
+        <source>Rahmenfarbe</source>
+        <translation>Bordercolor</translation>
+    </message>
+    <message>
+        <source>Schwarz</source>
+        <translation>Black</translation>
+    </message>
+    <message>
+        <source>Weiss</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>Grau</source>
+        <translation>Grey</translation>
+    </message>
+    <message>
+        <source>Rot</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Grün</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>Blau</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>Gelb</source>
+        <translation>Yellow</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Violett</source>
+        <translation>Purpur</translation>
+    </message>
+    <message>
+        <source>Haupt-Knotenfarben</source>
+        <translation>Main node colours</translation>
+    </message>
+    <message>
+        <source>H-Splits</source>
+        <translation>H-Splits</translation>
+    </message>
+    <message>
+        <source>V-Splits</source>
+        <translation>V-Splits</translation>
+    </message>
+    <message>
+        <source>Randabstand</source>
+        <translation>Margin</translation>
+    </message>
+    <message>
+        <source>Horizontal symmetrisch</source>
+        <translation>Horizontally symmetric</translation>
+    </message>
+    <message>
+        <source>Vertikal symmetrisch</source>
+        <translation>Vertically symmetric</translation>
+    </message>
+    <message>
+        <source>Unterteilung verwenden</source>
+        <translation>Use subdivision</translation>
+    </message>
+    <message>
+        <source>Unterteilung H x</source>
+        <translation>Subdivision H x</translation>
+    </message>
+    <message>
+        <source>Unterteilung V x</source>
+        <translation>Subdivision V x</translation>
+    </message>
+    <message>
+        <source>Unterteilung harmonisch</source>
+        <translation>Harmonic subdivision</translation>
+    </message>
+    <message>
+        <source>Alle Rahmen zeichnen</source>
+        <translation>Draw all frames</translation>
+    </message>
+    <message>
+        <source>Kaleidoskop</source>
+        <translation>Kaleidoscope</translation>
+    </message>
+    <message>
+        <source> 4 Farben </source>
+        <translation> 4 colours </translation>
+    </message>
+    <message>
+        <source>Boogies?</source>
+        <translation>Boogies?</translation>
+    </message>
+    <message>
+        <source>Farbtiefe reduzieren</source>
+        <translation>Reduce colour depth</translation>
+    </message>
+    <message>
+        <source>Chaos</source>
+        <translation>Chaos</translation>
+    </message>
+    <message>
+        <source>Farbe 1</source>
+        <translation>Colour 1</translation>
+    </message>
+    <message>
+        <source>Farbe 2</source>
+        <translation>Colour 2</translation>
+    </message>
+    <message>
+        <source>Farbe 3</source>
+        <translation>Colour 3</translation>
+    </message>
+    <message>
+        <source>Farbe 4</source>
+        <translation>Colour 4</translation>
+    </message>
+    <message>
+        <source>Grund im Superformat</source>
+        <translation>Superformat ground</translation>
+    </message>
+    <message>
+        <source>Repaint letztes Set</source>
+        <translation>Repaint last set</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -785,6 +964,13 @@
     </message>
 </context>
 <context>
+    <name>Mondrian</name>
+    <message>
+        <source>0 - sizes not allowed</source>
+        <translation>0 - sizes not allowed</translation>
+    </message>
+</context>
+<context>
     <name>PaintDriver</name>
     <message>
         <source>Die Ausgabe wurde angehalten! Bitte bestätigen.</source>
@@ -800,7 +986,7 @@
     </message>
     <message>
         <source>„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.</source>
-        <translation>&quot;%1&quot; paints nothing yet: its painter is not built in.</translation>
+        <translation>"%1" paints nothing yet: its painter is not built in.</translation>
     </message>
     <message>
         <source>Startwert %1</source>
