@@ -6,6 +6,7 @@
 // counts and sizes, at random instead of reading the colour fields and option panels.
 
 #include "core/colour.h"
+#include "paint/plasmapalette.h"
 
 #include <QString>
 #include <array>
@@ -44,6 +45,8 @@ struct ColourState {
     bool PalFromFile = false;
     // The palette was loaded or locked and is not to be rebuilt for the plasma generator.
     bool PalFixed = false;
+    // The plasma's palette on show (see plasmapalette.h).
+    Palette512 PlasmaPalette{};
     // Where Pal256 came from, so that a paint can be told again: a palette file's path, or the
     // number of a system palette (0 for none); both empty while it is the two-colour ramp.
     QString paletteFile;

@@ -2,6 +2,7 @@
 
 #include "core/numeric.h"
 #include "core/picturebox.h"
+#include "paint/plasmapalette.h"
 #include "paint/session.h"
 
 #include <cstdlib>
@@ -9,8 +10,6 @@
 namespace tf {
 
 namespace {
-
-PlasmaPaletteBuilder plasmaBuilder = nullptr;
 
 // The whole-number slope of a channel: |first - second| / 256 rounded, so 0 or 1, turned
 // towards the second value.
@@ -49,7 +48,9 @@ void ColorDialog_Load(Session &s, PictureBox *picPal256)
     c.RandomValues = true;
     c.ColorBorder = c.ColorFore;
     Create2ColorPAL(s, picPal256);
-    rebuildPlasmaPalette(s);
+    // The plasma's palette from the two colours, without a random draw at start.
+    c.PlasmaPalette = Plasma_Palette(c.ColorFore, c.ColorBack, plasmaPaletteMode(s), c.ColorBack,
+                                     c.ColorFore);
 }
 
 void drawPal256(PictureBox &picPal256, const std::vector<ColorLong> &pal256, double span, int height)
@@ -78,19 +79,6 @@ QImage pal256Strip(const std::vector<ColorLong> &pal256, QSize size)
     strip.setAutoRedraw(true);
     drawPal256(strip, pal256, strip.Width(), strip.Height());
     return strip.Image();
-}
-
-PlasmaPaletteBuilder installPlasmaPaletteBuilder(PlasmaPaletteBuilder builder)
-{
-    const PlasmaPaletteBuilder before = plasmaBuilder;
-    plasmaBuilder = builder;
-    return before;
-}
-
-void rebuildPlasmaPalette(Session &s)
-{
-    if (plasmaBuilder)
-        plasmaBuilder(s);
 }
 
 } // namespace tf

@@ -40,11 +40,4 @@ void drawPal512(PictureBox &picPal256, const std::vector<ColorLong> &pal512);
 // lines running the picture's full height.
 QImage pal256Strip(const std::vector<ColorLong> &pal256, QSize size);
 
-// The plasma generator's palette, rebuilt from the colour state when the two colours change.
-// The generators install it at start (the paint layer cannot name them); until then nothing
-// is rebuilt.
-using PlasmaPaletteBuilder = void (*)(Session &);
-PlasmaPaletteBuilder installPlasmaPaletteBuilder(PlasmaPaletteBuilder builder);
-void rebuildPlasmaPalette(Session &s);
-
 } // namespace tf

@@ -12,9 +12,6 @@ namespace {
 
 ColorLong pixel(const PictureBox &p, int x, int y) { return p.Point(x, y); }
 
-int plasmaBuilds = 0;
-void countPlasmaBuild(Session &) { ++plasmaBuilds; }
-
 } // namespace
 
 TEST(Create2ColorPAL, CoarseSlopeOfZeroOrOnePerChannel)
@@ -65,16 +62,19 @@ TEST(Create2ColorPAL, StripAndPlasmaPalette)
     EXPECT_EQ(fromQRgb(image.pixel(200, 19)), RGB(200, 200, 200));
 
     // The plasma palette follows only for "Plasma" with chosen colours.
-    const PlasmaPaletteBuilder before = installPlasmaPaletteBuilder(countPlasmaBuild);
-    plasmaBuilds = 0;
+    const Palette512 none{};
+    s.colours().PlasmaPalette = none;
     s.paint().GrafKey = QStringLiteral("Plasma");
     Create2ColorPAL(s);
-    EXPECT_EQ(plasmaBuilds, 0);
+    EXPECT_EQ(s.colours().PlasmaPalette, none);
     s.colours().RandomColors = false;
+    s.colours().ColorFore = RGB(255, 0, 0);
+    s.colours().ColorBack = RGB(0, 0, 255);
     Create2ColorPAL(s);
-    EXPECT_EQ(plasmaBuilds, 1);
+    EXPECT_EQ(s.colours().PlasmaPalette[0], 0xFF0000u);
+    EXPECT_EQ(s.colours().PlasmaPalette[511], 0x0000FFu);
+    s.colours().PlasmaPalette = none;
     s.paint().GrafKey = QStringLiteral("Backgroundcolor");
     Create2ColorPAL(s);
-    EXPECT_EQ(plasmaBuilds, 1);
-    installPlasmaPaletteBuilder(before);
+    EXPECT_EQ(s.colours().PlasmaPalette, none);
 }
