@@ -2,6 +2,7 @@
 #include "generators/mondrianboogie.h"
 
 #include "core/fault.h"
+#include "generators/boogiebars.h"
 #include "generators/framecanvas.h"
 #include "generators/mondrianlayout.h"
 #include "paint/colourstate.h"
@@ -69,6 +70,7 @@ struct Painter {
     bool kaleido = false;
     int nodeColour = 0;
     std::vector<ColorLong> nodeTable; // the kept entries of "MondrianColorsNoWhite"
+    std::unique_ptr<BoogieBars> bars;  // the plasma bars of the types above 2
 
     ColorLong tableColour()
     {
@@ -160,7 +162,7 @@ struct Painter {
     }
 
     // Step 10: a square of the line at grid position (x, y) pixels.
-    void square(double x, double y, double size, bool vertical, int /*along*/, int /*count*/)
+    void square(double x, double y, double size, bool vertical, int count)
     {
         ColorLong c = NoColour;
         if (st.FourColours)
@@ -172,6 +174,11 @@ struct Painter {
         const int x1 = rounded(x) + st.OffX, y1 = rounded(y) + st.OffY;
         if (x1 > picW - st.OffX || y1 > picH - st.OffY)
             return;
+        if (bars && bars->ready()) {
+            bars->Draw_BoogieStrip(canvas, x1, y1, vertical ? QStringLiteral("3")
+                                                            : QStringLiteral("2"), count);
+            return;
+        }
         const int side = Max(1, rounded(size));
         canvas.fillBox(x1, y1, x1 + side - 1, y1 + side - 1, c);
     }
@@ -189,7 +196,7 @@ struct Painter {
                 y -= u / 2;
                 size = (rounded(rnd(s) * 2) + 1) * u / 2;
             }
-            square(x, y, size, vertical, i, count);
+            square(x, y, size, vertical, count);
         }
     }
 
@@ -236,7 +243,7 @@ void drawBoogie(PaintContext &ctx, FrameCanvas &canvas, MondrianCall call, Boogi
     Controls &k = s.controls();
     ColourState &colours = s.colours();
     s.Randomize();
-    Painter p{ctx, s, canvas, call, st, 0, 0, 1, false, false, 0, {}};
+    Painter p{ctx, s, canvas, call, st, 0, 0, 1, false, false, 0, {}, {}};
     p.picW = canvas.width();
     p.picH = canvas.height();
 
@@ -383,6 +390,28 @@ void drawBoogie(PaintContext &ctx, FrameCanvas &canvas, MondrianCall call, Boogi
             p.paintNode(st.Nodes[i]);
     ctx.DoEvents();
 
+    if (call.Type > 2) {
+        ColorLong first = RGB(0, 0, 255), second = RGB(32, 32, 96);
+        if (st.FourColours) {
+            first = liftToFull(st.Colours4[0]);
+            second = liftToFull(st.Colours4[2]);
+        } else if (duoActive) {
+            first = colours.ColorFore;
+            second = colours.ColorBack;
+        } else {
+            const int toss = rounded(rnd(s) * 2);
+            if (toss == 1) {
+                first = RGB(32, 32, 32);
+                second = RGB(255, 255, 255);
+            } else if (toss == 2) {
+                first = RGB(32, 255, 32);
+                second = RGB(32, 32, 64);
+            }
+        }
+        p.bars = std::make_unique<BoogieBars>(s, call.Type, rounded(u),
+                                              Max(st.GridW, st.GridH), first, second);
+    }
+
     // The lines: every column and row line, the outer ones with all frames.
     const int first = call.AllFrames != 0 ? 0 : 1;
     for (int c = first; c <= t.MondrianHSplits - 1; ++c)
@@ -401,10 +430,10 @@ void drawBoogie(PaintContext &ctx, FrameCanvas &canvas, MondrianCall call, Boogi
         const int m = Max(1, rounded((f.right - f.left) / u));
         if (f.left > 0 && f.top >= 0)
             for (int i = 1; i <= n; ++i)
-                p.square(f.left, f.top + (i - 1) * u, u, true, i, n);
+                p.square(f.left, f.top + (i - 1) * u, u, true, n);
         if (f.top > 0 && f.left >= 0)
             for (int i = 1; i <= m; ++i)
-                p.square(f.left + (i - 1) * u, f.top, u, false, i, m);
+                p.square(f.left + (i - 1) * u, f.top, u, false, m);
     }
     if (p.kaleido) {
         DeviceContext &dc = canvas.dc();

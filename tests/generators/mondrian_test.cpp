@@ -228,3 +228,58 @@ TEST_F(MondrianTest, DrawsTheSameOnAnOffScreenSurface)
 }
 
 } // namespace
+
+namespace {
+
+struct BoogieTest : MondrianTest {
+    void SetUp() override
+    {
+        MondrianTest::SetUp();
+        size(400, 400);
+        set("cmbMondrian_Format", "2", 1);
+        set("cmbNumbArr", "20");
+        set("txtMondrian", "3", 0);
+        set("txtMondrian", "3", 1);
+    }
+};
+
+TEST_F(BoogieTest, AUnitOfZeroFaultsThroughTheHandler)
+{
+    size(20, 20);
+    set("cmbNumbArr", "500");
+    const QImage before = image();
+    EXPECT_EQ(paint("ART-Mondrian"), PaintOutcome::Painted);
+    ASSERT_EQ(prompter.asked().size(), 1u);
+    EXPECT_TRUE(prompter.lastText().startsWith(QStringLiteral("Draw_MondrianBoogie  [")))
+        << prompter.lastText().toStdString();
+}
+
+TEST_F(BoogieTest, TheFourColoursPaintTheLinesOfSquares)
+{
+    set("XMondrian", "1", 6);
+    set("pic4C", QString::number(RGB(10, 20, 30)), 1);
+    set("pic4C", QString::number(RGB(40, 50, 60)), 3);
+    ASSERT_EQ(paint("ART-Mondrian", 4), PaintOutcome::Painted);
+    EXPECT_TRUE(prompter.asked().empty());
+    // A unit of 400 / (20 + 2) = 18 pixels: a line holds several squares of 18 x 18.
+    EXPECT_GT(count(RGB(10, 20, 30)), 4 * 18 * 18);
+    EXPECT_GT(count(RGB(40, 50, 60)), 4 * 18 * 18);
+    EXPECT_EQ(count(Ground), 0); // the ground covers the picture first
+}
+
+TEST_F(BoogieTest, TheBarTypesCutTheirSquaresFromPlasmaBars)
+{
+    for (const char *type : {"3", "4", "5"}) {
+        set("cmbMondrian_Format", type, 1);
+        ASSERT_EQ(paint("ART-Mondrian", 6), PaintOutcome::Painted) << type;
+        std::set<ColorLong> colours;
+        for (int y = 0; y < 400; y += 3)
+            for (int x = 0; x < 400; x += 3)
+                colours.insert(at(x, y));
+        // Plasma clouds give many shades where plain squares give a few table colours.
+        EXPECT_GT(colours.size(), 40u) << type;
+    }
+    EXPECT_TRUE(prompter.asked().empty());
+}
+
+} // namespace
