@@ -70,3 +70,22 @@ TEST_F(MondrianWindowTest, RepaintLetztesSetPaintsTheSameFramesAgain)
 }
 
 } // namespace
+
+namespace {
+
+TEST_F(MondrianWindowTest, TheTypeListOfThePanelPaintsABoogie)
+{
+    choose("ART-Mondrian");
+    Session &s = window->session();
+    ASSERT_TRUE(s.controls().set(ControlKey{QStringLiteral("cmbMondrian_Format"), 1},
+                                 QStringLiteral("2")));
+    const QImage before = s.workspace().Bild.Image();
+    window->findChild<QPushButton *>(QStringLiteral("BtnPaint"))->click();
+    QApplication::processEvents();
+    EXPECT_NE(s.workspace().Bild.Image(), before);
+    EXPECT_EQ(s.mondrian().MondrianLastType, 2);
+    EXPECT_TRUE(prompter.asked().empty());
+    screenshot(*window, "boogie-window");
+}
+
+} // namespace
