@@ -2,8 +2,12 @@
 // and 70 x 70 cells with subdivisions), and a whole Mondrian paint at 4096 x 4096.
 #include "generators/mondrianlayout.h"
 #include "generators/painters.h"
+#include "paint/controls.h"
+#include "paint/grafmenu.h"
 #include "paint/mondriantables.h"
+#include "paint/paintdriver.h"
 #include "paint/session.h"
+#include "paint/transparency.h"
 
 #include <QGuiApplication>
 #include <benchmark/benchmark.h>
@@ -36,5 +40,29 @@ void layout(benchmark::State &state)
     state.counters["frames"] = double(frames);
 }
 BENCHMARK(layout)->Args({100, 0})->Args({70, 1})->Unit(benchmark::kMillisecond);
+
+// The painter alone on a picture of 4096 x 4096 (the undo image is the workspace's cost):
+// Mondrian with its default options and random values, and the Boogie-Woogie.
+void paint(benchmark::State &state)
+{
+    registerAllPanels();
+    Session s;
+    s.setPainters(painterTable());
+    s.workspace().New_BildSize(4096, 4096);
+    Set_BILD(s);
+    s.controls().set(ControlKey{QStringLiteral("cmbMondrian_Format"), 1},
+                     QString::number(state.range(0)));
+    const PainterEntry *entry = findPainter(s.painters(), QStringLiteral("ART-Mondrian"));
+    uint32_t seed = 1;
+    for (auto _ : state) {
+        s.seed(seed++);
+        TransparencyState &t = s.transparency();
+        PaintContext ctx{s, *t.XBild, *t.XUndo, *t.XWork,
+                         readOptionVariables(s.controls(), 4096, 4096)};
+        entry->paint(ctx);
+    }
+    state.SetLabel(state.range(0) == 0 ? "Mondrian" : "Boogie-Woogie");
+}
+BENCHMARK(paint)->Arg(0)->Arg(2)->Unit(benchmark::kMillisecond);
 
 } // namespace

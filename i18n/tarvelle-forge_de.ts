@@ -940,6 +940,178 @@
         <source>Weichz. + Überlagern</source>
         <translation>Weichz. + Überlagern</translation>
     </message>
+    <message>
+        <source>Mondrian</source>
+        <translation>Mondrian</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Quadratisch</source>
+        <translation>Quadratisch</translation>
+    </message>
+    <message>
+        <source>Typ</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Be-Pop</source>
+        <translation>Be-Pop</translation>
+    </message>
+    <message>
+        <source>Boogie-Woogie</source>
+        <translation>Boogie-Woogie</translation>
+    </message>
+    <message>
+        <source>Boogie-Rocks</source>
+        <translation>Boogie-Rocks</translation>
+    </message>
+    <message>
+        <source>Boogie-Blocks</source>
+        <translation>Boogie-Blocks</translation>
+    </message>
+    <message>
+        <source>Boogie-Soft-Ice</source>
+        <translation>Boogie-Soft-Ice</translation>
+    </message>
+    <message>
+        <source>Hintergrundfarbe</source>
+        <translation>Hintergrundfarbe</translation>
+    </message>
+    <message>
+        <source>Zufall</source>
+        <translation>Zufall</translation>
+    </message>
+    <message>
+        <source>Vordergrundfarbe</source>
+        <translation>Vordergrundfarbe</translation>
+    </message>
+    <message>
+        <source>Rahmenfarbe</source>
+        <translation>Rahmenfarbe</translation>
+    </message>
+    <message>
+        <source>Weiss</source>
+        <translation>Weiss</translation>
+    </message>
+    <message>
+        <source>Rot</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>Grün</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>Blau</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>Gelb</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Violett</source>
+        <translation>Violett</translation>
+    </message>
+    <message>
+        <source>Haupt-Knotenfarben</source>
+        <translation>Haupt-Knotenfarben</translation>
+    </message>
+    <message>
+        <source>H-Splits</source>
+        <translation>H-Splits</translation>
+    </message>
+    <message>
+        <source>V-Splits</source>
+        <translation>V-Splits</translation>
+    </message>
+    <message>
+        <source>Randabstand</source>
+        <translation>Randabstand</translation>
+    </message>
+    <message>
+        <source>Horizontal symmetrisch</source>
+        <translation>Horizontal symmetrisch</translation>
+    </message>
+    <message>
+        <source>Vertikal symmetrisch</source>
+        <translation>Vertikal symmetrisch</translation>
+    </message>
+    <message>
+        <source>Unterteilung verwenden</source>
+        <translation>Unterteilung verwenden</translation>
+    </message>
+    <message>
+        <source>Unterteilung H x</source>
+        <translation>Unterteilung H x</translation>
+    </message>
+    <message>
+        <source>Unterteilung V x</source>
+        <translation>Unterteilung V x</translation>
+    </message>
+    <message>
+        <source>Unterteilung harmonisch</source>
+        <translation>Unterteilung harmonisch</translation>
+    </message>
+    <message>
+        <source>Alle Rahmen zeichnen</source>
+        <translation>Alle Rahmen zeichnen</translation>
+    </message>
+    <message>
+        <source>Kaleidoskop</source>
+        <translation>Kaleidoskop</translation>
+    </message>
+    <message>
+        <source> 4 Farben </source>
+        <translation> 4 Farben </translation>
+    </message>
+    <message>
+        <source>Boogies?</source>
+        <translation>Boogies?</translation>
+    </message>
+    <message>
+        <source>Farbtiefe reduzieren</source>
+        <translation>Farbtiefe reduzieren</translation>
+    </message>
+    <message>
+        <source>Chaos</source>
+        <translation>Chaos</translation>
+    </message>
+    <message>
+        <source>Farbe 1</source>
+        <translation>Farbe 1</translation>
+    </message>
+    <message>
+        <source>Farbe 2</source>
+        <translation>Farbe 2</translation>
+    </message>
+    <message>
+        <source>Farbe 3</source>
+        <translation>Farbe 3</translation>
+    </message>
+    <message>
+        <source>Farbe 4</source>
+        <translation>Farbe 4</translation>
+    </message>
+    <message>
+        <source>Grund im Superformat</source>
+        <translation>Grund im Superformat</translation>
+    </message>
+    <message>
+        <source>Repaint letztes Set</source>
+        <translation>Repaint letztes Set</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -1057,6 +1229,13 @@
     <message>
         <source>Fehlerhaftes Bild</source>
         <translation>Fehlerhaftes Bild</translation>
+    </message>
+</context>
+<context>
+    <name>Mondrian</name>
+    <message>
+        <source>0 - sizes not allowed</source>
+        <translation>0 - sizes not allowed</translation>
     </message>
 </context>
 <context>

@@ -941,6 +941,178 @@
         <source>Weichz. + Überlagern</source>
         <translation>Soften + overlay</translation>
     </message>
+    <message>
+        <source>Mondrian</source>
+        <translation>Mondrian</translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Quadratisch</source>
+        <translation>Square</translation>
+    </message>
+    <message>
+        <source>Typ</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Be-Pop</source>
+        <translation>Be-Pop</translation>
+    </message>
+    <message>
+        <source>Boogie-Woogie</source>
+        <translation>Boogie-Woogie</translation>
+    </message>
+    <message>
+        <source>Boogie-Rocks</source>
+        <translation>Boogie-Rocks</translation>
+    </message>
+    <message>
+        <source>Boogie-Blocks</source>
+        <translation>Boogie-Blocks</translation>
+    </message>
+    <message>
+        <source>Boogie-Soft-Ice</source>
+        <translation>Boogie-Soft-Ice</translation>
+    </message>
+    <message>
+        <source>Hintergrundfarbe</source>
+        <translation>Backcolor</translation>
+    </message>
+    <message>
+        <source>Zufall</source>
+        <translation>Randomized</translation>
+    </message>
+    <message>
+        <source>Vordergrundfarbe</source>
+        <translation>Forecolor</translation>
+    </message>
+    <message>
+        <source>Rahmenfarbe</source>
+        <translation>Bordercolor</translation>
+    </message>
+    <message>
+        <source>Weiss</source>
+        <translation>White</translation>
+    </message>
+    <message>
+        <source>Rot</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>Grün</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>Blau</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>Gelb</source>
+        <translation>Yellow</translation>
+    </message>
+    <message>
+        <source>Orange</source>
+        <translation>Orange</translation>
+    </message>
+    <message>
+        <source>Violett</source>
+        <translation>Purpur</translation>
+    </message>
+    <message>
+        <source>Haupt-Knotenfarben</source>
+        <translation>Main node colours</translation>
+    </message>
+    <message>
+        <source>H-Splits</source>
+        <translation>H-Splits</translation>
+    </message>
+    <message>
+        <source>V-Splits</source>
+        <translation>V-Splits</translation>
+    </message>
+    <message>
+        <source>Randabstand</source>
+        <translation>Margin</translation>
+    </message>
+    <message>
+        <source>Horizontal symmetrisch</source>
+        <translation>Horizontally symmetric</translation>
+    </message>
+    <message>
+        <source>Vertikal symmetrisch</source>
+        <translation>Vertically symmetric</translation>
+    </message>
+    <message>
+        <source>Unterteilung verwenden</source>
+        <translation>Use subdivision</translation>
+    </message>
+    <message>
+        <source>Unterteilung H x</source>
+        <translation>Subdivision H x</translation>
+    </message>
+    <message>
+        <source>Unterteilung V x</source>
+        <translation>Subdivision V x</translation>
+    </message>
+    <message>
+        <source>Unterteilung harmonisch</source>
+        <translation>Harmonic subdivision</translation>
+    </message>
+    <message>
+        <source>Alle Rahmen zeichnen</source>
+        <translation>Draw all frames</translation>
+    </message>
+    <message>
+        <source>Kaleidoskop</source>
+        <translation>Kaleidoscope</translation>
+    </message>
+    <message>
+        <source> 4 Farben </source>
+        <translation> 4 colours </translation>
+    </message>
+    <message>
+        <source>Boogies?</source>
+        <translation>Boogies?</translation>
+    </message>
+    <message>
+        <source>Farbtiefe reduzieren</source>
+        <translation>Reduce colour depth</translation>
+    </message>
+    <message>
+        <source>Chaos</source>
+        <translation>Chaos</translation>
+    </message>
+    <message>
+        <source>Farbe 1</source>
+        <translation>Colour 1</translation>
+    </message>
+    <message>
+        <source>Farbe 2</source>
+        <translation>Colour 2</translation>
+    </message>
+    <message>
+        <source>Farbe 3</source>
+        <translation>Colour 3</translation>
+    </message>
+    <message>
+        <source>Farbe 4</source>
+        <translation>Colour 4</translation>
+    </message>
+    <message>
+        <source>Grund im Superformat</source>
+        <translation>Superformat ground</translation>
+    </message>
+    <message>
+        <source>Repaint letztes Set</source>
+        <translation>Repaint last set</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -1058,6 +1230,13 @@
     <message>
         <source>Fehlerhaftes Bild</source>
         <translation>Corrupt image</translation>
+    </message>
+</context>
+<context>
+    <name>Mondrian</name>
+    <message>
+        <source>0 - sizes not allowed</source>
+        <translation>0 - sizes not allowed</translation>
     </message>
 </context>
 <context>

@@ -8,6 +8,7 @@
 #include "generators/curves.h"
 #include "generators/matrixrain.h"
 #include "generators/mountains.h"
+#include "generators/mondrian.h"
 #include "generators/papers.h"
 #include "generators/polygraphics.h"
 #include "generators/polypanels.h"
@@ -45,7 +46,7 @@ std::span<const PainterEntry> painterTable()
         {"Bitblt-Schmieren", paintBitbltSchmieren, NoUndo},
         // Group 2
         {"Filled-Triangles", paintFilledTriangles, Prepare},
-        {"ART-Mondrian", nullptr, Prepare},
+        {"ART-Mondrian", paintMondrian, Prepare},
         {"ART-MondrianSuper", nullptr, Prepare},
         {"PIC-Mosaik", nullptr, Prepare},
         {"PIC-MosaikSuper", nullptr, Prepare},
@@ -167,6 +168,7 @@ void registerAllPanels()
         registerFramePanels();
         registerCentrePanels();
         registerTextPanels();
+        registerMondrianPanels();
         return true;
     }();
     (void)once;

@@ -66,11 +66,24 @@ struct ControlSpec {
     bool hasRange() const { return max >= min; }
 };
 
-// One option panel: its name, its caption, its controls.
+class Session;
+enum class PaintOutcome;
+
+// A button of an option panel that runs a command of the engine ("Repaint letztes Set"): its
+// name, its caption (a German source text of the "Controls" context) and the routine. The
+// window runs it only while nothing runs, as every handler.
+struct PanelAction {
+    const char *name;    // "BtnMondrian_Repaint"
+    const char *caption;
+    PaintOutcome (*run)(Session &);
+};
+
+// One option panel: its name, its caption, its controls and its buttons.
 struct ControlPanel {
     QString name;            // "feat_01Mondrian", "frmGrafDialog"
     const char *caption = ""; // German source text of the "Controls" context
     std::vector<ControlSpec> controls;
+    std::vector<PanelAction> actions = {};
 };
 
 // A control's definition as the panel tables write it: name and index (-1 for none), kind,

@@ -64,6 +64,11 @@ struct MondrianTables {
     int32_t MondrianMargin = 0; // Randabstand
     int16_t MondrianFrames = 0; // H*V plus H-1 per subdivided row and V-1 per subdivided column
     int32_t MondrianFrames32 = 0;
+    // The grid unit the tables were built with (1 but for the Boogies), and the Boogie grid's
+    // offsets: a repaint of a Boogie keeps its frames only on the same grid.
+    Single MondrianUnit = 1.0f;
+    int32_t MondrianGridW = 0;
+    int32_t MondrianGridH = 0;
 
     // "Repaint letztes Set" asks the next paint of the family to keep the layout.
     bool RepaintAsked = false;

@@ -85,6 +85,25 @@ PaintRecord recordOf(const Session &s, uint32_t seed)
     return r;
 }
 
+// Create_Polygraphics, then the paint becomes the persistent picture.
+PaintOutcome paintAndKeep(Session &s)
+{
+    const PaintOutcome outcome = Create_Polygraphics(s);
+    if (outcome != PaintOutcome::Painted) return outcome;
+
+    Workspace &ws = s.workspace();
+    // The paint becomes the persistent picture.
+    ws.Bild.setPicture(ws.Bild.Image());
+    // The work picture of a transparent paint likewise; one that no paint has used stays
+    // blank and takes no memory.
+    if (ws.BildWork.holdsPixels()) ws.BildWork.setPicture(ws.BildWork.Image());
+    CommandState commands = ws.commands;
+    commands.save = true;
+    if (!s.paint().AutoPaintRun) commands.print = true;
+    ws.setCommands(commands);
+    return PaintOutcome::Painted;
+}
+
 PaintOutcome paintButton(Session &s)
 {
     PaintState &p = s.paint();
@@ -141,19 +160,7 @@ PaintOutcome paintButton(Session &s)
         p.GrafTypeMem[size_t(p.GrafGroup)] = listIndex;
     Hole_GMENU(s, listIndex + 1);
 
-    const PaintOutcome outcome = Create_Polygraphics(s);
-    if (outcome != PaintOutcome::Painted) return outcome;
-
-    // The paint becomes the persistent picture.
-    ws.Bild.setPicture(ws.Bild.Image());
-    // The work picture of a transparent paint likewise; one that no paint has used stays
-    // blank and takes no memory.
-    if (ws.BildWork.holdsPixels()) ws.BildWork.setPicture(ws.BildWork.Image());
-    CommandState commands = ws.commands;
-    commands.save = true;
-    if (!p.AutoPaintRun) commands.print = true;
-    ws.setCommands(commands);
-    return PaintOutcome::Painted;
+    return paintAndKeep(s);
 }
 
 } // namespace
@@ -187,6 +194,23 @@ PaintOutcome BtnPaintRoll_Click(Session &s, int index)
     }
     ListBoxType_Click(s, i);
     return BtnPaint_Click(s);
+}
+
+PaintOutcome paintAgain(Session &s)
+{
+    PaintOutcome outcome = PaintOutcome::Failed;
+    guarded(QStringLiteral("DoPaintButton"), [&] {
+        if (s.runState().busy()) {
+            outcome = PaintOutcome::Busy;
+            return;
+        }
+        Workspace &ws = s.workspace();
+        if (!ws.lastaction.contains(PaintWord)) ws.lastaction += PaintWord;
+        Set_BILD(s);
+        s.view().reset_imgButtons();
+        outcome = paintAndKeep(s);
+    });
+    return outcome;
 }
 
 void patch_lastactionpaint(Session &s)

@@ -34,6 +34,12 @@ PaintOutcome BtnPaint_Click(Session &s);
 // the list and past its separators, then a paint. While a paint runs, a Stop without asking.
 PaintOutcome BtnPaintRoll_Click(Session &s, int index);
 
+// The repaint buttons of the option panels ("Repaint letztes Set"): paints GrafKey again as
+// Paint does (target, undo image, seed, record, the persistent picture), but without reading
+// the type list and without erasing the layout of the last Mondrian set, which the painter
+// may keep. Faults are reported under "DoPaintButton".
+PaintOutcome paintAgain(Session &s);
+
 // A paint after another action: without a visible selection lastaction becomes ""; the
 // picture is marked changed; a moved selection turns into a paint on that selection.
 void patch_lastactionpaint(Session &s);

@@ -51,6 +51,7 @@ std::span<const TypePanel> typePanels()
         {"TEXT-StarRotated", "feat_11TextRotation", TextDialogPanelName},
         {"TEXT-Circular", "feat_12TextCircular", TextDialogPanelName},
         {"TEXT-Spiral", "feat_12TextCircular", TextDialogPanelName},
+        {"ART-Mondrian", "feat_01Mondrian"},
     };
     return table;
 }

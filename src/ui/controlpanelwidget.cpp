@@ -136,6 +136,14 @@ void ControlPanelWidget::build()
         }
         m_bindings.emplace(def.key, std::move(b));
     }
+    for (const PanelAction &action : m_panel.actions) {
+        auto *button = new QPushButton(this);
+        button->setObjectName(QString::fromLatin1(action.name));
+        const PanelAction *a = &action;
+        connect(button, &QPushButton::clicked, this, [this, a] { emit actionRequested(a); });
+        form->addRow(button);
+        m_actions.emplace_back(button, a);
+    }
     retranslate();
 }
 
@@ -189,6 +197,8 @@ void ControlPanelWidget::changeEvent(QEvent *event)
 
 void ControlPanelWidget::retranslate()
 {
+    for (auto &[button, action] : m_actions)
+        button->setText(QCoreApplication::translate("Controls", action->caption));
     for (auto &[key, b] : m_bindings) {
         const ControlSpec &def = *b.def;
         if (b.label)

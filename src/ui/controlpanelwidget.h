@@ -17,6 +17,7 @@
 
 class QFormLayout;
 class QLabel;
+class QPushButton;
 
 namespace tf::ui {
 
@@ -38,6 +39,10 @@ public:
     // Changes are refused (the widget shows the value that stands) while `run` is busy.
     void setRunState(const RunState *run) { m_run = run; }
 
+signals:
+    // A button of the panel's actions was pressed.
+    void actionRequested(const tf::PanelAction *action);
+
 protected:
     void changeEvent(QEvent *event) override;
 
@@ -55,6 +60,7 @@ private:
     const ControlPanel &m_panel;
     Controls &m_controls;
     std::map<ControlKey, Binding> m_bindings;
+    std::vector<std::pair<QPushButton *, const PanelAction *>> m_actions;
     bool m_showing = false;
     const RunState *m_run = nullptr;
 };

@@ -44,6 +44,8 @@ FeatDialogDock::FeatDialogDock(Session &session, QWidget *parent)
         column->setContentsMargins(0, 0, 0, 0);
         auto *widget = new ControlPanelWidget(*panel, session.controls(), page);
         widget->setRunState(&session.runState());
+        connect(widget, &ControlPanelWidget::actionRequested, this,
+                &FeatDialogDock::actionRequested);
         column->addWidget(widget);
         if (panel->name == QLatin1String(TextDialogTypePanel))
             column->addWidget(textPlacingButtons(page));

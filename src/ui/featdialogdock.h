@@ -13,6 +13,7 @@ class QStackedWidget;
 namespace tf {
 class Session;
 struct ControlKey;
+struct PanelAction;
 }
 
 namespace tf::ui {
@@ -39,6 +40,8 @@ signals:
     // A button of the text panel armed the placing mode: the next click on the picture
     // places the text.
     void textPlacingArmed();
+    // A button of a panel's actions was pressed.
+    void actionRequested(const tf::PanelAction *action);
 
 protected:
     void changeEvent(QEvent *event) override;

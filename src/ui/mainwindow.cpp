@@ -80,6 +80,8 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
                 m_session, [this](int group) { chooseGroup(group); },
                 [this] { m_grafDialog->syncFromEngine(); }));
     connect(m_grafDialog, &GrafDialogDock::paintRunningChanged, this, &MainWindow::paintRunning);
+    connect(m_featDialog, &FeatDialogDock::actionRequested, this,
+            whenIdle(m_session, [this](const PanelAction *action) { runPanelAction(*action); }));
     m_session.setView(this);
 
     createActions();

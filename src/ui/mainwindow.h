@@ -139,6 +139,8 @@ private:
     bool pictureClicked(Qt::MouseButton button, QPoint at);
     void paint();
     void roll(int index);
+    // A button of an option panel ("Repaint letztes Set").
+    void runPanelAction(const PanelAction &action);
     void copyPictureToClipboard();
     void copyCommandLine();
     void afterPaint();

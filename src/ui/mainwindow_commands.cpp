@@ -156,6 +156,14 @@ void MainWindow::roll(int index)
     afterPaint();
 }
 
+void MainWindow::runPanelAction(const PanelAction &action)
+{
+    // A repaint keeps frames of a former set: its picture is not one command line's.
+    action.run(m_session);
+    m_paintHistory.clear();
+    afterPaint();
+}
+
 void MainWindow::afterPaint()
 {
     updateCommands();

@@ -1,0 +1,69 @@
+#pragma once
+// "ART-Mondrian": flat colour fields between straight lines, painted from the frames of the
+// subdivision engine (mondrianlayout.h), and "Repaint letztes Set", which paints the same
+// frames again with new colours.
+//
+// Draw_Mondrian paints onto any FrameCanvas: the work picture (the painter of "ART-Mondrian"
+// brackets it with Bild_CLEAR, Start_Transparent and Ende_Transparent) or an off-screen
+// surface of any size. The Superformat route calls it with a DibCanvas over its surface and
+// `MondrianCall::Super` set: the inner size is then the surface's, Format is 0, the split
+// counts in random mode follow the surface's size, and the lines keep the large format's look.
+//
+// The option panel "feat_01Mondrian" (mondrian_panels.cpp) holds the controls of the family;
+// Draw_Mondrian reads the ones it needs at the moment it paints, as every painter does.
+
+#include "core/numeric.h"
+
+#include <QString>
+#include <cstdint>
+#include <optional>
+
+namespace tf {
+
+class FrameCanvas;
+class Session;
+struct PaintContext;
+enum class PaintOutcome;
+
+constexpr const char *MondrianPanelName = "feat_01Mondrian";
+
+// What the painter and the repaint button hand Draw_Mondrian.
+struct MondrianCall {
+    int32_t Side = 0;      // the larger of the surface's width and height
+    int16_t PenWidth = 1;  // cmbPen, at least 1
+    bool Repaint = false;  // keep the layout of the last set where it still fits
+    int16_t SymH = 0;      // XMondrian(0), (1)
+    int16_t SymV = 0;
+    int16_t AllFrames = 0; // XMondrian(3)
+    int32_t Format = 0;    // cmbMondrian_Format(0): 0 square, 1 vertical, 2 horizontal
+    int32_t Type = 0;      // cmbMondrian_Format(1): 0 Standard, 1 Be-Pop, 2.. the Boogies
+    bool Super = false;    // painting a Superformat surface
+    int32_t SuperW = 0;
+    int32_t SuperH = 0;
+};
+
+// The call of a paint on `canvas` read from the panel and the general options.
+MondrianCall mondrianCallFromPanel(const PaintContext &ctx, const FrameCanvas &canvas,
+                                   bool repaint);
+
+// Paints the layout on `canvas`. Faults go to the handler under "Draw_Mondrian"; what was
+// painted stays. A Stop ends the frames with what is painted.
+void Draw_Mondrian(PaintContext &ctx, FrameCanvas &canvas, MondrianCall call);
+
+// The painter of "ART-Mondrian" (and, by Type, of the Boogies) on the work picture.
+void paintMondrian(PaintContext &ctx);
+
+// The Superformat's size from the two size fields of the paint dialog, each held to
+// 128..14000; a size below 1 is refused with "0 - sizes not allowed" (nullopt).
+struct SuperSize {
+    int32_t w = 0, h = 0;
+};
+std::optional<SuperSize> superSizeFromFields(Session &s);
+
+// "Repaint letztes Set": paints the chosen type of the family again, keeping the layout of
+// the last set when it still fits (the same H-Splits, V-Splits and type), else a new set.
+PaintOutcome BtnMondrian_Repaint(Session &s);
+
+void registerMondrianPanels();
+
+} // namespace tf
