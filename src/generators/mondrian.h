@@ -52,6 +52,9 @@ void Draw_Mondrian(PaintContext &ctx, FrameCanvas &canvas, MondrianCall call);
 
 // The painter of "ART-Mondrian" (and, by Type, of the Boogies) on the work picture.
 void paintMondrian(PaintContext &ctx);
+// The painter of "ART-MondrianSuper": the same into the Superformat surface (the size of the
+// paint dialog's Superformat fields), shown in the Superformat viewer.
+void paintMondrianSuper(PaintContext &ctx);
 
 // The Superformat's size from the two size fields of the paint dialog, each held to
 // 128..14000; a size below 1 is refused with "0 - sizes not allowed" (nullopt).

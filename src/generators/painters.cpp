@@ -47,7 +47,7 @@ std::span<const PainterEntry> painterTable()
         // Group 2
         {"Filled-Triangles", paintFilledTriangles, Prepare},
         {"ART-Mondrian", paintMondrian, Prepare},
-        {"ART-MondrianSuper", nullptr, Prepare},
+        {"ART-MondrianSuper", paintMondrianSuper, NoUndo},
         {"PIC-Mosaik", nullptr, Prepare},
         {"PIC-MosaikSuper", nullptr, Prepare},
         {"PIC-DiaShow", nullptr, NoUndo},

@@ -52,6 +52,7 @@ std::span<const TypePanel> typePanels()
         {"TEXT-Circular", "feat_12TextCircular", TextDialogPanelName},
         {"TEXT-Spiral", "feat_12TextCircular", TextDialogPanelName},
         {"ART-Mondrian", "feat_01Mondrian"},
+        {"ART-MondrianSuper", "feat_01Mondrian"},
     };
     return table;
 }
