@@ -6,6 +6,7 @@
 #include "generators/curves.h"
 #include "generators/matrixrain.h"
 #include "generators/papers.h"
+#include "generators/plasmapaint.h"
 #include "generators/polygraphics.h"
 #include "generators/polypanels.h"
 #include "generators/rosettes.h"
@@ -63,7 +64,7 @@ std::span<const PainterEntry> painterTable()
         {"Snow", paintSnow, Prepare},
         {"Confetti", paintConfetti, Prepare},
         // Group 4
-        {"Plasma", nullptr, Prepare},
+        {"Plasma", Create_Plasma, Prepare},
         {"Lissajou", paintLissajou, Prepare},
         {"LissaBand", paintLissaBand, Prepare},
         {"70th-Rotating", nullptr, Prepare},
@@ -159,6 +160,7 @@ void registerAllPanels()
         registerPolyPanels();
         registerPaperPanels();
         registerFramePanels();
+        registerPlasmaPanels();
         return true;
     }();
     (void)once;

@@ -22,6 +22,7 @@
 #include "core/status.h"
 #include "core/workspace.h"
 #include "core/yield.h"
+#include "paint/animation.h"
 #include "paint/colourstate.h"
 #include "paint/controls.h"
 #include "paint/filterstate.h"
@@ -89,6 +90,8 @@ public:
     // TranspPercent and the paint target XBild, XUndo, XWork (Bild's until Set_BILD).
     TransparencyState &transparency() { return m_transparency; }
     FilterState &filters() { return m_filters; }
+    // The animation in the work picture (the tunnel) and its stop request.
+    AnimationState &animation() { return m_animation; }
     const TransparencyState &transparency() const { return m_transparency; }
 
     // The painters this session paints with, one entry per type key (borrowed; it must outlive
@@ -135,6 +138,7 @@ private:
     ColourState m_colours;
     TransparencyState m_transparency;
     FilterState m_filters;
+    AnimationState m_animation;
     Random m_random;
     SessionClock m_clock;
 

@@ -39,6 +39,7 @@ std::span<const TypePanel> typePanels()
         {"Forms-Cut out Squares", "feat_10Rahmen"},
         {"Forms-Cut out Areas", "feat_10Rahmen"},
         {"Forms-Cut out Rects", "feat_10Rahmen"},
+        {"Plasma", "feat_22Plasma"},
     };
     return table;
 }

@@ -3,13 +3,16 @@
 #include "paint/controls.h"
 #include "paint/grafdialogpanel.h"
 #include "paint/session.h"
+#include "generators/plasmapaint.h"
 #include "paint/typepanels.h"
 #include "ui/controlpanelwidget.h"
+#include "ui/plasmapanel.h"
 
 #include <QEvent>
 #include <QLabel>
 #include <QScrollArea>
 #include <QStackedWidget>
+#include <QVBoxLayout>
 
 namespace tf::ui {
 
@@ -30,7 +33,20 @@ FeatDialogDock::FeatDialogDock(Session &session, QWidget *parent)
         auto *scroll = new QScrollArea(m_stack);
         auto *widget = new ControlPanelWidget(*panel, session.controls(), scroll);
         widget->setRunState(&session.runState());
-        scroll->setWidget(widget);
+        if (panel->name == QLatin1String(PlasmaPanelName)) {
+            // The plasma panel shows its palette and the tunnel's buttons below its controls.
+            auto *page = new QWidget(scroll);
+            auto *column = new QVBoxLayout(page);
+            column->setContentsMargins(0, 0, 0, 0);
+            widget->setParent(page);
+            column->addWidget(widget);
+            m_plasmaExtras = new PlasmaPanelExtras(session, page);
+            column->addWidget(m_plasmaExtras);
+            column->addStretch(1);
+            scroll->setWidget(page);
+        } else {
+            scroll->setWidget(widget);
+        }
         scroll->setWidgetResizable(true);
         m_stack->addWidget(scroll);
         m_panels[panel->name] = widget;

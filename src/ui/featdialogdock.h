@@ -17,6 +17,7 @@ struct ControlKey;
 namespace tf::ui {
 
 class ControlPanelWidget;
+class PlasmaPanelExtras;
 
 class FeatDialogDock : public QDockWidget {
     Q_OBJECT
@@ -29,6 +30,8 @@ public:
     void controlChanged(const ControlKey &key);
     // The name of the panel on top ("" for the note).
     QString currentPanel() const;
+    // The palette strip and the tunnel's buttons of the plasma panel.
+    PlasmaPanelExtras *plasmaExtras() const { return m_plasmaExtras; }
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -41,6 +44,7 @@ private:
     QLabel *m_none;
     std::map<QString, ControlPanelWidget *> m_panels;
     std::map<QString, QWidget *> m_pages;
+    PlasmaPanelExtras *m_plasmaExtras = nullptr;
 };
 
 } // namespace tf::ui

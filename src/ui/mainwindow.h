@@ -13,6 +13,7 @@
 #include "files/loadplace.h"
 #include "files/recipe.h"
 #include "paint/session.h"
+#include "ui/animationdialog.h"
 #include "ui/guiprompter.h"
 #include "ui/guiyield.h"
 
@@ -36,6 +37,7 @@ class PreviewCache;
 struct SystemOptions;
 class StatusBarSink;
 class TileViewer;
+class TunnelDriver;
 
 class MainWindow : public QMainWindow, private SessionView {
     Q_OBJECT
@@ -115,6 +117,10 @@ private:
     void loadPalette();
     void systemPalette();
     void paintRunning(bool running);
+    // The plasma tunnel and the animation export (mainwindow_animation.cpp).
+    void createAnimationActions();
+    void tunnelRunning(bool running);
+    void exportAnimation();
     void showOptions();
     void openDialog();
     void saveAsDialog();
@@ -181,6 +187,9 @@ private:
     QAction *mn_Passepartouts = nullptr;
     QAction *mn_Kachelansicht = nullptr;
     TileViewer *m_tileViewer = nullptr;
+    TunnelDriver *m_tunnel = nullptr;
+    QAction *mn_AnimationSpeichern = nullptr;
+    AnimationChoice m_animationChoice;
 };
 
 } // namespace tf::ui
