@@ -85,10 +85,10 @@ PlasmaSettings plasmaSettingsOfPaint(Session &s)
 {
     PlasmaSettings p = plasmaSettingsOf(s);
     if (s.colours().RandomValues) {
-        // Cells of 64 to 128 with a grain of 4 to 8: clouds with detail at every scale (small
+        // Cells of 64 to 128 with a grain of 2 to 5: clouds with detail at every scale (small
         // cells without grain show the blocks of the first pass).
         p.step = int(Int(double(s.Rnd()) * 65)) + 64;
-        p.grain = int(Int(double(s.Rnd()) * 5)) + 4;
+        p.grain = int(Int(double(s.Rnd()) * 4)) + 2;
     }
     return p;
 }

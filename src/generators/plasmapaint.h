@@ -4,7 +4,7 @@
 //
 // A Paint clears the target, opens the transparency bracket, fills a plasma of the target's
 // size and writes its colours, and closes the bracket. With random values the cell size
-// (64..128) and the grain (4..8) are drawn; without, the panel's "Körnung" and "Skalierung"
+// (64..128) and the grain (2..5) are drawn; without, the panel's "Körnung" and "Skalierung"
 // stand. The wraps always come from the panel.
 
 #include "generators/plasma.h"
@@ -20,7 +20,7 @@ constexpr const char *PlasmaPanelName = "feat_22Plasma";
 // The panel's grain, cell size and wraps.
 PlasmaSettings plasmaSettingsOf(const Session &s);
 // What a paint or a tunnel fills with: the panel's, or with random values a cell size of
-// 64..128 and a grain of 4..8 drawn (the wraps stay the panel's).
+// 64..128 and a grain of 2..5 drawn (the wraps stay the panel's).
 PlasmaSettings plasmaSettingsOfPaint(Session &s);
 // The panel's tunnel speed and spin; the hole, when "Loch" is checked, an eighth of
 // `shorterSide` (the field's shorter side).
