@@ -2,7 +2,7 @@
 # Times five filters side by side with ImageMagick's `convert` (whole process: load, filter,
 # save BMP) and Python's Pillow (the filter alone, in the process), on the same 4096 x 4096
 # picture, and prints the ratios (theirs / ours: above 1 means we are faster); then the plasma
-# against `convert -size 4096x4096 plasma:fractal`.
+# against `convert -size 4096x4096 plasma:fractal` (`compare-peers.sh plasma`: that alone).
 # Needs a build (default build/; BUILD=folder to change) and, for the columns, `convert`
 # (package imagemagick) and Pillow (package python3-pil); a missing peer is left out.
 set -euo pipefail
@@ -25,6 +25,13 @@ have_convert=0
 have_pillow=0
 if "$py" -c 'import PIL' 2>/dev/null; then have_pillow=1; fi
 
+now() { date +%s.%N; }
+seconds() { local t0; t0=$(now); "$@" >/dev/null 2>&1; echo "$(now) - $t0" | bc -l; }
+# The median of five runs: the machine may be shared, and one slow run says little.
+best() { local ts=(); for _ in 1 2 3 4 5; do ts+=("$(seconds "$@")"); done; printf '%s\n' "${ts[@]}" | sort -g | sed -n 3p; }
+
+only=${1:-all}
+if [ "$only" != plasma ]; then
 # The test picture: a photo-like 4096 x 4096 from our own filters (a gradient paint blurred).
 "$exe" paint Backgroundcolor --size 4096x4096 --seed 1 --back '#808080' -o "$work/flat.bmp" >/dev/null
 "$py" - "$work/in.bmp" <<'PY' 2>/dev/null || cp "$work/flat.bmp" "$work/in.bmp"
@@ -45,11 +52,6 @@ with open(sys.argv[1], "wb") as f:
     for r in reversed(rows):
         f.write(r)
 PY
-
-now() { date +%s.%N; }
-seconds() { local t0; t0=$(now); "$@" >/dev/null 2>&1; echo "$(now) - $t0" | bc -l; }
-# The median of five runs: the machine may be shared, and one slow run says little.
-best() { local ts=(); for _ in 1 2 3 4 5; do ts+=("$(seconds "$@")"); done; printf '%s\n' "${ts[@]}" | sort -g | sed -n 3p; }
 
 names=(negate greyscale sharpen dilate floyd-steinberg)
 ours=(negative greyscale sharpen dilate floyd-steinberg)
@@ -108,6 +110,7 @@ PY
   [ "$k" != - ] && files=$(printf '%.0f%%' "$(echo "100 * ($o - $k / 1000) / $o" | bc -l)")
   printf '%-16s %10.3f %10s %7s %6s | %10s %10s %10s %7s %7s\n' "${names[$i]}" "$o" "$c" "$cr" "$files" "$k" "$k1" "$p" "$pr" "$pr1"
 done
+fi
 
 # The plasma at 4096 x 4096 beside ImageMagick's `convert -size 4096x4096 plasma:fractal`:
 # whole processes writing a BMP each (median of five), and our fill with its colours in the

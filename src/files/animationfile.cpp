@@ -126,7 +126,7 @@ private:
     QByteArray compress(const QImage &frame)
     {
         z_stream z{};
-        if (deflateInit2(&z, 6, Z_DEFLATED, 15, 8, Z_DEFAULT_STRATEGY) != Z_OK)
+        if (deflateInit2(&z, 3, Z_DEFLATED, 15, 8, Z_DEFAULT_STRATEGY) != Z_OK)
             throw std::bad_alloc();
         QByteArray out;
         std::vector<Bytef> buffer(1 << 16);

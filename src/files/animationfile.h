@@ -5,7 +5,8 @@
 // hold only the compressed data, so a long animation needs no more memory than its file.
 //
 // APNG: 8-bit RGB, every frame whole (no dispose or blend tricks), each row filtered by the
-// filter with the least sum of absolute differences, deflated by zlib; the frame time is
+// filter with the least sum of absolute differences, deflated by zlib (level 3: a tunnel of
+// 712 x 712 costs some 60 ms a frame); the frame time is
 // 1/fps second exactly (delay 1 / fps), `loops` 0 plays forever.
 // GIF: 89a with the NETSCAPE2.0 loop block, each frame with a local palette of at most 256
 // colours: a frame of at most 256 colours keeps them exactly, a richer one is reduced by
