@@ -74,13 +74,14 @@ void MainWindow::exportAnimation()
     m_animationChoice = dialog.choice();
 
     const QString png = tr("Animiertes PNG (*.png)"), gif = tr("Animiertes GIF (*.gif)");
-    QString filter = png;
-    QString path = QFileDialog::getSaveFileName(this, tr("Animation speichern"),
-                                                m_settings.PDirWrite, png + QStringLiteral(";;") + gif,
-                                                &filter);
-    if (path.isEmpty()) return;
+    QFileDialog files(this, tr("Animation speichern"), m_settings.PDirWrite);
+    files.setObjectName(QStringLiteral("dlgAnimationFile"));
+    files.setAcceptMode(QFileDialog::AcceptSave);
+    files.setNameFilters({png, gif});
+    if (files.exec() != QDialog::Accepted || files.selectedFiles().isEmpty()) return;
+    QString path = files.selectedFiles().constFirst();
     if (!animationKindOf(path))
-        path += filter == gif ? QStringLiteral(".gif") : QStringLiteral(".png");
+        path += files.selectedNameFilter() == gif ? QStringLiteral(".gif") : QStringLiteral(".png");
 
     QProgressDialog progress(tr("Animation wird gespeichert..."), tr("Abbrechen"), 0,
                              m_animationChoice.frames, this);

@@ -7,6 +7,11 @@
 #include <QAction>
 #include <QDockWidget>
 #include <QElapsedTimer>
+#include <QFileDialog>
+#include <QImageReader>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QTimer>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -87,4 +92,65 @@ TEST_F(TunnelGui, StartRunsFramesFromTheTimerAndStopEndsIt)
     child<QAction>("mn_Paint")->trigger();
     wait(200);
     EXPECT_FALSE(s.runState().animating());
+}
+
+TEST_F(TunnelGui, SaveAnimationWritesTheTunnelOnShow)
+{
+    Session &s = window->session();
+    child<QPushButton>("BtnPlasmaRepaint(0)")->click();
+    wait(150);
+    child<QPushButton>("BtnPlasmaRepaint(1)")->click();
+    wait(100);
+    ASSERT_FALSE(s.runState().animating());
+    const QImage onShow = s.workspace().Bild.Image();
+
+    const QString path = dir.filePath(QStringLiteral("tunnel.gif"));
+    bool sawDialog = false, sawFiles = false;
+    // The frames dialog, then the file dialog, answered as a user would, as soon as each is
+    // shown (a look every 50 ms; after 10 s whatever is open is cancelled).
+    QTimer answer;
+    QElapsedTimer clock;
+    clock.start();
+    QObject::connect(&answer, &QTimer::timeout, [&] {
+        for (QWidget *w : QApplication::topLevelWidgets()) {
+            auto *files = qobject_cast<QFileDialog *>(w);
+            if (files && files->isVisible() && !sawFiles &&
+                files->objectName() == QLatin1String("dlgAnimationFile")) {
+                sawFiles = true;
+                files->setDirectory(dir.path());
+                if (auto *name = files->findChild<QLineEdit *>(QStringLiteral("fileNameEdit")))
+                    name->setText(QStringLiteral("tunnel.gif"));
+                QMetaObject::invokeMethod(files, "accept", Qt::QueuedConnection);
+                return;
+            }
+            auto *dialog = qobject_cast<QDialog *>(w);
+            if (dialog && dialog->objectName() == QLatin1String("frmAnimation") && !sawDialog) {
+                sawDialog = true;
+                if (auto *frames = dialog->findChild<QSpinBox *>(QStringLiteral("txtFrames")))
+                    frames->setValue(4);
+                screenshot(*dialog, "animation_dialog");
+                QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
+                return;
+            }
+        }
+        if (clock.elapsed() > 10000)
+            if (auto *modal = qobject_cast<QDialog *>(QApplication::activeModalWidget()))
+                modal->reject();
+    });
+    answer.start(50);
+    window->findChild<QAction *>(QStringLiteral("mn_AnimationSpeichern"))->trigger();
+    answer.stop();
+    wait(200);
+    EXPECT_TRUE(sawDialog);
+    EXPECT_TRUE(sawFiles);
+    QImageReader reader(path, "gif");
+    EXPECT_EQ(reader.imageCount(), 4);
+    // The first frame is the frame on show (within the GIF's colours).
+    const QImage first = reader.read().convertToFormat(QImage::Format_RGB32);
+    ASSERT_EQ(first.size(), onShow.size());
+    int worst = 0;
+    for (int y = 0; y < first.height(); y += 17)
+        for (int x = 0; x < first.width(); x += 13)
+            worst = std::max(worst, std::abs(qGreen(first.pixel(x, y)) - qGreen(onShow.pixel(x, y))));
+    EXPECT_LE(worst, 24);
 }
