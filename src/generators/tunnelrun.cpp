@@ -4,12 +4,29 @@
 #include "core/picturebox.h"
 #include "generators/tunnel.h"
 #include "paint/session.h"
+#include "paint/transparency.h"
 
 #include <QCoreApplication>
+
+#include <algorithm>
 
 namespace tf {
 
 namespace {
+
+// The frame on Bild laid over the picture under it, through the table made at the start.
+void layOver(QImage &frame, const AnimationState &a)
+{
+    const int w = std::min(frame.width(), a.ground.width());
+    const int h = std::min(frame.height(), a.ground.height());
+    for (int y = 0; y < h; ++y) {
+        uchar *n = frame.scanLine(y);
+        const uchar *o = a.ground.constScanLine(y);
+        for (int x = 0; x < w * 4; x += 4)
+            for (int c = 0; c < 3; ++c)
+                n[x + c] = a.blend[size_t(n[x + c] << 8 | o[x + c])];
+    }
+}
 
 void endRun(Session &s)
 {
@@ -22,6 +39,8 @@ void endRun(Session &s)
     ws.setCommands(commands);
     s.runState().setAnimating(false);
     s.animation().stopRequested = false;
+    s.animation().ground = QImage();
+    s.animation().blend.clear();
     s.status().setPanelText(sbrState, QCoreApplication::translate("Plasma", "Tunnel angehalten"));
 }
 
@@ -37,6 +56,19 @@ bool start(Session &s)
     });
     if (!made || !tunnel) return false;
     ws.Bild_nachUndo();
+    // At a transparency of 2 to 98 the frames lie over the picture as a paint would.
+    TransparencyState t;
+    t.setPercent(s.controls().value(QStringLiteral("ScrollTransparence")));
+    a.ground = QImage();
+    a.blend.clear();
+    if (t.active()) {
+        a.ground = ws.Bild.Image().convertToFormat(QImage::Format_RGB32);
+        a.blend.resize(256 * 256);
+        for (int n = 0; n < 256; ++n)
+            for (int o = 0; o < 256; ++o)
+                a.blend[size_t(n << 8 | o)] =
+                    uint8_t(std::clamp(blendChannel(n, o, t.TranspFactor), 0, 255));
+    }
     a.current = std::move(tunnel);
     a.framesShown = 0;
     s.runState().setAnimating(true);
@@ -69,6 +101,7 @@ bool Plasma_TunnelFrame(Session &s)
             throw Fault(Fault::InvalidCall);
         if (a.framesShown > 0) a.current->advance(1);
         a.current->render(bild.mutableImage());
+        if (!a.blend.empty()) layOver(bild.mutableImage(), a);
         bild.markChanged();
         ++a.framesShown;
     } catch (...) {

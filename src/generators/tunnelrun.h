@@ -4,7 +4,9 @@
 //
 // "Start Tunnel" (`BtnPlasmaRepaint_Click` 0) takes Bild's undo image, makes the tunnel for
 // Bild's size from the plasma panel (tunnel.h), shows its first frame and marks RunState
-// animating, so every other command waits. The window then calls `Plasma_TunnelFrame` from
+// animating, so every other command waits. At a transparency of 2 to 98 (the paint dialog's
+// "ScrollTransparence") every frame is laid over the picture as it was at the start, with
+// the paint's blend. The window then calls `Plasma_TunnelFrame` from
 // its timer, `framesPerSecond()` times a second. "Stop" (index 1) asks for the end; the next
 // tick ends the run after its frame: Bild keeps the last frame as its picture, one Undo
 // brings back the picture before the start, and the tunnel stays in the session for the

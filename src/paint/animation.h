@@ -8,7 +8,9 @@
 
 #include <QImage>
 #include <QSize>
+#include <cstdint>
 #include <memory>
+#include <vector>
 
 namespace tf {
 
@@ -34,6 +36,11 @@ struct AnimationState {
     bool stopRequested = false;
     // The frames shown since the start.
     long framesShown = 0;
+    // Laid over the picture at the paint dialog's transparency: the picture under the frames
+    // and the blend of each pair of channel values, index (frame << 8) | picture. Empty: the
+    // frames cover the picture.
+    QImage ground;
+    std::vector<uint8_t> blend;
 };
 
 } // namespace tf

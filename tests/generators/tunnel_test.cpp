@@ -202,6 +202,20 @@ TEST_F(PlasmaPaint, TunnelRunsUntilStopAndOthersWait)
     EXPECT_EQ(s.workspace().Bild.Image(), before);
 }
 
+TEST_F(PlasmaPaint, TunnelFramesLieOverThePictureAtTheTransparency)
+{
+    fixedColours(RGB(0, 0, 0), RGB(0, 0, 0)); // a black tunnel
+    ground(RGB(200, 100, 50));
+    set("ScrollTransparence", QStringLiteral("50"));
+    ASSERT_TRUE(BtnPlasmaRepaint_Click(s, 0));
+    EXPECT_EQ(pixelAt(s.workspace().Bild.Image(), 20, 30), RGB(100, 50, 25));
+    ASSERT_TRUE(Plasma_TunnelFrame(s));
+    EXPECT_EQ(pixelAt(s.workspace().Bild.Image(), 150, 100), RGB(100, 50, 25));
+    BtnPlasmaRepaint_Click(s, 1);
+    EXPECT_FALSE(Plasma_TunnelFrame(s));
+    EXPECT_TRUE(s.animation().blend.empty());
+}
+
 TEST_F(PlasmaPaint, TunnelFieldWithRandomValuesIsTheDiagonal)
 {
     s.colours().RandomColors = false;
