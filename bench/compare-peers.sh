@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Times five filters side by side with ImageMagick's `convert` (whole process: load, filter,
 # save BMP) and Python's Pillow (the filter alone, in the process), on the same 4096 x 4096
-# picture, and prints the ratios (theirs / ours: above 1 means we are faster).
+# picture, and prints the ratios (theirs / ours: above 1 means we are faster); then the plasma
+# against `convert -size 4096x4096 plasma:fractal` (`compare-peers.sh plasma`: that alone).
 # Needs a build (default build/; BUILD=folder to change) and, for the columns, `convert`
 # (package imagemagick) and Pillow (package python3-pil); a missing peer is left out.
 set -euo pipefail
@@ -24,6 +25,13 @@ have_convert=0
 have_pillow=0
 if "$py" -c 'import PIL' 2>/dev/null; then have_pillow=1; fi
 
+now() { date +%s.%N; }
+seconds() { local t0; t0=$(now); "$@" >/dev/null 2>&1; echo "$(now) - $t0" | bc -l; }
+# The median of five runs: the machine may be shared, and one slow run says little.
+best() { local ts=(); for _ in 1 2 3 4 5; do ts+=("$(seconds "$@")"); done; printf '%s\n' "${ts[@]}" | sort -g | sed -n 3p; }
+
+only=${1:-all}
+if [ "$only" != plasma ]; then
 # The test picture: a photo-like 4096 x 4096 from our own filters (a gradient paint blurred).
 "$exe" paint Backgroundcolor --size 4096x4096 --seed 1 --back '#808080' -o "$work/flat.bmp" >/dev/null
 "$py" - "$work/in.bmp" <<'PY' 2>/dev/null || cp "$work/flat.bmp" "$work/in.bmp"
@@ -44,11 +52,6 @@ with open(sys.argv[1], "wb") as f:
     for r in reversed(rows):
         f.write(r)
 PY
-
-now() { date +%s.%N; }
-seconds() { local t0; t0=$(now); "$@" >/dev/null 2>&1; echo "$(now) - $t0" | bc -l; }
-# The median of five runs: the machine may be shared, and one slow run says little.
-best() { local ts=(); for _ in 1 2 3 4 5; do ts+=("$(seconds "$@")"); done; printf '%s\n' "${ts[@]}" | sort -g | sed -n 3p; }
 
 names=(negate greyscale sharpen dilate floyd-steinberg)
 ours=(negative greyscale sharpen dilate floyd-steinberg)
@@ -107,3 +110,26 @@ PY
   [ "$k" != - ] && files=$(printf '%.0f%%' "$(echo "100 * ($o - $k / 1000) / $o" | bc -l)")
   printf '%-16s %10.3f %10s %7s %6s | %10s %10s %10s %7s %7s\n' "${names[$i]}" "$o" "$c" "$cr" "$files" "$k" "$k1" "$p" "$pr" "$pr1"
 done
+fi
+
+# The plasma at 4096 x 4096 beside ImageMagick's `convert -size 4096x4096 plasma:fractal`:
+# whole processes writing a BMP each (median of five), and our fill with its colours in the
+# process (the benchmark's median).
+echo
+if [ $have_convert = 1 ]; then
+  o=$(best "$exe" paint Plasma --size 4096x4096 --seed 1 -o "$work/plasma.bmp")
+  c=$(best "$convert" -size 4096x4096 plasma:fractal "$work/plasma-im.bmp")
+  k=-
+  pbench=$build/bench/bench_plasma_bench
+  if [ -x "$pbench" ]; then
+    k=$("$pbench" --benchmark_filter='plasmaPicture/0' --benchmark_repetitions=5 \
+          --benchmark_report_aggregates_only=true --benchmark_format=csv 2>/dev/null |
+        sed -n 's#^"plasmaPicture/0/real_time_median",[^,]*,\([^,]*\),.*#\1#p')
+  fi
+  printf '%-16s %10s %10s %7s | %12s %7s\n' plasma "ours s" convert ratio "ours fill ms" ratio
+  kr=-
+  [ -n "$k" ] && [ "$k" != - ] && kr=$(printf '%.1f' "$(echo "$c * 1000 / $k" | bc -l)") && k=$(printf '%.1f' "$k")
+  printf '%-16s %10.3f %10.3f %7.1f | %12s %7s\n' "4096x4096" "$o" "$c" "$(echo "$c / $o" | bc -l)" "${k:--}" "$kr"
+else
+  echo "plasma: ImageMagick's convert is not installed; no comparison"
+fi

@@ -205,6 +205,26 @@
         <source>Ein Superformat wird in ein eigenes Bild gemalt, nicht über ein anderes.</source>
         <translation>Ein Superformat wird in ein eigenes Bild gemalt, nicht über ein anderes.</translation>
     </message>
+    <message>
+        <source>Ungültiger Wert für %1: %2 (%3 bis %4)</source>
+        <translation>Ungültiger Wert für %1: %2 (%3 bis %4)</translation>
+    </message>
+    <message>
+        <source>Es fehlt der Wert zu %1.</source>
+        <translation>Es fehlt der Wert zu %1.</translation>
+    </message>
+    <message>
+        <source>Der Grafiktyp %1 hat keine Animation.</source>
+        <translation>Der Grafiktyp %1 hat keine Animation.</translation>
+    </message>
+    <message>
+        <source>Eine Animation wird als .png oder .gif geschrieben: %1</source>
+        <translation>Eine Animation wird als .png oder .gif geschrieben: %1</translation>
+    </message>
+    <message>
+        <source>Zu wenig Speicher für die Animation.</source>
+        <translation>Zu wenig Speicher für die Animation.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1112,6 +1132,42 @@
         <source>Repaint letztes Set</source>
         <translation>Repaint letztes Set</translation>
     </message>
+    <message>
+        <source>Plasma</source>
+        <translation>Plasma</translation>
+    </message>
+    <message>
+        <source>Körnung</source>
+        <translation>Körnung</translation>
+    </message>
+    <message>
+        <source>Skalierung</source>
+        <translation>Skalierung</translation>
+    </message>
+    <message>
+        <source>Horizontal einhüllen</source>
+        <translation>Horizontal einhüllen</translation>
+    </message>
+    <message>
+        <source>Vertikal einhüllen</source>
+        <translation>Vertikal einhüllen</translation>
+    </message>
+    <message>
+        <source>Gelad. Palette verwenden</source>
+        <translation>Gelad. Palette verwenden</translation>
+    </message>
+    <message>
+        <source>Rotieren</source>
+        <translation>Rotieren</translation>
+    </message>
+    <message>
+        <source>Loch</source>
+        <translation>Loch</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Speed</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -1356,6 +1412,21 @@
     <message>
         <source>30 x 24 Querformat (712 x 570)</source>
         <translation>30 x 24 Querformat (712 x 570)</translation>
+    </message>
+</context>
+<context>
+    <name>Plasma</name>
+    <message>
+        <source>Tunnel angehalten</source>
+        <translation>Tunnel angehalten</translation>
+    </message>
+    <message>
+        <source>Tunnel läuft</source>
+        <translation>Tunnel läuft</translation>
+    </message>
+    <message>
+        <source>Blit Error - Tunnel</source>
+        <translation>Blit Error - Tunnel</translation>
     </message>
 </context>
 <context>
@@ -1769,6 +1840,29 @@
     <message>
         <source>Die Datei %1 enthält keine lesbaren Passepartouts. Soll sie durch die Sets dieses Fensters ersetzt werden?</source>
         <translation>Die Datei %1 enthält keine lesbaren Passepartouts. Soll sie durch die Sets dieses Fensters ersetzt werden?</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::AnimationDialog</name>
+    <message>
+        <source>Animation speichern</source>
+        <translation>Animation speichern</translation>
+    </message>
+    <message>
+        <source>endlos</source>
+        <translation>endlos</translation>
+    </message>
+    <message>
+        <source>Bilder</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Bilder je Sekunde</source>
+        <translation>Bilder je Sekunde</translation>
+    </message>
+    <message>
+        <source>Wiederholungen</source>
+        <translation>Wiederholungen</translation>
     </message>
 </context>
 <context>
@@ -2257,6 +2351,34 @@
         <source>Sättigung </source>
         <translation>Sättigung </translation>
     </message>
+    <message>
+        <source>Animation speichern...</source>
+        <translation>Animation speichern...</translation>
+    </message>
+    <message>
+        <source>Es gibt keine Animation zum Speichern: starten Sie zuerst den Tunnel des Plasmas.</source>
+        <translation>Es gibt keine Animation zum Speichern: starten Sie zuerst den Tunnel des Plasmas.</translation>
+    </message>
+    <message>
+        <source>Animiertes PNG (*.png)</source>
+        <translation>Animiertes PNG (*.png)</translation>
+    </message>
+    <message>
+        <source>Animiertes GIF (*.gif)</source>
+        <translation>Animiertes GIF (*.gif)</translation>
+    </message>
+    <message>
+        <source>Animation speichern</source>
+        <translation>Animation speichern</translation>
+    </message>
+    <message>
+        <source>Animation wird gespeichert...</source>
+        <translation>Animation wird gespeichert...</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Abbrechen</translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::MosaikShow</name>
@@ -2692,6 +2814,17 @@
     <message>
         <source>Abbrechen</source>
         <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::PlasmaPanelExtras</name>
+    <message>
+        <source>Start Tunnel</source>
+        <translation>Start Tunnel</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
     </message>
 </context>
 <context>

@@ -206,6 +206,26 @@
         <source>Ein Superformat wird in ein eigenes Bild gemalt, nicht über ein anderes.</source>
         <translation>A Superformat is painted into a picture of its own, not over another.</translation>
     </message>
+    <message>
+        <source>Ungültiger Wert für %1: %2 (%3 bis %4)</source>
+        <translation>Invalid value for %1: %2 (%3 to %4)</translation>
+    </message>
+    <message>
+        <source>Es fehlt der Wert zu %1.</source>
+        <translation>The value of %1 is missing.</translation>
+    </message>
+    <message>
+        <source>Der Grafiktyp %1 hat keine Animation.</source>
+        <translation>The graphics type %1 has no animation.</translation>
+    </message>
+    <message>
+        <source>Eine Animation wird als .png oder .gif geschrieben: %1</source>
+        <translation>An animation is written as .png or .gif: %1</translation>
+    </message>
+    <message>
+        <source>Zu wenig Speicher für die Animation.</source>
+        <translation>Not enough memory for the animation.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>
@@ -1113,6 +1133,42 @@
         <source>Repaint letztes Set</source>
         <translation>Repaint last set</translation>
     </message>
+    <message>
+        <source>Plasma</source>
+        <translation>Plasma</translation>
+    </message>
+    <message>
+        <source>Körnung</source>
+        <translation>Grain</translation>
+    </message>
+    <message>
+        <source>Skalierung</source>
+        <translation>Scale</translation>
+    </message>
+    <message>
+        <source>Horizontal einhüllen</source>
+        <translation>Wrap horizontally</translation>
+    </message>
+    <message>
+        <source>Vertikal einhüllen</source>
+        <translation>Wrap vertically</translation>
+    </message>
+    <message>
+        <source>Gelad. Palette verwenden</source>
+        <translation>Use loaded palette</translation>
+    </message>
+    <message>
+        <source>Rotieren</source>
+        <translation>Rotate</translation>
+    </message>
+    <message>
+        <source>Loch</source>
+        <translation>Hole</translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation>Speed</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -1357,6 +1413,21 @@
     <message>
         <source>30 x 24 Querformat (712 x 570)</source>
         <translation>30 x 24 horizontal (712 x 570)</translation>
+    </message>
+</context>
+<context>
+    <name>Plasma</name>
+    <message>
+        <source>Tunnel angehalten</source>
+        <translation>Tunnel stopped</translation>
+    </message>
+    <message>
+        <source>Tunnel läuft</source>
+        <translation>Tunnel running</translation>
+    </message>
+    <message>
+        <source>Blit Error - Tunnel</source>
+        <translation>Blit Error - Tunnel</translation>
     </message>
 </context>
 <context>
@@ -1770,6 +1841,29 @@
     <message>
         <source>Die Datei %1 enthält keine lesbaren Passepartouts. Soll sie durch die Sets dieses Fensters ersetzt werden?</source>
         <translation>The file %1 holds no readable passepartouts. Do you want to replace it with the sets of this window?</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::AnimationDialog</name>
+    <message>
+        <source>Animation speichern</source>
+        <translation>Save animation</translation>
+    </message>
+    <message>
+        <source>endlos</source>
+        <translation>endless</translation>
+    </message>
+    <message>
+        <source>Bilder</source>
+        <translation>Frames</translation>
+    </message>
+    <message>
+        <source>Bilder je Sekunde</source>
+        <translation>Frames per second</translation>
+    </message>
+    <message>
+        <source>Wiederholungen</source>
+        <translation>Repetitions</translation>
     </message>
 </context>
 <context>
@@ -2258,6 +2352,34 @@
         <source>Sättigung </source>
         <translation>Saturation </translation>
     </message>
+    <message>
+        <source>Animation speichern...</source>
+        <translation>Save animation...</translation>
+    </message>
+    <message>
+        <source>Es gibt keine Animation zum Speichern: starten Sie zuerst den Tunnel des Plasmas.</source>
+        <translation>There is no animation to save: start the plasma&apos;s tunnel first.</translation>
+    </message>
+    <message>
+        <source>Animiertes PNG (*.png)</source>
+        <translation>Animated PNG (*.png)</translation>
+    </message>
+    <message>
+        <source>Animiertes GIF (*.gif)</source>
+        <translation>Animated GIF (*.gif)</translation>
+    </message>
+    <message>
+        <source>Animation speichern</source>
+        <translation>Save animation</translation>
+    </message>
+    <message>
+        <source>Animation wird gespeichert...</source>
+        <translation>Saving the animation...</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
 </context>
 <context>
     <name>tf::ui::MosaikShow</name>
@@ -2693,6 +2815,17 @@
     <message>
         <source>Abbrechen</source>
         <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::PlasmaPanelExtras</name>
+    <message>
+        <source>Start Tunnel</source>
+        <translation>Start Tunnel</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
     </message>
 </context>
 <context>

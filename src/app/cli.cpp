@@ -23,6 +23,11 @@ const char *const usage =
     "\n"
     "Commands:\n"
     "  paint TYPE [OPTIONS]   paint one graphics type and save the picture\n"
+    "  animate TYPE [--frames N] [--fps F] [--loop N] [OPTIONS]\n"
+    "                         write the animation of a type (Plasma: the tunnel) as an\n"
+    "                         animated PNG (.png) or GIF (.gif): N frames (default 60) at\n"
+    "                         F frames a second (default 30), played N times (0: forever);\n"
+    "                         the options of paint set size, seed, controls and colours\n"
     "  types                  the groups and types: key, English and German caption\n"
     "  controls [TYPE]        the option controls (of a type): name, kind, default, range,\n"
     "                         caption\n"
@@ -167,6 +172,7 @@ int run(int argc, char **argv)
 
     static const std::map<QString, std::function<int(const QStringList &)>> commands = {
         {QStringLiteral("paint"), runPaint},
+        {QStringLiteral("animate"), runAnimate},
         {QStringLiteral("types"), runTypes},
         {QStringLiteral("controls"), runControls},
         {QStringLiteral("filters"), runFilters},

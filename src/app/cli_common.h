@@ -79,6 +79,7 @@ ColorLong parseColour(const QString &text);
 int runTypes(const QStringList &args);
 int runControls(const QStringList &args);
 int runPaint(const QStringList &args);
+int runAnimate(const QStringList &args);
 int runFilters(const QStringList &args);
 int runFilter(const QStringList &args);
 int runRecipe(const QStringList &args);

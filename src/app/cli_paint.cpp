@@ -1,6 +1,7 @@
 // `tarvelle-forge paint TYPE ...`: one paint on a cleared picture (or over a given one), saved
 // to a file. It runs the Paint command of the desktop program on a session of its own.
 #include "app/cli_common.h"
+#include "app/cli_paint.h"
 
 #include "core/language.h"
 #include "files/picturefile.h"
@@ -31,27 +32,26 @@ namespace tf::cli {
 
 namespace {
 
-struct PaintOptions {
-    QString type;
-    QString output;
-    std::optional<QSize> size;
-    std::optional<uint32_t> seed;
-    std::vector<std::pair<QString, QString>> sets; // control, value as written
-    std::optional<ColorLong> fore, back, border;
-    std::optional<ColorLong> textFore, textBack; // the text dialog's colours
-    QString textFile;                            // --text-file: the text dialog's text
-    std::optional<bool> randomColors, randomValues;
-    std::optional<int> transparency;
-    QString over;
-    std::optional<int> duotones;    // the duotone box to set, 0 or 1
-    QString palette;                // a JASC palette file
-    std::optional<int> systemPalette;
-    bool keepSize = false;          // --over: a large picture at its own size
-    QString recipe;                 // paint the recipe of this picture file
-};
-
 // The largest side of a picture: the largest Superformat.
 constexpr int MaxSide = 14000;
+
+bool parseOnOff(const QString &option, const QString &text)
+{
+    if (text == QLatin1String("on")) return true;
+    if (text == QLatin1String("off")) return false;
+    throw UsageError(
+        QCoreApplication::translate("Cli", "Ungültiger Wert für %1: %2").arg(option, text));
+}
+
+// "Neon vertical" -> "Neon_vertical.png".
+QString defaultOutput(const QString &key)
+{
+    QString name = key;
+    name.replace(QRegularExpression(QStringLiteral("[^A-Za-z0-9_-]")), QStringLiteral("_"));
+    return name + QStringLiteral(".png");
+}
+
+} // namespace
 
 QSize parseSize(const QString &text)
 {
@@ -64,14 +64,6 @@ QSize parseSize(const QString &text)
             QCoreApplication::translate("Cli", "Ungültige Größe: %1 (BREITExHÖHE, 1 bis 14000)")
                 .arg(text));
     return {w, h};
-}
-
-bool parseOnOff(const QString &option, const QString &text)
-{
-    if (text == QLatin1String("on")) return true;
-    if (text == QLatin1String("off")) return false;
-    throw UsageError(
-        QCoreApplication::translate("Cli", "Ungültiger Wert für %1: %2").arg(option, text));
 }
 
 PaintOptions parsePaintOptions(const QStringList &words)
@@ -179,14 +171,6 @@ PaintOptions parsePaintOptions(const QStringList &words)
     return o;
 }
 
-// "Neon vertical" -> "Neon_vertical.png".
-QString defaultOutput(const QString &key)
-{
-    QString name = key;
-    name.replace(QRegularExpression(QStringLiteral("[^A-Za-z0-9_-]")), QStringLiteral("_"));
-    return name + QStringLiteral(".png");
-}
-
 void applyControls(Session &s, const PaintOptions &o)
 {
     auto sets = o.sets;
@@ -211,8 +195,6 @@ void applyControls(Session &s, const PaintOptions &o)
                          QString::number(*o.transparency));
 }
 
-// Sets the colours, the palette and the duotone table as the colour dialog would; answers
-// false after a message when the palette cannot be loaded.
 bool applyColours(Session &s, const PaintOptions &o)
 {
     ColourState &c = s.colours();
@@ -243,6 +225,8 @@ bool applyColours(Session &s, const PaintOptions &o)
         c.RandomColors = *o.randomColors;
     return true;
 }
+
+namespace {
 
 // One paint as the desktop program makes it, on a session of its own: over `over` when it is
 // not null, else on a cleared picture. Answers the exit code; `result` and `record` are set on

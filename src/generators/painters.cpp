@@ -10,6 +10,7 @@
 #include "generators/mountains.h"
 #include "generators/mondrian.h"
 #include "generators/papers.h"
+#include "generators/plasmapaint.h"
 #include "generators/polygraphics.h"
 #include "generators/polypanels.h"
 #include "generators/rosettes.h"
@@ -70,7 +71,7 @@ std::span<const PainterEntry> painterTable()
         {"Snow", paintSnow, Prepare},
         {"Confetti", paintConfetti, Prepare},
         // Group 4
-        {"Plasma", nullptr, Prepare},
+        {"Plasma", Create_Plasma, Prepare},
         {"Lissajou", paintLissajou, Prepare},
         {"LissaBand", paintLissaBand, Prepare},
         {"70th-Rotating", paintRotating70th, Prepare},
@@ -169,6 +170,7 @@ void registerAllPanels()
         registerCentrePanels();
         registerTextPanels();
         registerMondrianPanels();
+        registerPlasmaPanels();
         return true;
     }();
     (void)once;

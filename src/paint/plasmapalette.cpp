@@ -51,10 +51,11 @@ Palette512 Plasma_Palette(ColorLong a, ColorLong b, int mode, ColorLong c, Color
         }
         break;
     case 3:
-        ramp(p, 0, 128, a, b);
-        mirror(p, 0, 128);
-        ramp(p, 256, 128, c, d);
-        mirror(p, 256, 128);
+        // Round the four colours and back to the first: no step anywhere.
+        ramp(p, 0, 129, a, b);
+        ramp(p, 128, 129, b, c);
+        ramp(p, 256, 129, c, d);
+        ramp(p, 384, 128, d, a);
         break;
     default:
         ramp(p, 0, 512, a, b);

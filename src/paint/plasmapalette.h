@@ -8,8 +8,8 @@
 //   0  one ramp from the first colour to the second over all 512 entries;
 //   1  the ramp of 256 entries and its mirror: first colour, second colour, first colour;
 //   2  two such mirrored ramps of 128 entries each way, so the clouds show twice the bands;
-//   3  the mirrored ramp of the two colours in the first half and one of two further
-//      colours in the second.
+//   3  round four colours: the first to the second, on to the two further colours and back
+//      to the first, 128 entries each way.
 // Forms 1 to 3 end where they begin, so a wrapped plasma stays seamless in colour too.
 //
 // The session keeps the palette on show in ColourState::PlasmaPalette; `rebuildPlasmaPalette`

@@ -22,6 +22,7 @@
 #include "core/status.h"
 #include "core/workspace.h"
 #include "core/yield.h"
+#include "paint/animation.h"
 #include "paint/colourstate.h"
 #include "paint/controls.h"
 #include "paint/filterstate.h"
@@ -110,6 +111,8 @@ public:
     // The text types' state between paints, the system's fonts and the text placing mode.
     TextState &text() { return m_text; }
     const TextState &text() const { return m_text; }
+    // The animation in the work picture (the tunnel) and its stop request.
+    AnimationState &animation() { return m_animation; }
     const TransparencyState &transparency() const { return m_transparency; }
 
     // The painters this session paints with, one entry per type key (borrowed; it must outlive
@@ -164,6 +167,7 @@ private:
     MondrianTables m_mondrian;
     std::unique_ptr<SuperformatSurfaces> m_superformat;
     TextState m_text;
+    AnimationState m_animation;
     Random m_random;
     SessionClock m_clock;
 

@@ -53,6 +53,7 @@ std::span<const TypePanel> typePanels()
         {"TEXT-Spiral", "feat_12TextCircular", TextDialogPanelName},
         {"ART-Mondrian", "feat_01Mondrian"},
         {"ART-MondrianSuper", "feat_01Mondrian"},
+        {"Plasma", "feat_22Plasma"},
     };
     return table;
 }

@@ -3,18 +3,20 @@
 #include "paint/controls.h"
 #include "paint/grafdialogpanel.h"
 #include "paint/session.h"
+#include "generators/plasmapaint.h"
 #include "paint/typepanels.h"
 #include "ui/controlpanelwidget.h"
 #include "ui/idleguard.h"
 #include "paint/textstate.h"
+#include "ui/plasmapanel.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QVBoxLayout>
 #include <QScrollArea>
 #include <QStackedWidget>
+#include <QVBoxLayout>
 
 namespace tf::ui {
 
@@ -49,6 +51,11 @@ FeatDialogDock::FeatDialogDock(Session &session, QWidget *parent)
         column->addWidget(widget);
         if (panel->name == QLatin1String(TextDialogTypePanel))
             column->addWidget(textPlacingButtons(page));
+        // The plasma panel shows its palette and the tunnel's buttons below its controls.
+        if (panel->name == QLatin1String(PlasmaPanelName)) {
+            m_plasmaExtras = new PlasmaPanelExtras(session, page);
+            column->addWidget(m_plasmaExtras);
+        }
         column->addStretch(1);
         scroll->setWidget(page);
         scroll->setWidgetResizable(true);

@@ -19,6 +19,7 @@ struct PanelAction;
 namespace tf::ui {
 
 class ControlPanelWidget;
+class PlasmaPanelExtras;
 
 class FeatDialogDock : public QDockWidget {
     Q_OBJECT
@@ -35,6 +36,8 @@ public:
     ControlPanelWidget *panelWidget(const QString &name) const;
     // The name of the panel on top ("" for the note).
     QString currentPanel() const;
+    // The palette strip and the tunnel's buttons of the plasma panel.
+    PlasmaPanelExtras *plasmaExtras() const { return m_plasmaExtras; }
 
 signals:
     // A button of the text panel armed the placing mode: the next click on the picture
@@ -58,6 +61,7 @@ private:
     std::map<QString, QWidget *> m_pages;
     QPushButton *BtnSet_TextDialogPosition = nullptr;
     QPushButton *BtnSet_TextPosC = nullptr;
+    PlasmaPanelExtras *m_plasmaExtras = nullptr;
 };
 
 } // namespace tf::ui

@@ -85,6 +85,7 @@ MainWindow::MainWindow(QWidget *parent) : QMainWindow(parent)
     m_session.setView(this);
 
     createActions();
+    createAnimationActions();
     createMenus();
     createToolBar();
     createToolActions();
@@ -311,6 +312,7 @@ void MainWindow::createMenus()
     m_fileMenu->addAction(mn_Speichern);
     m_fileMenu->addAction(mn_SpeichernUnter);
     m_fileMenu->addAction(mn_AuswahlSpeichern);
+    m_fileMenu->addAction(mn_AnimationSpeichern);
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(mn_Fixieren);
     m_fileMenu->addAction(mn_Restaurieren);
@@ -389,6 +391,7 @@ void MainWindow::retranslate()
     mn_Speichern->setIconText(tr("Speichern"));
     mn_SpeichernUnter->setText(tr("Speichern &unter..."));
     mn_AuswahlSpeichern->setText(tr("Auswahl in Datei &speichern..."));
+    mn_AnimationSpeichern->setText(tr("Animation speichern..."));
     mn_Fixieren->setText(tr("Fixieren  <F4>"));
     mn_Fixieren->setIconText(tr("Fixieren"));
     mn_Restaurieren->setText(tr("Restaurieren"));

@@ -15,6 +15,7 @@
 #include "paint/session.h"
 #include "tools/editmenu.h"
 #include "tools/toolengine.h"
+#include "ui/animationdialog.h"
 #include "ui/guiprompter.h"
 #include "ui/guiyield.h"
 
@@ -40,6 +41,7 @@ class StatusBarSink;
 class TextDialog;
 class TileViewer;
 class MosaikShow;
+class TunnelDriver;
 
 class MainWindow : public QMainWindow, private SessionView, private ToolView {
     Q_OBJECT
@@ -147,6 +149,10 @@ private:
     void loadPalette();
     void systemPalette();
     void paintRunning(bool running);
+    // The plasma tunnel and the animation export (mainwindow_animation.cpp).
+    void createAnimationActions();
+    void tunnelRunning(bool running);
+    void exportAnimation();
     void showOptions();
     void openDialog();
     void saveAsDialog();
@@ -228,6 +234,9 @@ private:
     QAction *mn_SuperShow = nullptr;
     MosaikShow *m_mosaikShow = nullptr;
     MosaikShow &mosaikShow();
+    TunnelDriver *m_tunnel = nullptr;
+    QAction *mn_AnimationSpeichern = nullptr;
+    AnimationChoice m_animationChoice;
 };
 
 } // namespace tf::ui

@@ -4,6 +4,7 @@
 
 #include "core/pictureformats.h"
 #include "core/settings.h"
+#include "generators/tunnelrun.h"
 #include "paint/catalogue.h"
 #include "paint/grafmenu.h"
 #include "paint/paintdriver.h"
@@ -138,6 +139,11 @@ void MainWindow::chooseGroup(int group)
 
 void MainWindow::paint()
 {
+    // While the tunnel runs, Paint stops it, as it stops a paint.
+    if (m_session.runState().animating()) {
+        BtnPlasmaRepaint_Click(m_session, 1);
+        return;
+    }
     const qint64 before = m_session.workspace().Bild.Image().cacheKey();
     const bool painted = BtnPaint_Click(m_session) == PaintOutcome::Painted;
     if (painted && m_session.paint().lastPaint)

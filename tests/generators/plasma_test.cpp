@@ -207,11 +207,16 @@ TEST(PlasmaPalette, FourForms)
     EXPECT_EQ(twice[511], A);
 
     const Palette512 four = Plasma_Palette(a, b, 3, c, d);
-    EXPECT_EQ(four[127], B);
-    EXPECT_EQ(four[255], A);
+    EXPECT_EQ(four[0], A);
+    EXPECT_EQ(four[128], B);
     EXPECT_EQ(four[256], C);
-    EXPECT_EQ(four[383], D);
-    EXPECT_EQ(four[511], C);
+    EXPECT_EQ(four[384], D);
+    EXPECT_EQ(four[511], A); // back at the first
+    for (int i = 1; i < 512; ++i) {
+        const uint32_t p = four[size_t(i - 1)], q = four[size_t(i)];
+        for (int shift : {0, 8, 16})
+            ASSERT_LE(std::abs(int(p >> shift & 255) - int(q >> shift & 255)), 2) << i;
+    }
 
     // An unknown form is the plain ramp.
     EXPECT_EQ(Plasma_Palette(a, b, 7), ramp);

@@ -1,0 +1,50 @@
+#pragma once
+// The options of `paint`, which `animate` shares: what to paint, at which size and seed, with
+// which controls and colours.
+
+#include "core/colour.h"
+
+#include <QSize>
+#include <cstdint>
+#include <QString>
+#include <QStringList>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace tf {
+class Session;
+}
+
+namespace tf::cli {
+
+struct PaintOptions {
+    QString type;
+    QString output;
+    std::optional<QSize> size;
+    std::optional<uint32_t> seed;
+    std::vector<std::pair<QString, QString>> sets; // control, value as written
+    std::optional<ColorLong> fore, back, border;
+    std::optional<ColorLong> textFore, textBack; // the text dialog's colours
+    QString textFile;                            // --text-file: the text dialog's text
+    std::optional<bool> randomColors, randomValues;
+    std::optional<int> transparency;
+    QString over;
+    std::optional<int> duotones;    // the duotone box to set, 0 or 1
+    QString palette;                // a JASC palette file
+    std::optional<int> systemPalette;
+    bool keepSize = false;          // --over: a large picture at its own size
+    QString recipe;                 // paint the recipe of this picture file
+};
+
+// Reads the words of a paint command; a UsageError for a mistake.
+PaintOptions parsePaintOptions(const QStringList &words);
+// "WIDTHxHEIGHT"; a UsageError outside 1..14000.
+QSize parseSize(const QString &text);
+// The --set values and the transparency; a UsageError for an unknown control or value.
+void applyControls(Session &s, const PaintOptions &o);
+// Sets the colours, the palette and the duotone table as the colour dialog would; answers
+// false after a message when the palette cannot be loaded.
+bool applyColours(Session &s, const PaintOptions &o);
+
+} // namespace tf::cli
