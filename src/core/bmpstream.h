@@ -1,6 +1,9 @@
 #pragma once
 // Writing a picture as an uncompressed 24-bit bitmap row by row, so that a picture of any size
-// goes to a file through one row of memory and never through a converted copy.
+// (a 14000 x 14000 Superformat surface as well as the main window's picture) goes to a file
+// without a converted copy.
+
+#include "core/encoderows.h"
 
 #include <QImage>
 
@@ -10,7 +13,9 @@ namespace tf {
 
 // The 14-byte file header (bfSize the whole file, bfOffBits 54), a 40-byte info header with
 // the resolution in pixels per metre, then the rows bottom-up, each padded to 4 bytes. False
-// when a write fails or the picture is empty.
+// when a write fails or there are no rows.
+bool writeBmp24(const EncodeRows &rows, QIODevice &out, int dotsPerMetre = 0);
+// The same for a picture of any format.
 bool writeBmp24(const QImage &image, QIODevice &out, int dotsPerMetre = 0);
 
 } // namespace tf

@@ -1,5 +1,5 @@
 #include "files/jpegcodec.h"
-#include "files/encoderows.h"
+#include "core/encoderows.h"
 
 #include "core/dibsection.h"
 #include "core/numeric.h"
@@ -351,9 +351,7 @@ int encodeRows(ErrorState &err, DeviceDestination &dest, const EncodeRows &sourc
 
 } // namespace
 
-namespace {
-
-bool saveJpgRows(const EncodeRows &source, QIODevice &out, int quality, const PictureMeta &meta,
+bool SaveJPG(const EncodeRows &source, QIODevice &out, int quality, const PictureMeta &meta,
                  QString *why)
 {
     if (source.empty()) {
@@ -378,18 +376,16 @@ bool saveJpgRows(const EncodeRows &source, QIODevice &out, int quality, const Pi
     return false;
 }
 
-} // namespace
-
 bool SaveJPG(const cDIBSection &source, QIODevice &out, int quality, const PictureMeta &meta,
              QString *why)
 {
-    return saveJpgRows(EncodeRows::of(source), out, quality, meta, why);
+    return SaveJPG(EncodeRows::of(source), out, quality, meta, why);
 }
 
 bool SaveJPG(const QImage &source, QIODevice &out, int quality, const PictureMeta &meta,
              QString *why)
 {
-    return saveJpgRows(EncodeRows::of(source), out, quality, meta, why);
+    return SaveJPG(EncodeRows::of(source), out, quality, meta, why);
 }
 
 PictureMeta readJpegMeta(QByteArrayView bytes)

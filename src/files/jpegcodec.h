@@ -22,6 +22,7 @@ class QIODevice;
 namespace tf {
 
 class cDIBSection;
+struct EncodeRows;
 
 // The padding bytes of a row of `width` pixels of `channels` bytes: (width*channels + 3)
 // rounded down to a multiple of 4, less width*channels.
@@ -33,6 +34,9 @@ bool SaveJPG(const cDIBSection &source, QIODevice &out, int quality, const Pictu
              QString *why = nullptr);
 // The same from a picture's own pixels (RGB32 or ARGB32), without a copy.
 bool SaveJPG(const QImage &source, QIODevice &out, int quality, const PictureMeta &meta = {},
+             QString *why = nullptr);
+// The same from rows of either kind.
+bool SaveJPG(const EncodeRows &source, QIODevice &out, int quality, const PictureMeta &meta = {},
              QString *why = nullptr);
 
 // The density (as dots per inch) and the comment of a JPEG's header.

@@ -1,6 +1,7 @@
 #include "files/picturefile.h"
 
 #include "core/dibsection.h"
+#include "core/bmpstream.h"
 #include "files/bmpwriter.h"
 #include "files/jpegcodec.h"
 #include "files/pngcodec.h"
@@ -70,30 +71,23 @@ QString corruptPictureText(bool seeStatusBar)
 
 namespace {
 
-using Encoder = bool (*)(const QImage &, QIODevice &, const PictureMeta &, int quality, QString &);
+using Encoder = bool (*)(const EncodeRows &, QIODevice &, const PictureMeta &, int quality,
+                         QString &);
 
-// The picture's own pixels are encoded as they stand; another format is converted first.
-QImage encodable(const QImage &image)
+bool encodePng(const EncodeRows &rows, QIODevice &out, const PictureMeta &meta, int, QString &why)
 {
-    return image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32
-               ? image
-               : image.convertToFormat(QImage::Format_RGB32);
+    return SavePNG(rows, out, meta, &why);
 }
 
-bool encodePng(const QImage &image, QIODevice &out, const PictureMeta &meta, int, QString &why)
-{
-    return SavePNG(encodable(image), out, meta, &why);
-}
-
-bool encodeJpg(const QImage &image, QIODevice &out, const PictureMeta &meta, int quality,
+bool encodeJpg(const EncodeRows &rows, QIODevice &out, const PictureMeta &meta, int quality,
                QString &why)
 {
-    return SaveJPG(encodable(image), out, quality, meta, &why);
+    return SaveJPG(rows, out, quality, meta, &why);
 }
 
-bool encodeBmp(const QImage &image, QIODevice &out, const PictureMeta &meta, int, QString &)
+bool encodeBmp(const EncodeRows &rows, QIODevice &out, const PictureMeta &meta, int, QString &)
 {
-    return writeBmp(image, out, meta.dpi);
+    return writeBmp24(rows, out, dotsPerMetre(meta.dpi));
 }
 
 struct SaveType {
@@ -118,16 +112,27 @@ const SaveType *findSaveType(const QString &tag)
 
 } // namespace
 
-WriteResult savePicture(const QImage &image, const QString &path, const QString &SaveTypeTag,
-                        const PictureMeta &meta, int jpegQuality)
+WriteResult saveRows(const EncodeRows &rows, const QString &path, const QString &SaveTypeTag,
+                     const PictureMeta &meta, int jpegQuality)
 {
     const SaveType *type = findSaveType(SaveTypeTag);
-    if (!type)
+    if (!type || rows.empty())
         return {WriteFailure::Other,
                 writeFailureMessage(WriteFailure::Other, path, SaveTypeTag)};
     return writeFileSafely(path, [&](QIODevice &out, QString &why) {
-        return type->encode(image, out, meta, jpegQuality, why);
+        return type->encode(rows, out, meta, jpegQuality, why);
     });
+}
+
+WriteResult savePicture(const QImage &image, const QString &path, const QString &SaveTypeTag,
+                        const PictureMeta &meta, int jpegQuality)
+{
+    // The picture's own pixels are encoded as they stand; another format is converted first.
+    const QImage pixels =
+        image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32
+            ? image
+            : image.convertToFormat(QImage::Format_RGB32);
+    return saveRows(EncodeRows::of(pixels), path, SaveTypeTag, meta, jpegQuality);
 }
 
 QImage readPictureForCommand(const QString &path, LoadLimit limit, QString &message)
@@ -145,8 +150,8 @@ QImage readPictureForCommand(const QString &path, LoadLimit limit, QString &mess
     return r.image;
 }
 
-bool writePictureForCommand(const QImage &image, const QString &path, const PictureMeta &meta,
-                            QString &message)
+bool writeRowsForCommand(const EncodeRows &rows, const QString &path, const PictureMeta &meta,
+                         QString &message)
 {
     const QString tag = saveTypeOfSuffix(path);
     if (tag.isEmpty()) {
@@ -156,9 +161,19 @@ bool writePictureForCommand(const QImage &image, const QString &path, const Pict
                       .arg(path);
         return false;
     }
-    const WriteResult r = savePicture(image, path, tag, meta);
+    const WriteResult r = saveRows(rows, path, tag, meta);
     message = r.message;
     return r.ok();
+}
+
+bool writePictureForCommand(const QImage &image, const QString &path, const PictureMeta &meta,
+                            QString &message)
+{
+    const QImage pixels =
+        image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32
+            ? image
+            : image.convertToFormat(QImage::Format_RGB32);
+    return writeRowsForCommand(EncodeRows::of(pixels), path, meta, message);
 }
 
 PictureMeta readPictureMeta(const QString &path)

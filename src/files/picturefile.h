@@ -10,6 +10,7 @@
 // failure leaves the old file as it was; PNG and JPEG carry the picture's meta data.
 
 #include "files/decode.h"
+#include "core/encoderows.h"
 #include "files/picturemeta.h"
 #include "files/safefile.h"
 
@@ -43,6 +44,10 @@ QString corruptPictureText(bool seeStatusBar = false);
 // Writes `image` as the type of `SaveTypeTag` ("PNG", "JPG", "BMP") to `path`.
 WriteResult savePicture(const QImage &image, const QString &path, const QString &SaveTypeTag,
                         const PictureMeta &meta = {}, int jpegQuality = 100);
+// The same from rows of a picture or a surface (see encoderows.h): one table of the types for
+// both.
+WriteResult saveRows(const EncodeRows &rows, const QString &path, const QString &SaveTypeTag,
+                     const PictureMeta &meta = {}, int jpegQuality = 100);
 
 // The pair the command line reads and writes pictures through. readPictureFile answers a null
 // image after putting the corrupt-picture message (and the detail) into `message`;
@@ -51,6 +56,9 @@ WriteResult savePicture(const QImage &image, const QString &path, const QString 
 QImage readPictureForCommand(const QString &path, LoadLimit limit, QString &message);
 bool writePictureForCommand(const QImage &image, const QString &path, const PictureMeta &meta,
                             QString &message);
+// The same from rows of a picture or a surface.
+bool writeRowsForCommand(const EncodeRows &rows, const QString &path, const PictureMeta &meta,
+                         QString &message);
 
 // The meta data a picture file carries (PNG and JPEG; empty for other files).
 PictureMeta readPictureMeta(const QString &path);

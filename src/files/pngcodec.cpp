@@ -1,5 +1,5 @@
 #include "files/pngcodec.h"
-#include "files/encoderows.h"
+#include "core/encoderows.h"
 
 #include "core/dibsection.h"
 #include "files/picturelimits.h"
@@ -477,9 +477,7 @@ int writeRows(WriteState &state, const EncodeRows &source, int dpi, TextChunks &
 
 } // namespace
 
-namespace {
-
-bool savePngRows(const EncodeRows &source, QIODevice &out, const PictureMeta &meta, QString *why)
+bool SavePNG(const EncodeRows &source, QIODevice &out, const PictureMeta &meta, QString *why)
 {
     if (source.empty()) {
         if (why)
@@ -499,16 +497,14 @@ bool savePngRows(const EncodeRows &source, QIODevice &out, const PictureMeta &me
     return false;
 }
 
-} // namespace
-
 bool SavePNG(const cDIBSection &source, QIODevice &out, const PictureMeta &meta, QString *why)
 {
-    return savePngRows(EncodeRows::of(source), out, meta, why);
+    return SavePNG(EncodeRows::of(source), out, meta, why);
 }
 
 bool SavePNG(const QImage &source, QIODevice &out, const PictureMeta &meta, QString *why)
 {
-    return savePngRows(EncodeRows::of(source), out, meta, why);
+    return SavePNG(EncodeRows::of(source), out, meta, why);
 }
 
 } // namespace tf

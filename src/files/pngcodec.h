@@ -21,6 +21,7 @@ class QIODevice;
 namespace tf {
 
 class cDIBSection;
+struct EncodeRows;
 
 // The size from the header alone (signature and IHDR), without decoding a row. False when
 // the file is not a PNG or cannot be read.
@@ -44,6 +45,9 @@ bool SavePNG(const cDIBSection &source, QIODevice &out, const PictureMeta &meta 
              QString *why = nullptr);
 // The same from a picture's own pixels (RGB32 or ARGB32, alpha not written), without a copy.
 bool SavePNG(const QImage &source, QIODevice &out, const PictureMeta &meta = {},
+             QString *why = nullptr);
+// The same from rows of either kind.
+bool SavePNG(const EncodeRows &source, QIODevice &out, const PictureMeta &meta = {},
              QString *why = nullptr);
 
 } // namespace tf
