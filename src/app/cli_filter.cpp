@@ -279,7 +279,9 @@ int runFilter(const QStringList &args)
         // The colour mix takes the session's background colour, as "Backgroundcolor" does,
         // unless a colour is given.
         if (st.row && st.row->number == 45 && !st.colourGiven) st.args.colours[0] = s.colours().ColorBack;
-        const bool ok = st.row ? DoGraficFilters(s, st.row->runsAs(), picture, st.args)
+        // Nothing is written after a fault: the picture may serve as the filter's array.
+        const bool ok = st.row ? DoGraficFilters(s, st.row->runsAs(), picture, st.args,
+                                                 OnFault::PictureSpent)
                                : (colourisePicture(s, picture, SepiaValues), true);
         if (!ok || prompter.faultSeen()) {
             printError(QCoreApplication::translate("Cli", "Das Filtern ist fehlgeschlagen."));

@@ -41,6 +41,12 @@ private:
 
 bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &args)
 {
+    return DoGraficFilters(s, number, picture, args, OnFault::KeepPicture);
+}
+
+bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &args,
+                     OnFault onFault)
+{
     if (s.runState().filtering()) return false;
     BusyScope busy(s);
     if (picture.width() < 1 || picture.height() < 1) return true;
@@ -49,7 +55,9 @@ bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &
     return guarded(QStringLiteral("DoGraficFilters [%1]").arg(number), [&] {
         // The arrays' size is checked as the workspace would size them.
         checkedMul<int32_t>(checkedMul<int32_t>(picture.width(), 4), picture.height());
-        FilterWorkspace ws(picture, row->reads);
+        FilterWorkspace ws = onFault == OnFault::PictureSpent
+                                 ? FilterWorkspace(std::move(picture), row->reads)
+                                 : FilterWorkspace(picture, row->reads);
         FilterRun run(ws.D(), ws.S(), args, s);
         row->kernel(run);
         run.progress(100);

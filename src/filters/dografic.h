@@ -23,6 +23,13 @@ class Session;
 // the call was refused (busy) or a fault was reported.
 bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &args);
 
+// Whether a caller needs its picture as it was should the filter fault. A batch run that
+// writes nothing after a fault gives it up, and a routine that reads only its destination
+// then works on the picture's own bytes: one picture in memory instead of two.
+enum class OnFault { KeepPicture, PictureSpent };
+bool DoGraficFilters(Session &s, int number, QImage &picture, const FilterArgs &args,
+                     OnFault onFault);
+
 // The two-picture entry of the 3-D Blurize family (blurize.h): selector 1 GBlurBMPs, 2
 // GBlurPictureBMPs, 3 and 4 the blends, on `first` and `second` (brought to the size of
 // `second`) with the slider values of `args`. The result is in `second`. Other selectors change

@@ -53,6 +53,16 @@ FilterWorkspace::FilterWorkspace(const QImage &picture, Reads reads)
     if (reads == Reads::Steps) m_src.detach();
 }
 
+FilterWorkspace::FilterWorkspace(QImage &&picture, Reads reads) : m_reads(reads)
+{
+    if (reads != Reads::Dst || picture.format() != QImage::Format_RGB32) {
+        *this = FilterWorkspace(static_cast<const QImage &>(picture), reads);
+        return;
+    }
+    m_dst = std::move(picture);
+    m_dst.detach(); // a copy only when someone else still holds the bytes
+}
+
 PixelPlane FilterWorkspace::S()
 {
     if (m_reads == Reads::Dst) return plane(m_dst);

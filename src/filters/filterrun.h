@@ -134,6 +134,9 @@ private:
 class FilterWorkspace {
 public:
     FilterWorkspace(const QImage &picture, Reads reads);
+    // The same from a picture its owner gives up: a routine that reads only D then works on
+    // the picture's own bytes (no copy), as a batch run that writes nothing after a fault may.
+    FilterWorkspace(QImage &&picture, Reads reads);
     PixelPlane D() { return plane(m_dst); }
     PixelPlane S();
     // The result, ready to be written back.
