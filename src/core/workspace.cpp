@@ -141,8 +141,10 @@ void Workspace::UndoBlt_auf_Bild(PictureBox &picdst, int xDst, int yDst, int wds
             picdst.markChanged(QRect(xDst, yDst, wdst, hdst));
         }
         if (fromFile) {
-            Bild_Buff.setPicture(QImage());
+            // Shrunk first: cleared at full size, the buffer would copy the undo image that
+            // its pixels still share before it fills them.
             Bild_Buff.resize(10, 10);
+            Bild_Buff.setPicture(QImage());
         }
     });
 }

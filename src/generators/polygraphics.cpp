@@ -18,16 +18,15 @@ void paintBackgroundcolor(PaintContext &ctx)
     const int w = ctx.opt.W;
     const int h = ctx.opt.H;
     if (ctx.opt.TranspPercent >= 2 && ctx.opt.TranspPercent <= 98) {
-        // The mix works on a copy in the work picture (filter 45, the colour mix) and comes
-        // back in one block copy.
-        PictureBox &work = ctx.XWork;
-        BitBlt(work.hDC(), 0, 0, w, h, &target.hDC(), 0, 0, SRCCOPY);
+        // The colour mix (filter 45) works on a copy of the picture, which then takes the
+        // picture's place in one piece: one copy, not two, of a picture of any size.
+        QImage mixed = target.Image();
         FilterArgs mix;
         mix.colours[0] = colour;
         mix.sliders[0] = ctx.opt.TranspPercent;
-        DoGraficFilters(ctx.session, 45, work.mutableImage(), mix);
-        work.markChanged();
-        BitBlt(target.hDC(), 0, 0, w, h, &work.hDC(), 0, 0, SRCCOPY);
+        DoGraficFilters(ctx.session, 45, mixed, mix);
+        if (!target.replaceImage(mixed))
+            target.PaintPicture(mixed, 0, 0);
         target.markChanged();
         return;
     }
