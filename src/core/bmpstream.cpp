@@ -3,6 +3,8 @@
 #include <QIODevice>
 #include <QtEndian>
 #include <algorithm>
+#include <cstdlib>
+#include <limits>
 #include <vector>
 
 namespace tf {
@@ -69,6 +71,95 @@ bool writeBmp24(const QImage &source, QIODevice &out, int dotsPerMetre)
                              ? source
                              : source.convertToFormat(QImage::Format_RGB32);
     return writeBmp24(EncodeRows::of(image), out, dotsPerMetre);
+}
+
+namespace {
+
+struct PlainBmp {
+    int width = 0, height = 0, bytesPerPixel = 0;
+    bool topDown = false;
+    qint64 rowSize = 0;
+    quint32 offBits = 0;
+};
+
+// The header's first 54 bytes of a file of `fileSize` bytes.
+bool plainBmp(QByteArrayView b, qint64 fileSize, PlainBmp &bmp)
+{
+    if (b.size() < 54 || b[0] != 'B' || b[1] != 'M')
+        return false;
+    const auto *p = reinterpret_cast<const uchar *>(b.data());
+    const quint32 offBits = qFromLittleEndian<quint32>(p + 10);
+    const quint32 headerSize = qFromLittleEndian<quint32>(p + 14);
+    const qint32 w = qFromLittleEndian<qint32>(p + 18);
+    const qint32 h = qFromLittleEndian<qint32>(p + 22);
+    const int planes = qFromLittleEndian<quint16>(p + 26);
+    const int bits = qFromLittleEndian<quint16>(p + 28);
+    const quint32 compression = qFromLittleEndian<quint32>(p + 30);
+    if (headerSize < 40 || planes != 1 || compression != 0 || (bits != 24 && bits != 32) ||
+        w < 1 || h == 0 || h == std::numeric_limits<qint32>::min())
+        return false;
+    bmp.width = w;
+    bmp.height = std::abs(h);
+    bmp.topDown = h < 0;
+    bmp.bytesPerPixel = bits / 8;
+    bmp.rowSize = (qint64(w) * bmp.bytesPerPixel + 3) / 4 * 4;
+    bmp.offBits = offBits;
+    return offBits >= 14 + headerSize && qint64(offBits) + bmp.rowSize * bmp.height <= fileSize;
+}
+
+// One row of the file into picture row y.
+void convertRow(const PlainBmp &bmp, const uchar *src, QImage &image, int fileRow)
+{
+    const int y = bmp.topDown ? fileRow : bmp.height - 1 - fileRow;
+    auto *dst = reinterpret_cast<QRgb *>(image.scanLine(y));
+    for (int x = 0; x < bmp.width; ++x, src += bmp.bytesPerPixel)
+        dst[x] = 0xFF000000u | uint(src[2]) << 16 | uint(src[1]) << 8 | src[0];
+}
+
+} // namespace
+
+QSize plainBmpSize(QByteArrayView bytes)
+{
+    PlainBmp bmp;
+    return plainBmp(bytes, bytes.size(), bmp) ? QSize(bmp.width, bmp.height) : QSize();
+}
+
+QImage readPlainBmp(QByteArrayView bytes)
+{
+    PlainBmp bmp;
+    if (!plainBmp(bytes, bytes.size(), bmp))
+        return {};
+    QImage image(bmp.width, bmp.height, QImage::Format_RGB32);
+    if (image.isNull())
+        return {};
+    const auto *pixels = reinterpret_cast<const uchar *>(bytes.data()) + bmp.offBits;
+    for (int r = 0; r < bmp.height; ++r)
+        convertRow(bmp, pixels + bmp.rowSize * r, image, r);
+    return image;
+}
+
+QImage readPlainBmp(QIODevice &in)
+{
+    PlainBmp bmp;
+    const QByteArray head = in.peek(54);
+    if (!plainBmp(head, in.size(), bmp) || !in.seek(bmp.offBits))
+        return {};
+    QImage image(bmp.width, bmp.height, QImage::Format_RGB32);
+    if (image.isNull())
+        return {};
+    // Rows come in batches of about a megabyte straight into the picture.
+    const int batchRows = int(std::max<qint64>(1, (1 << 20) / bmp.rowSize));
+    std::vector<char> batch(size_t(bmp.rowSize) * size_t(batchRows));
+    for (int r = 0; r < bmp.height; r += batchRows) {
+        const int n = std::min(batchRows, bmp.height - r);
+        const qint64 bytes = bmp.rowSize * n;
+        if (in.read(batch.data(), bytes) != bytes)
+            return {};
+        for (int k = 0; k < n; ++k)
+            convertRow(bmp, reinterpret_cast<const uchar *>(batch.data()) + bmp.rowSize * k,
+                       image, r + k);
+    }
+    return image;
 }
 
 } // namespace tf

@@ -5,7 +5,9 @@
 
 #include "core/encoderows.h"
 
+#include <QByteArrayView>
 #include <QImage>
+#include <QSize>
 
 class QIODevice;
 
@@ -17,5 +19,15 @@ namespace tf {
 bool writeBmp24(const EncodeRows &rows, QIODevice &out, int dotsPerMetre = 0);
 // The same for a picture of any format.
 bool writeBmp24(const QImage &image, QIODevice &out, int dotsPerMetre = 0);
+
+// The common bitmaps, uncompressed 24 or 32 bits a pixel (what writeBmp24 writes, and what
+// most programs write): the size `bytes` declare, or an empty size when they are not one of
+// them or the file is cut short.
+QSize plainBmpSize(QByteArrayView bytes);
+// Such a bitmap decoded in one pass into an RGB32 picture; a null picture for any other.
+QImage readPlainBmp(QByteArrayView bytes);
+// The same from a file, read in batches of rows (a mapped or wholly read file would stand
+// beside the picture in memory).
+QImage readPlainBmp(QIODevice &in);
 
 } // namespace tf

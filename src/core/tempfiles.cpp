@@ -28,8 +28,13 @@ QImage readPictureFile(const QString &path)
 {
     if (!QFileInfo(path).isFile())
         throw Fault(Fault::FileNotFound);
+    // Our own bitmaps are read by our own reader: Qt's refuses pictures past its allocation
+    // limit, and an undo image of 4096 x 4096 is one of them.
+    QFile f(path);
     QImage image;
-    if (!image.load(path))
+    if (f.open(QIODevice::ReadOnly))
+        image = readPlainBmp(f);
+    if (image.isNull() && !image.load(path))
         throw Fault(Fault::InvalidPicture);
     return image;
 }

@@ -1,5 +1,6 @@
 // BMP and GIF through Qt's readers, after our own look at the sizes their headers declare.
 #include "files/decode.h"
+#include "core/bmpstream.h"
 #include "files/reduce.h"
 
 #include <QBuffer>
@@ -95,49 +96,26 @@ Decoded decodeWithQt(QByteArrayView bytes, const DecodeRequest &request, const c
 
 // The common bitmaps, uncompressed 24 and 32 bits a pixel, are read straight into the
 // picture: a 4096 x 4096 file then costs one pass over its bytes. Everything else (palettes,
-// run-length coding, bit fields, the old 12-byte header) goes through Qt's reader. Answers
-// false when this bitmap is not one of the common ones.
-bool decodePlainBmp(QByteArrayView b, const DecodeRequest &request, Decoded &d)
+// run-length coding, bit fields, the old 12-byte header, a file cut short) goes through Qt's
+// reader. Answers false when this bitmap is not one of the common ones.
+bool decodePlainBmp(QByteArrayView bytes, const DecodeRequest &request, Decoded &d)
 {
-    if (b.size() < 54)
+    const QSize size = plainBmpSize(bytes);
+    if (size.isEmpty())
         return false;
-    const auto *p = reinterpret_cast<const uchar *>(b.data());
-    const quint32 offBits = qFromLittleEndian<quint32>(p + 10);
-    const quint32 headerSize = qFromLittleEndian<quint32>(p + 14);
-    const qint32 w = qFromLittleEndian<qint32>(p + 18);
-    const qint32 hSigned = qFromLittleEndian<qint32>(p + 22);
-    const int planes = qFromLittleEndian<quint16>(p + 26);
-    const int bits = qFromLittleEndian<quint16>(p + 28);
-    const quint32 compression = qFromLittleEndian<quint32>(p + 30);
-    if (headerSize < 40 || planes != 1 || compression != 0 || (bits != 24 && bits != 32) ||
-        w < 1 || hSigned == 0 || hSigned == std::numeric_limits<qint32>::min())
-        return false;
-    const bool topDown = hSigned < 0;
-    const int h = std::abs(hSigned);
-    const qint64 rowSize = (qint64(w) * (bits / 8) + 3) / 4 * 4;
-    // A file cut short goes to Qt's reader, which knows what to make of it.
-    if (offBits < 14 + headerSize || qint64(offBits) + rowSize * h > b.size())
-        return false;
-    const QString refused = checkDeclaredSize(QSize(w, h), b.size(), 8.0 / bits);
+    const int bits = qFromLittleEndian<quint16>(bytes.data() + 28);
+    const QString refused = checkDeclaredSize(size, bytes.size(), 8.0 / bits);
     if (!refused.isEmpty()) {
-        d = Decoded::failure(refused, QSize(w, h));
+        d = Decoded::failure(refused, size);
         return true;
     }
-    QImage image(w, h, QImage::Format_RGB32);
+    const QImage image = readPlainBmp(bytes);
     if (image.isNull()) {
-        d = Decoded::failure(decodetext::tooLarge(QSize(w, h)), QSize(w, h));
+        d = Decoded::failure(decodetext::tooLarge(size), size);
         return true;
-    }
-    const uchar *pixels = p + offBits;
-    const int step = bits / 8;
-    for (int y = 0; y < h; ++y) {
-        const uchar *src = pixels + rowSize * (topDown ? y : h - 1 - y);
-        auto *dst = reinterpret_cast<QRgb *>(image.scanLine(y));
-        for (int x = 0; x < w; ++x, src += step)
-            dst[x] = 0xFF000000u | uint(src[2]) << 16 | uint(src[1]) << 8 | src[0];
     }
     d = Decoded{};
-    d.stored = QSize(w, h);
+    d.stored = size;
     d.image = resampledImage(image, loadedSize(d.stored, request));
     return true;
 }
