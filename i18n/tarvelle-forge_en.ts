@@ -1,5 +1,4 @@
-<?xml version="1.0" encoding="utf-8"?>
-<!DOCTYPE TS>
+<?xml version='1.0' encoding='utf-8'?>
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
     <name>Blurize</name>
@@ -132,7 +131,7 @@
     </message>
     <message>
         <source>„%1“ konnte nicht gemalt werden.</source>
-        <translation>&quot;%1&quot; could not be painted.</translation>
+        <translation>"%1" could not be painted.</translation>
     </message>
     <message>
         <source>Ungültige Größe: %1 (BxH)</source>
@@ -175,16 +174,16 @@
         <translation>The transformation failed.</translation>
     </message>
     <message>
-        <source>%1 erwartet eine Zahl von 0 bis 14000, nicht &quot;%2&quot;</source>
-        <translation>%1 expects a number from 0 to 14000, not &quot;%2&quot;</translation>
+        <source>%1 erwartet eine Zahl von 0 bis 14000, nicht "%2"</source>
+        <translation>%1 expects a number from 0 to 14000, not "%2"</translation>
     </message>
     <message>
         <source>Aufruf: tarvelle-forge passepartouts [--data DATEI]</source>
         <translation>Usage: tarvelle-forge passepartouts [--data FILE]</translation>
     </message>
     <message>
-        <source>--gradient erwartet on oder off, nicht &quot;%1&quot;</source>
-        <translation>--gradient expects on or off, not &quot;%1&quot;</translation>
+        <source>--gradient erwartet on oder off, nicht "%1"</source>
+        <translation>--gradient expects on or off, not "%1"</translation>
     </message>
     <message>
         <source>Unbekannte Angabe: %1</source>
@@ -195,8 +194,8 @@
         <translation>Usage: tarvelle-forge passepartout --set NAME PICTURE -o OUTPUT</translation>
     </message>
     <message>
-        <source>Es gibt kein Passepartout &quot;%1&quot; (siehe tarvelle-forge passepartouts).</source>
-        <translation>There is no passepartout &quot;%1&quot; (see tarvelle-forge passepartouts).</translation>
+        <source>Es gibt kein Passepartout "%1" (siehe tarvelle-forge passepartouts).</source>
+        <translation>There is no passepartout "%1" (see tarvelle-forge passepartouts).</translation>
     </message>
     <message>
         <source>Das Bild im Passepartout wäre größer als 14000 Pixel.</source>
@@ -1169,6 +1168,34 @@
         <source>Speed</source>
         <translation>Speed</translation>
     </message>
+    <message>
+        <source>Textraster</source>
+        <translation>Text grid</translation>
+    </message>
+    <message>
+        <source>Teilung</source>
+        <translation>Split</translation>
+    </message>
+    <message>
+        <source>Mix</source>
+        <translation>Mix</translation>
+    </message>
+    <message>
+        <source>Buchstaben</source>
+        <translation>Single letters</translation>
+    </message>
+    <message>
+        <source>Wörter</source>
+        <translation>Only words</translation>
+    </message>
+    <message>
+        <source>Rahmen zeichnen</source>
+        <translation>Draw frames</translation>
+    </message>
+    <message>
+        <source>Mindestschrift +8</source>
+        <translation>Smallest font +8</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -1311,7 +1338,7 @@
     </message>
     <message>
         <source>„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.</source>
-        <translation>&quot;%1&quot; paints nothing yet: its painter is not built in.</translation>
+        <translation>"%1" paints nothing yet: its painter is not built in.</translation>
     </message>
     <message>
         <source>Startwert %1</source>
@@ -2358,7 +2385,7 @@
     </message>
     <message>
         <source>Es gibt keine Animation zum Speichern: starten Sie zuerst den Tunnel des Plasmas.</source>
-        <translation>There is no animation to save: start the plasma&apos;s tunnel first.</translation>
+        <translation>There is no animation to save: start the plasma's tunnel first.</translation>
     </message>
     <message>
         <source>Animiertes PNG (*.png)</source>
