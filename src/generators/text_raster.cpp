@@ -114,14 +114,20 @@ std::vector<QRect> rasterFrames(PaintContext &ctx, RasterForm form, const Raster
     return frames;
 }
 
-// A text colour from the table: a cell that is neither blank nor white.
+// White and the palest greys of the table would hardly show on a white picture.
+bool paleColour(ColorLong c)
+{
+    return RedOf(c) >= 215 && GreenOf(c) >= 215 && BlueOf(c) >= 215;
+}
+
+// A text colour from the table: a cell that is neither blank nor pale.
 ColorLong frameColour(PaintContext &ctx)
 {
     const ColourState &c = ctx.colours();
     const int upper = int(c.DuoColors.size()) - 1;
     for (int i = 0; i < ColourDraws && upper >= 1; ++i) {
         const std::optional<ColorLong> cell = duoCell(c, int(Int(rnd(ctx) * upper)) + 1);
-        if (cell && *cell != NoColour && (*cell & 0xFFFFFF) != 0xFFFFFF) return *cell;
+        if (cell && *cell != NoColour && !paleColour(*cell)) return *cell;
     }
     return c.TextFore;
 }

@@ -156,3 +156,30 @@ TEST_F(TextWindowTest, ATextFileLoadsIntoTheDialogInItsEncoding)
     EXPECT_EQ(dialog()->findChild<ui::ColourField *>(QStringLiteral("txtForeColor"))->colour(),
               RGB(10, 200, 30));
 }
+
+TEST_F(TextWindowTest, TheRasterTextsShowTheirPanelAndPaintTheDialogsText)
+{
+    choose("TEXT-Mondrian-Raster");
+    EXPECT_TRUE(dialog()->isVisible());
+    EXPECT_EQ(window->findChild<ui::FeatDialogDock *>()->currentPanel(),
+              QStringLiteral("feat_02OrthoText1"));
+    auto *split = window->findChild<QComboBox *>(QStringLiteral("cmbOrthoT1_Split"));
+    ASSERT_NE(split, nullptr);
+    ASSERT_EQ(split->count(), 3);
+    EXPECT_EQ(split->itemText(2), QStringLiteral("Wörter"));
+    dialog()->findChild<QPlainTextEdit *>(QStringLiteral("txtOrthoIn"))
+        ->setPlainText(QStringLiteral("Größe Übermaß Äpfel Öl Füße"));
+    window->findChild<QPushButton *>(QStringLiteral("BtnPaint"))->click();
+    QApplication::processEvents();
+    EXPECT_FALSE(ink().isEmpty());
+    window->findChild<ui::FeatDialogDock *>()->raise();
+    screenshot(*window, "text-mondrian-raster");
+
+    choose("TEXT-Spiral-Raster");
+    EXPECT_EQ(window->findChild<ui::FeatDialogDock *>()->currentPanel(),
+              QStringLiteral("feat_02OrthoText1"));
+    window->findChild<QPushButton *>(QStringLiteral("BtnPaint"))->click();
+    QApplication::processEvents();
+    EXPECT_FALSE(ink().isEmpty());
+    screenshot(*window, "text-spiral-raster");
+}
