@@ -8,6 +8,7 @@
 #include "core/gdi.h"
 #include "core/numeric.h"
 #include "core/picturebox.h"
+#include "core/status.h"
 #include "generators/longrun.h"
 #include "generators/mondrianlayout.h"
 #include "generators/textdraw.h"
@@ -16,6 +17,7 @@
 #include "paint/mondriantables.h"
 #include "paint/painter.h"
 #include "paint/session.h"
+#include "paint/textstate.h"
 #include "paint/transparency.h"
 
 #include <QFontMetricsF>
@@ -164,7 +166,6 @@ void fillFrame(PaintContext &ctx, PictureBox &pic, const QRect &frame, RasterTex
     const RasterKind kind = rasterKind(fw, fh, o.minFont, o.split);
     if (kind == RasterKind::Empty) return;
     font.size = std::max(1.0, rasterFontSize(kind, fw, fh));
-    mixFont(ctx, font);
     pic.setForeColor(frameColour(ctx));
     DeviceContext &dc = pic.hDC();
     dc.setClip(inner);
@@ -256,7 +257,12 @@ void drawMondrianText(PaintContext &ctx, RasterForm form)
             for (int x = f.left(); x <= f.right(); ++x) SetPixel(dc, x, f.top(), line);
             for (int y = f.top(); y <= f.bottom(); ++y) SetPixel(dc, f.left(), y, line);
         }
-        fillFrame(ctx, pic, f, text, o, font);
+        // With the mix of fonts every frame draws its own; the first is named in the status bar.
+        TextFont frameFont = font;
+        mixFont(ctx, frameFont);
+        if (&f == &frames.front() && s.text().UseMixFonts)
+            s.status().setPanelText(sbrFont, QStringLiteral("#1 ") + frameFont.name);
+        fillFrame(ctx, pic, f, text, o, frameFont);
         if (!stop.next()) break;
     }
     if (o.frames && !frames.empty()) {

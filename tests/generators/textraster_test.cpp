@@ -9,6 +9,8 @@
 #include "paint/colourstate.h"
 #include "paint/mondriantables.h"
 #include "paint/session.h"
+#include "paint/textstate.h"
+#include "core/status.h"
 
 #include <QRect>
 #include <set>
@@ -205,6 +207,27 @@ TEST_F(RasterPaintTest, FrameLinesOutlineTheGrid)
         EXPECT_EQ(image().pixel(399, y) & 0xFFFFFF, 0u);
     }
     for (int x = 0; x < 400; x += 7) EXPECT_EQ(image().pixel(x, 299) & 0xFFFFFF, 0u);
+}
+
+} // namespace
+
+namespace {
+
+TEST_F(RasterPaintTest, MixedFontsNameTheFirstInTheStatusBar)
+{
+    RecordingStatus status;
+    s.setStatus(&status);
+    set("XText_Mixfonts", QStringLiteral("1"));
+    set("txtOrthoIn", QStringLiteral("Mischung"));
+    ASSERT_EQ(paint("TEXT-Simple-Raster"), PaintOutcome::Painted);
+    const QString first = status.panelText(sbrFont);
+    ASSERT_TRUE(first.startsWith(QStringLiteral("#1 "))) << first.toStdString();
+    EXPECT_TRUE(s.text().FontList.contains(first.mid(3)));
+
+    set("XText_Mixfonts", QStringLiteral("0"));
+    ASSERT_EQ(paint("TEXT-Simple-Raster"), PaintOutcome::Painted);
+    EXPECT_TRUE(status.panelText(sbrFont).isEmpty());
+    s.setStatus(nullptr);
 }
 
 } // namespace
