@@ -21,6 +21,7 @@
 #include "paint/transparency.h"
 
 #include <QFontMetricsF>
+#include <QRegularExpression>
 #include <algorithm>
 #include <cmath>
 
@@ -234,9 +235,16 @@ void drawMondrianText(PaintContext &ctx, RasterForm form)
         prepared = QString::fromLatin1(FoxSample);
     if (o.bigLetters) prepared = prepared.toUpper();
     RasterText text;
-    text.words = prepared.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    // Tabs and other white space part words as blanks do; none of them is a letter.
+    static const QRegularExpression space(QStringLiteral("\\s+"));
+    text.words = prepared.split(space, Qt::SkipEmptyParts);
+    if (text.words.isEmpty()) {
+        // Blanks and line breaks only: nothing a frame could hold, so the sample.
+        text.words = QString::fromLatin1(LatinSample).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        if (o.bigLetters)
+            for (QString &w : text.words) w = w.toUpper();
+    }
     text.letters = text.words.join(QString());
-    if (text.letters.isEmpty()) return;
 
     const bool duo = s.colours().XDuotones[0] || s.colours().XDuotones[1];
     Set_Duo_Colortable(s, 0, true,

@@ -194,6 +194,13 @@ TEST_F(RasterPaintTest, SpiralAndEmptyTextPaintTheSample)
         EXPECT_LE(coloursWithin(f).size(), 1u);
 }
 
+TEST_F(RasterPaintTest, BlanksOnlyPaintTheSample)
+{
+    set("txtOrthoIn", QStringLiteral("  \n\t "));
+    ASSERT_EQ(paint("TEXT-Simple-Raster"), PaintOutcome::Painted);
+    EXPECT_FALSE(inkWithin(QRect(0, 0, 400, 300)).isEmpty());
+}
+
 TEST_F(RasterPaintTest, FrameLinesOutlineTheGrid)
 {
     set("XOrthoT1", QStringLiteral("1"), 3);
