@@ -15,6 +15,7 @@
 #include "paint/colourstate.h"
 #include "paint/duocolortable.h"
 #include "paint/mondriantables.h"
+#include "paint/paintdriver.h"
 #include "paint/painter.h"
 #include "paint/session.h"
 #include "paint/textstate.h"
@@ -77,14 +78,9 @@ RasterOptions readOptions(PaintContext &ctx)
     return o;
 }
 
-// The frames of a form, in picture coordinates.
-std::vector<QRect> rasterFrames(PaintContext &ctx, RasterForm form, const RasterOptions &o)
+// The layout of the Mondrian and the simple form in the session's frame tables.
+void buildLayout(Session &s, RasterForm form, const RasterOptions &o, const QRect &area)
 {
-    const QRect area(o.margin, o.margin, std::max(1, ctx.opt.W - 2 * o.margin),
-                     std::max(1, ctx.opt.H - 2 * o.margin));
-    if (form == RasterForm::Spiral) return spiralFrames(area, o.h, o.v, o.minFont);
-
-    Session &s = ctx.session;
     MondrianTables &t = s.mondrian();
     t.MondrianW = area.width();
     t.MondrianH = area.height();
@@ -107,7 +103,24 @@ std::vector<QRect> rasterFrames(PaintContext &ctx, RasterForm form, const Raster
     a.Mode = MondrianStandard;
     a.Unit = 1.0f;
     CreateArr_Mondrian_Splits(s, a);
+}
 
+// The frames of a form, in picture coordinates.
+std::vector<QRect> rasterFrames(PaintContext &ctx, RasterForm form, const RasterOptions &o)
+{
+    const QRect area(o.margin, o.margin, std::max(1, ctx.opt.W - 2 * o.margin),
+                     std::max(1, ctx.opt.H - 2 * o.margin));
+    if (form == RasterForm::Spiral) return spiralFrames(area, o.h, o.v, o.minFont);
+
+    Session &s = ctx.session;
+    MondrianTables &t = s.mondrian();
+    // "Repaint letztes Set" keeps the frames of the last text grid while they fit.
+    const bool keep = form == RasterForm::Mondrian && t.RepaintAsked && t.holdsLayout() &&
+                      t.MondrianLastType == TextGridType && t.MondrianMargin == o.margin &&
+                      t.MondrianW == area.width() && t.MondrianH == area.height() &&
+                      (ctx.colours().RandomValues ||
+                       (t.MondrianLastH == o.h && t.MondrianLastV == o.v));
+    if (!keep) buildLayout(s, form, o, area);
     std::vector<QRect> frames;
     for (const MondrianFrame &f : mondrianFrames(t)) {
         if (f.right <= f.left || f.bottom <= f.top) continue;
@@ -357,6 +370,21 @@ QString RasterText::takeWord()
 void Draw_MondrianText(PaintContext &ctx, RasterForm form)
 {
     guarded(QStringLiteral("Draw_MondrianText"), [&] { drawMondrianText(ctx, form); });
+}
+
+PaintOutcome BtnOrthoText_Repaint(Session &s)
+{
+    if (s.runState().busy()) return PaintOutcome::Busy;
+    PaintState &p = s.paint();
+    // The panel serves the three raster texts; from elsewhere the repaint paints the grid.
+    if (p.GrafKey != QLatin1String("TEXT-Simple-Raster") &&
+        p.GrafKey != QLatin1String("TEXT-Spiral-Raster"))
+        p.GrafKey = QStringLiteral("TEXT-Mondrian-Raster");
+    MondrianTables &t = s.mondrian();
+    t.RepaintAsked = true;
+    const PaintOutcome outcome = paintAgain(s);
+    t.RepaintAsked = false;
+    return outcome;
 }
 
 void paintTextMondrianRaster(PaintContext &ctx) { Draw_MondrianText(ctx, RasterForm::Mondrian); }

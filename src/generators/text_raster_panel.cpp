@@ -38,6 +38,10 @@ const ControlPanel &orthoTextPanel()
                         QT_TRANSLATE_NOOP("Controls", "Nur Großbuchstaben"), "0", 0, 1),
             controlSpec("XOrthoT1", 7, K::Checked,
                         QT_TRANSLATE_NOOP("Controls", "Mindestschrift +8"), "0", 0, 1),
+        },
+        {
+            {"BtnOrthoText_Repaint", QT_TRANSLATE_NOOP("Controls", "Repaint letztes Set"),
+             BtnOrthoText_Repaint},
         }};
     return panel;
 }

@@ -19,7 +19,9 @@
 
 namespace tf {
 
+class Session;
 struct PaintContext;
+enum class PaintOutcome;
 
 constexpr const char *OrthoTextPanelName = "feat_02OrthoText1";
 
@@ -59,6 +61,11 @@ void Draw_MondrianText(PaintContext &ctx, RasterForm form);
 void paintTextMondrianRaster(PaintContext &ctx);
 void paintTextSimpleRaster(PaintContext &ctx);
 void paintTextSpiralRaster(PaintContext &ctx);
+
+// "Repaint letztes Set" of the panel: paints the raster text again; the Mondrian grid keeps the
+// frames of its last set while they fit (the same splits, margin and picture size), with new
+// letters' colours and turns.
+PaintOutcome BtnOrthoText_Repaint(Session &s);
 
 void registerOrthoTextPanel();
 

@@ -13,6 +13,7 @@
 #include "core/status.h"
 
 #include <QRect>
+#include <array>
 #include <set>
 #include <gtest/gtest.h>
 
@@ -235,6 +236,37 @@ TEST_F(RasterPaintTest, MixedFontsNameTheFirstInTheStatusBar)
     ASSERT_EQ(paint("TEXT-Simple-Raster"), PaintOutcome::Painted);
     EXPECT_TRUE(status.panelText(sbrFont).isEmpty());
     s.setStatus(nullptr);
+}
+
+} // namespace
+
+namespace {
+
+std::vector<std::array<int32_t, 4>> frameList(Session &s)
+{
+    std::vector<std::array<int32_t, 4>> out;
+    for (const MondrianFrame &f : mondrianFrames(s.mondrian()))
+        out.push_back({f.left, f.top, f.right, f.bottom});
+    return out;
+}
+
+TEST_F(RasterPaintTest, RepaintKeepsTheFramesOfTheLastGridWhileTheyFit)
+{
+    set("txtOrthoT1", QStringLiteral("5"), 0);
+    set("txtOrthoT1", QStringLiteral("4"), 1);
+    ASSERT_EQ(paint("TEXT-Mondrian-Raster", 11), PaintOutcome::Painted);
+    const auto first = frameList(s);
+    s.paint().nextSeed = 12;
+    ASSERT_EQ(BtnOrthoText_Repaint(s), PaintOutcome::Painted);
+    EXPECT_EQ(frameList(s), first);
+    // Another split count is a new set.
+    set("txtOrthoT1", QStringLiteral("3"), 0);
+    s.paint().nextSeed = 13;
+    ASSERT_EQ(BtnOrthoText_Repaint(s), PaintOutcome::Painted);
+    EXPECT_EQ(s.mondrian().MondrianHSplits, 3);
+    // A paint with the Paint button always lays new frames; the Mondrian type's repaint never
+    // takes the text grid's frames as its own.
+    EXPECT_EQ(s.mondrian().MondrianLastType, -1);
 }
 
 } // namespace
