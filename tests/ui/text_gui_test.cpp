@@ -174,6 +174,13 @@ TEST_F(TextWindowTest, TheRasterTextsShowTheirPanelAndPaintTheDialogsText)
     EXPECT_FALSE(ink().isEmpty());
     window->findChild<ui::FeatDialogDock *>()->raise();
     screenshot(*window, "text-mondrian-raster");
+    // The panel's repaint paints the same frames again.
+    auto *repaint = window->findChild<QPushButton *>(QStringLiteral("BtnOrthoText_Repaint"));
+    ASSERT_NE(repaint, nullptr);
+    const QImage before = window->session().workspace().Bild.Image();
+    repaint->click();
+    QApplication::processEvents();
+    EXPECT_NE(window->session().workspace().Bild.Image(), before);
 
     choose("TEXT-Spiral-Raster");
     EXPECT_EQ(window->findChild<ui::FeatDialogDock *>()->currentPanel(),
