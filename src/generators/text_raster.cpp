@@ -223,6 +223,15 @@ void fillFrame(PaintContext &ctx, PictureBox &pic, const QRect &frame, RasterTex
         double widest = 0;
         for (const QChar ch : piece) widest = std::max(widest, inkBox(font, QString(ch), 0).width());
         TextFont letterFont = font;
+        // One jump by the ratio of room to need, then point by point to what fits.
+        const double k = std::min((step + 1) / std::max(1, lineStep(letterFont)),
+                                  fw / std::max(1.0, widest));
+        if (k < 1) {
+            letterFont.size = std::max(1.0, std::floor(letterFont.size * k) + 1);
+            widest = 0;
+            for (const QChar ch : piece)
+                widest = std::max(widest, inkBox(letterFont, QString(ch), 0).width());
+        }
         while (letterFont.size > 1 &&
                (lineStep(letterFont) > step + 1 || widest > fw)) {
             letterFont.size = std::max(1.0, letterFont.size - 1);
