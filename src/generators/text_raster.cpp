@@ -195,7 +195,7 @@ void fillFrame(PaintContext &ctx, PictureBox &pic, const QRect &frame, RasterTex
         // As many letters as the width holds; a word when whole words are asked for (in mix
         // mode a frame that holds the next word whole takes it).
         QString piece;
-        const QString word = text.words.isEmpty() ? QString() : text.words.at(text.nextWord);
+        const QString word = text.peekWord();
         if (o.split == SplitMix && !word.isEmpty() && inkBox(font, word, 0).width() <= fw) {
             piece = text.takeWord();
         } else if (o.split == SplitWords) {
@@ -207,8 +207,7 @@ void fillFrame(PaintContext &ctx, PictureBox &pic, const QRect &frame, RasterTex
             piece = text.takeLetters(n);
             while (piece.size() > 1 && inkBox(font, piece, 0).width() > fw) {
                 piece.chop(1);
-                text.nextLetter = (text.nextLetter - 1 + int(text.letters.size())) %
-                                  std::max(1, int(text.letters.size()));
+                text.giveBack(1);
             }
             fitFont(font, piece, 0, room);
         }
@@ -256,17 +255,16 @@ void drawMondrianText(PaintContext &ctx, RasterForm form)
     if (s.controls().text(key("txtOrthoIn")).isEmpty() && Int(rnd(ctx) * 2) == 1)
         prepared = QString::fromLatin1(FoxSample);
     if (o.bigLetters) prepared = prepared.toUpper();
-    RasterText text;
     // Tabs and other white space part words as blanks do; none of them is a letter.
     static const QRegularExpression space(QStringLiteral("\\s+"));
-    text.words = prepared.split(space, Qt::SkipEmptyParts);
-    if (text.words.isEmpty()) {
+    QStringList words = prepared.split(space, Qt::SkipEmptyParts);
+    if (words.isEmpty()) {
         // Blanks and line breaks only: nothing a frame could hold, so the sample.
-        text.words = QString::fromLatin1(LatinSample).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        words = QString::fromLatin1(LatinSample).split(QLatin1Char(' '), Qt::SkipEmptyParts);
         if (o.bigLetters)
-            for (QString &w : text.words) w = w.toUpper();
+            for (QString &w : words) w = w.toUpper();
     }
-    text.letters = text.words.join(QString());
+    RasterText text(words);
 
     const bool duo = s.colours().XDuotones[0] || s.colours().XDuotones[1];
     Set_Duo_Colortable(s, 0, true,
@@ -357,23 +355,50 @@ std::vector<QRect> spiralFrames(const QRect &area, int h, int v, int minSide)
     return frames;
 }
 
+RasterText::RasterText(const QStringList &words)
+{
+    for (const QString &w : words) {
+        m_letters += w;
+        m_ends.push_back(int(m_letters.size()));
+    }
+}
+
 QString RasterText::takeLetters(int n)
 {
     QString out;
-    if (letters.isEmpty()) return out;
+    if (m_letters.isEmpty()) return out;
     for (int i = 0; i < n; ++i) {
-        out += letters.at(nextLetter);
-        nextLetter = (nextLetter + 1) % int(letters.size());
+        out += m_letters.at(m_next);
+        m_next = (m_next + 1) % int(m_letters.size());
     }
     return out;
 }
 
+int RasterText::wordEnd() const
+{
+    for (const int end : m_ends)
+        if (end > m_next) return end;
+    return int(m_letters.size());
+}
+
+QString RasterText::peekWord() const
+{
+    return m_letters.mid(m_next, wordEnd() - m_next);
+}
+
 QString RasterText::takeWord()
 {
-    if (words.isEmpty()) return {};
-    const QString w = words.at(nextWord);
-    nextWord = (nextWord + 1) % int(words.size());
+    if (m_letters.isEmpty()) return {};
+    const QString w = peekWord();
+    m_next = wordEnd() % int(m_letters.size());
     return w;
+}
+
+void RasterText::giveBack(int n)
+{
+    if (m_letters.isEmpty()) return;
+    const int size = int(m_letters.size());
+    m_next = ((m_next - n) % size + size) % size;
 }
 
 void Draw_MondrianText(PaintContext &ctx, RasterForm form)

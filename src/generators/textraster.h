@@ -47,13 +47,24 @@ double rasterFontSize(RasterKind kind, int fw, int fh);
 // and together cover the area.
 std::vector<QRect> spiralFrames(const QRect &area, int h, int v, int minSide);
 
-// The text cut into what the frames take in turn: single letters (no blanks) and words.
-struct RasterText {
-    QString letters;   // the text without blanks
-    QStringList words; // the text split at blanks
-    int nextLetter = 0, nextWord = 0;
-    QString takeLetters(int n); // n letters in turn, from the start again at the end
-    QString takeWord();         // the next word in turn
+// The text as the frames take it in turn, letters and words from one place: a frame that takes
+// a word goes on where the letters stopped (the rest of the word they broke into), and the next
+// letters follow the word. Blanks are not letters; at the end the text starts again.
+class RasterText {
+public:
+    explicit RasterText(const QStringList &words);
+    bool isEmpty() const { return m_letters.isEmpty(); }
+    QString takeLetters(int n);
+    QString takeWord();
+    QString peekWord() const; // what takeWord would give
+    void giveBack(int n);     // the last n letters are taken again next
+
+private:
+    int wordEnd() const; // the end of the word the place lies in
+
+    QString m_letters;
+    std::vector<int> m_ends; // where each word ends in m_letters
+    int m_next = 0;
 };
 
 void Draw_MondrianText(PaintContext &ctx, RasterForm form);

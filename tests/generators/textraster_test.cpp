@@ -71,16 +71,21 @@ TEST(SpiralFrames, CutFromEachSideInTurnAndCoverTheArea)
         EXPECT_GE(std::min(many[i].width(), many[i].height()), 6);
 }
 
-TEST(RasterText, TakesLettersAndWordsInTurn)
+TEST(RasterText, LettersAndWordsGoOnFromOnePlace)
 {
-    RasterText t;
-    t.words = QStringList{QStringLiteral("Öl"), QStringLiteral("Fuß")};
-    t.letters = QStringLiteral("ÖlFuß");
-    EXPECT_EQ(t.takeLetters(3), QStringLiteral("ÖlF"));
-    EXPECT_EQ(t.takeLetters(4), QStringLiteral("ußÖl"));
+    RasterText t(QStringList{QStringLiteral("Öl"), QStringLiteral("Fuß"), QStringLiteral("Äpfel")});
     EXPECT_EQ(t.takeWord(), QStringLiteral("Öl"));
-    EXPECT_EQ(t.takeWord(), QStringLiteral("Fuß"));
-    EXPECT_EQ(t.takeWord(), QStringLiteral("Öl"));
+    EXPECT_EQ(t.takeLetters(2), QStringLiteral("Fu"));
+    // A word after letters takes the rest of the word they broke into.
+    EXPECT_EQ(t.peekWord(), QStringLiteral("ß"));
+    EXPECT_EQ(t.takeWord(), QStringLiteral("ß"));
+    EXPECT_EQ(t.takeWord(), QStringLiteral("Äpfel"));
+    // At the end the text starts again, letters without blanks.
+    EXPECT_EQ(t.takeLetters(4), QStringLiteral("ÖlFu"));
+    t.giveBack(3);
+    EXPECT_EQ(t.takeWord(), QStringLiteral("l"));
+    t.giveBack(2);
+    EXPECT_EQ(t.takeLetters(12), QStringLiteral("ÖlFußÄpfelÖl"));
 }
 
 struct RasterPaintTest : PaintFixture {
