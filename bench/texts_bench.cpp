@@ -17,7 +17,8 @@ using namespace tf;
 namespace {
 
 const char *const textKeys[] = {"TEXT-Dialog", "TEXT-Textblock", "TEXT-StarRotated",
-                                "TEXT-Circular", "TEXT-Spiral"};
+                                "TEXT-Circular", "TEXT-Spiral", "TEXT-Mondrian-Raster",
+                                "TEXT-Simple-Raster", "TEXT-Spiral-Raster"};
 
 Session &session()
 {

@@ -1168,6 +1168,34 @@
         <source>Speed</source>
         <translation>Speed</translation>
     </message>
+    <message>
+        <source>Textraster</source>
+        <translation>Textraster</translation>
+    </message>
+    <message>
+        <source>Teilung</source>
+        <translation>Teilung</translation>
+    </message>
+    <message>
+        <source>Mix</source>
+        <translation>Mix</translation>
+    </message>
+    <message>
+        <source>Buchstaben</source>
+        <translation>Buchstaben</translation>
+    </message>
+    <message>
+        <source>Wörter</source>
+        <translation>Wörter</translation>
+    </message>
+    <message>
+        <source>Rahmen zeichnen</source>
+        <translation>Rahmen zeichnen</translation>
+    </message>
+    <message>
+        <source>Mindestschrift +8</source>
+        <translation>Mindestschrift +8</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

@@ -1169,6 +1169,34 @@
         <source>Speed</source>
         <translation>Speed</translation>
     </message>
+    <message>
+        <source>Textraster</source>
+        <translation>Text grid</translation>
+    </message>
+    <message>
+        <source>Teilung</source>
+        <translation>Split</translation>
+    </message>
+    <message>
+        <source>Mix</source>
+        <translation>Mix</translation>
+    </message>
+    <message>
+        <source>Buchstaben</source>
+        <translation>Single letters</translation>
+    </message>
+    <message>
+        <source>Wörter</source>
+        <translation>Only words</translation>
+    </message>
+    <message>
+        <source>Rahmen zeichnen</source>
+        <translation>Draw frames</translation>
+    </message>
+    <message>
+        <source>Mindestschrift +8</source>
+        <translation>Smallest font +8</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

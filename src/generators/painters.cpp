@@ -16,6 +16,7 @@
 #include "generators/rosettes.h"
 #include "generators/wavegrid.h"
 #include "generators/textpanels.h"
+#include "generators/textraster.h"
 #include "generators/texts.h"
 #include "generators/webtiles.h"
 #include "paint/grafdialogpanel.h"
@@ -123,9 +124,9 @@ std::span<const PainterEntry> painterTable()
         // Group 7
         {"TEXT-Dialog", paintTextDialog, Prepare},
         {"TEXT-Textblock", paintTextblock, Prepare},
-        {"TEXT-Mondrian-Raster", nullptr, Prepare},
-        {"TEXT-Simple-Raster", nullptr, Prepare},
-        {"TEXT-Spiral-Raster", nullptr, Prepare},
+        {"TEXT-Mondrian-Raster", paintTextMondrianRaster, Prepare},
+        {"TEXT-Simple-Raster", paintTextSimpleRaster, Prepare},
+        {"TEXT-Spiral-Raster", paintTextSpiralRaster, Prepare},
         {"TEXT-StarRotated", paintTextStar, Prepare},
         {"TEXT-Circular", paintTextCircular, Prepare},
         {"TEXT-Spiral", paintTextSpiral, Prepare},
@@ -169,6 +170,7 @@ void registerAllPanels()
         registerFramePanels();
         registerCentrePanels();
         registerTextPanels();
+        registerOrthoTextPanel();
         registerMondrianPanels();
         registerPlasmaPanels();
         return true;

@@ -156,3 +156,37 @@ TEST_F(TextWindowTest, ATextFileLoadsIntoTheDialogInItsEncoding)
     EXPECT_EQ(dialog()->findChild<ui::ColourField *>(QStringLiteral("txtForeColor"))->colour(),
               RGB(10, 200, 30));
 }
+
+TEST_F(TextWindowTest, TheRasterTextsShowTheirPanelAndPaintTheDialogsText)
+{
+    choose("TEXT-Mondrian-Raster");
+    EXPECT_TRUE(dialog()->isVisible());
+    EXPECT_EQ(window->findChild<ui::FeatDialogDock *>()->currentPanel(),
+              QStringLiteral("feat_02OrthoText1"));
+    auto *split = window->findChild<QComboBox *>(QStringLiteral("cmbOrthoT1_Split"));
+    ASSERT_NE(split, nullptr);
+    ASSERT_EQ(split->count(), 3);
+    EXPECT_EQ(split->itemText(2), QStringLiteral("Wörter"));
+    dialog()->findChild<QPlainTextEdit *>(QStringLiteral("txtOrthoIn"))
+        ->setPlainText(QStringLiteral("Größe Übermaß Äpfel Öl Füße"));
+    window->findChild<QPushButton *>(QStringLiteral("BtnPaint"))->click();
+    QApplication::processEvents();
+    EXPECT_FALSE(ink().isEmpty());
+    window->findChild<ui::FeatDialogDock *>()->raise();
+    screenshot(*window, "text-mondrian-raster");
+    // The panel's repaint paints the same frames again.
+    auto *repaint = window->findChild<QPushButton *>(QStringLiteral("BtnOrthoText_Repaint"));
+    ASSERT_NE(repaint, nullptr);
+    const QImage before = window->session().workspace().Bild.Image();
+    repaint->click();
+    QApplication::processEvents();
+    EXPECT_NE(window->session().workspace().Bild.Image(), before);
+
+    choose("TEXT-Spiral-Raster");
+    EXPECT_EQ(window->findChild<ui::FeatDialogDock *>()->currentPanel(),
+              QStringLiteral("feat_02OrthoText1"));
+    window->findChild<QPushButton *>(QStringLiteral("BtnPaint"))->click();
+    QApplication::processEvents();
+    EXPECT_FALSE(ink().isEmpty());
+    screenshot(*window, "text-spiral-raster");
+}
