@@ -1,6 +1,7 @@
 // The option panel of the Mondrian family, "feat_01Mondrian".
 #include "generators/mondrian.h"
 
+#include "generators/leadglass.h"
 #include "paint/controls.h"
 
 #include <QtGlobal>
@@ -110,6 +111,11 @@ const ControlPanel &mondrianPanel()
 
 } // namespace
 
-void registerMondrianPanels() { registerControlPanel(&mondrianPanel()); }
+void registerMondrianPanels()
+{
+    registerControlPanel(&mondrianPanel());
+    // The lead-glass window paints from the same layout and registers with the family.
+    registerLeadGlassPanels();
+}
 
 } // namespace tf
