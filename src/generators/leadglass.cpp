@@ -503,6 +503,8 @@ void LeadGlass::paint()
         k.setRaw(key("XMLG", 2), QStringLiteral("0"));
         m_call.AllFrames = 0;
     }
+    if (m_o.random && m_penW == 1)
+        m_penW = int16_t(rounded(rnd(m_s) * 5) + 1);
     m_t.MondrianMargin = m_o.margin;
     const int32_t m2 = checkedMul<int32_t>(2, m_t.MondrianMargin);
     const int least = std::min(m_w, m_h);
@@ -574,7 +576,8 @@ void LeadGlass::paint()
         m_pic.markChanged();
     }
 
-    const LeadPen pen(m_pic, m_frameColour, std::max<int>(1, m_call.PenWidth));
+    // The figures' lead is as wide as the panes' lead; without frame lines the pen's own.
+    const LeadPen pen(m_pic, m_frameColour, m_penW > 0 ? m_penW : std::max<int>(1, m_call.PenWidth));
     centre(m_o.center, m_cx, m_cy);
     if (m_o.sunRings)
         sunRings(pen, m_cx, m_cy);
