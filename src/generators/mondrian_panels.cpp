@@ -1,6 +1,7 @@
 // The option panel of the Mondrian family, "feat_01Mondrian".
 #include "generators/mondrian.h"
 
+#include "generators/cathedral.h"
 #include "generators/leadglass.h"
 #include "paint/controls.h"
 
@@ -114,8 +115,9 @@ const ControlPanel &mondrianPanel()
 void registerMondrianPanels()
 {
     registerControlPanel(&mondrianPanel());
-    // The lead-glass window paints from the same layout and registers with the family.
+    // The lead-glass windows paint from the same tables and register with the family.
     registerLeadGlassPanels();
+    registerCathedralPanels();
 }
 
 } // namespace tf

@@ -8,6 +8,7 @@
 #include "generators/curves.h"
 #include "generators/matrixrain.h"
 #include "generators/mountains.h"
+#include "generators/cathedral.h"
 #include "generators/leadglass.h"
 #include "generators/mondrian.h"
 #include "generators/papers.h"
@@ -54,7 +55,7 @@ std::span<const PainterEntry> painterTable()
         {"PIC-MosaikSuper", nullptr, Prepare},
         {"PIC-DiaShow", nullptr, NoUndo},
         {"ART-Mondrian-LeadGlass", paintLeadGlass, Prepare},
-        {"ART-Cathedral-LeadGlass", nullptr, Prepare},
+        {"ART-Cathedral-LeadGlass", paintCathedralWindow, Prepare},
         {"Photo-CUBE", nullptr, Prepare},
         {"Photo-CUBESuper", nullptr, Prepare},
         {"Interne Kacheln", Create_Interne_Webtiles, Prepare},

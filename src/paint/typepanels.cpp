@@ -55,6 +55,7 @@ std::span<const TypePanel> typePanels()
         {"ART-Mondrian", "feat_01Mondrian"},
         {"ART-MondrianSuper", "feat_01Mondrian"},
         {"ART-Mondrian-LeadGlass", "feat_20MLeadGlass"},
+        {"ART-Cathedral-LeadGlass", "feat_21CathedralWindow"},
         {"Plasma", "feat_22Plasma"},
     };
     return table;

@@ -162,3 +162,48 @@ TEST_F(LeadGlassTest, TiffanyFramePanesLieAlongTheEdgesOverThePicture)
 }
 
 } // namespace
+
+namespace {
+
+struct CathedralTest : PaintFixture {
+    void SetUp() override
+    {
+        PaintFixture::SetUp();
+        size(400, 400);
+        fixedColours(0x000000, 0xFFFFFF);
+        s.colours().ColorBorder = Lead;
+        ground(Ground);
+        set("cmbPen", "2");
+    }
+};
+
+TEST_F(CathedralTest, EverySetGlazesTheMiddleAndLeadsItsRings)
+{
+    for (int set = 0; set < 5; ++set) {
+        ground(Ground);
+        this->set("cmbCathedralWinNr", QString::number(set));
+        ASSERT_EQ(paint("ART-Cathedral-LeadGlass", 7u + set), PaintOutcome::Painted) << set;
+        EXPECT_TRUE(prompter.asked().empty()) << set;
+        // The centre's rosette is glass, the corners stay as they were for sets 1 to 3.
+        EXPECT_NE(at(205, 195), Ground) << set;
+        if (set < 3) {
+            EXPECT_EQ(at(2, 2), Ground) << set;
+        }
+        // Going out from the middle, the lead is crossed at least three times.
+        int leads = 0;
+        for (int x = 200; x < 400; ++x)
+            leads += at(x, 203) == Lead && at(x - 1, 203) != Lead;
+        EXPECT_GE(leads, 3) << set;
+    }
+}
+
+TEST_F(CathedralTest, APictureTooSmallForOnePaneIsCaught)
+{
+    size(8, 8);
+    ground(Ground);
+    ASSERT_EQ(paint("ART-Cathedral-LeadGlass"), PaintOutcome::Painted);
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("Draw_CathedralWindow  [Division by zero]"));
+    EXPECT_EQ(at(4, 4), Ground);
+}
+
+} // namespace
