@@ -1,5 +1,4 @@
-<?xml version="1.0" encoding="utf-8"?>
-<!DOCTYPE TS>
+<?xml version='1.0' encoding='utf-8'?>
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
     <name>Blurize</name>
@@ -132,7 +131,7 @@
     </message>
     <message>
         <source>„%1“ konnte nicht gemalt werden.</source>
-        <translation>&quot;%1&quot; could not be painted.</translation>
+        <translation>"%1" could not be painted.</translation>
     </message>
     <message>
         <source>Ungültige Größe: %1 (BxH)</source>
@@ -175,16 +174,16 @@
         <translation>The transformation failed.</translation>
     </message>
     <message>
-        <source>%1 erwartet eine Zahl von 0 bis 14000, nicht &quot;%2&quot;</source>
-        <translation>%1 expects a number from 0 to 14000, not &quot;%2&quot;</translation>
+        <source>%1 erwartet eine Zahl von 0 bis 14000, nicht "%2"</source>
+        <translation>%1 expects a number from 0 to 14000, not "%2"</translation>
     </message>
     <message>
         <source>Aufruf: tarvelle-forge passepartouts [--data DATEI]</source>
         <translation>Usage: tarvelle-forge passepartouts [--data FILE]</translation>
     </message>
     <message>
-        <source>--gradient erwartet on oder off, nicht &quot;%1&quot;</source>
-        <translation>--gradient expects on or off, not &quot;%1&quot;</translation>
+        <source>--gradient erwartet on oder off, nicht "%1"</source>
+        <translation>--gradient expects on or off, not "%1"</translation>
     </message>
     <message>
         <source>Unbekannte Angabe: %1</source>
@@ -195,8 +194,8 @@
         <translation>Usage: tarvelle-forge passepartout --set NAME PICTURE -o OUTPUT</translation>
     </message>
     <message>
-        <source>Es gibt kein Passepartout &quot;%1&quot; (siehe tarvelle-forge passepartouts).</source>
-        <translation>There is no passepartout &quot;%1&quot; (see tarvelle-forge passepartouts).</translation>
+        <source>Es gibt kein Passepartout "%1" (siehe tarvelle-forge passepartouts).</source>
+        <translation>There is no passepartout "%1" (see tarvelle-forge passepartouts).</translation>
     </message>
     <message>
         <source>Das Bild im Passepartout wäre größer als 14000 Pixel.</source>
@@ -1169,6 +1168,66 @@
         <source>Speed</source>
         <translation>Speed</translation>
     </message>
+    <message>
+        <source>Kathedralen-Fenster</source>
+        <translation>Cathedral window</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Set</translation>
+    </message>
+    <message>
+        <source>Bleiglas</source>
+        <translation>Lead glass</translation>
+    </message>
+    <message>
+        <source>H.-/V.symmetrisch</source>
+        <translation>H./V. symmetric</translation>
+    </message>
+    <message>
+        <source>Tiffany-Rahmen</source>
+        <translation>Tiffany border</translation>
+    </message>
+    <message>
+        <source>Sonnenringe</source>
+        <translation>Sun rings</translation>
+    </message>
+    <message>
+        <source>Rosette</source>
+        <translation>Rosette</translation>
+    </message>
+    <message>
+        <source>Blume</source>
+        <translation>Flower</translation>
+    </message>
+    <message>
+        <source>Pflanzen</source>
+        <translation>Plants</translation>
+    </message>
+    <message>
+        <source>Kristalle</source>
+        <translation>Crystals</translation>
+    </message>
+    <message>
+        <source>Ohne</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Sonne</source>
+        <translation>Sun</translation>
+    </message>
+    <message>
+        <source>Rahmendicke</source>
+        <translation>Border width</translation>
+    </message>
+    <message>
+        <source>Grössen-Korrektur %</source>
+        <translation>Size correction %</translation>
+    </message>
+    <message>
+        <source>Neue Werte</source>
+        <translation>New values</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -1311,7 +1370,7 @@
     </message>
     <message>
         <source>„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.</source>
-        <translation>&quot;%1&quot; paints nothing yet: its painter is not built in.</translation>
+        <translation>"%1" paints nothing yet: its painter is not built in.</translation>
     </message>
     <message>
         <source>Startwert %1</source>
@@ -2358,7 +2417,7 @@
     </message>
     <message>
         <source>Es gibt keine Animation zum Speichern: starten Sie zuerst den Tunnel des Plasmas.</source>
-        <translation>There is no animation to save: start the plasma&apos;s tunnel first.</translation>
+        <translation>There is no animation to save: start the plasma's tunnel first.</translation>
     </message>
     <message>
         <source>Animiertes PNG (*.png)</source>
