@@ -1228,6 +1228,10 @@
         <source>Neue Werte</source>
         <translation>Neue Werte</translation>
     </message>
+    <message>
+        <source> Formen </source>
+        <translation> Formen </translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

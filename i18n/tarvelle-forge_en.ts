@@ -1228,6 +1228,10 @@
         <source>Neue Werte</source>
         <translation>New values</translation>
     </message>
+    <message>
+        <source> Formen </source>
+        <translation> Forms </translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

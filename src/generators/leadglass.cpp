@@ -65,8 +65,10 @@ Options readOptions(Session &s)
     o.plants = k.checked(key("XMLG_Paint", 3));
     o.hills = k.checked(key("XMLG_Paint", 4));
     o.crystals = k.checked(key("XMLG_Paint", 5));
-    o.formSun = k.checked(key("optXMLGForms", 1));
-    o.formRect = k.checked(key("optXMLGForms", 2));
+    // The frame " Formen ": "Ohne", "Sonne", "Rechteck".
+    const int form = k.listIndex(key("optXMLGForms"));
+    o.formSun = form == 1;
+    o.formRect = form == 2;
     o.panelH = CInt(Max(2.0, Val(k.text(key("txtMLGKachel", 0)))));
     o.panelV = CInt(Max(2.0, Val(k.text(key("txtMLGKachel", 1)))));
     o.margin = CLng(Val(k.text(key("txtMLGKachel", 2))));

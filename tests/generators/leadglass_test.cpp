@@ -81,7 +81,7 @@ TEST_F(LeadGlassTest, SunRingsCancelTheRectangleFlowerPlantsAndHills)
 
     for (int i : {2, 3, 4})
         set("XMLG_Paint", "1", i);
-    set("optXMLGForms", "1", 2);
+    set("optXMLGForms", "2");
     ground(Ground); // without fill the panes keep what lies below
     ASSERT_EQ(paint("ART-Mondrian-LeadGlass", 5), PaintOutcome::Painted);
     EXPECT_EQ(image(), ringsOnly);
