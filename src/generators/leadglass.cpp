@@ -312,8 +312,10 @@ void LeadGlass::plants(const LeadPen &pen)
     }
 }
 
-// Hill arcs: the tops of large circles anchored below the bottom edge; the second pass
-// alternates its order so that the hills overlap the other way.
+// Hill arcs: the upper halves of circles whose tops lie between a quarter above and a quarter
+// below three quarters of the height and whose sides run out below the bottom edge, so every
+// hill rises from the bottom. The second pass starts left of the picture, narrower, and
+// tosses between one arc and a hill with a lower shoulder, so that the hills alternate.
 void LeadGlass::hills(const LeadPen &pen)
 {
     for (int pass = 0; pass < 2; ++pass) {
@@ -321,15 +323,12 @@ void LeadGlass::hills(const LeadPen &pen)
         const double span = pass == 0 ? m_w * 2.0 / 3.0 : m_w * 0.6;
         const int count = rounded(Int(rnd(m_s) * 4) + 2);
         for (int i = 0; i < count; ++i) {
-            const double y = m_h + m_h / 4.0 - rounded(rnd(m_s) * m_h) / 2.0;
-            const double r = std::sqrt((span / 2) * (span / 2) * 2);
-            const bool first = pass == 0 || rounded(rnd(m_s)) == 0;
-            if (first) {
-                pen.arc(x + span / 2, y + span / 2, r, PiV / 4, 3 * PiV / 4);
-            } else {
-                pen.arc(x + span / 2, y + span / 2, r, PiV / 4, PiV / 2);
-                pen.arc(x + span / 2, y + span / 2, r * 0.8, PiV / 2, 3 * PiV / 4);
-            }
+            const double top = m_h + m_h / 4.0 - rounded(rnd(m_s) * m_h) / 2.0 - m_h / 4.0;
+            const double r = std::max(span * 0.6, m_h - top + 4);
+            const double cx = x + span / 2, cy = top + r;
+            pen.arc(cx, cy, r, 0, PiV);
+            if (pass == 1 && rounded(rnd(m_s)) == 1)
+                pen.arc(cx + span / 4, cy + r * 0.25, r * 0.9, 0, PiV / 2);
             x += rounded(rnd(m_s) * span / 2) + span / 4;
         }
     }
