@@ -1,4 +1,5 @@
-<?xml version='1.0' encoding='utf-8'?>
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="de">
 <context>
     <name>Blurize</name>
@@ -131,7 +132,7 @@
     </message>
     <message>
         <source>„%1“ konnte nicht gemalt werden.</source>
-        <translation>"%1" could not be painted.</translation>
+        <translation>&quot;%1&quot; could not be painted.</translation>
     </message>
     <message>
         <source>Ungültige Größe: %1 (BxH)</source>
@@ -174,16 +175,16 @@
         <translation>The transformation failed.</translation>
     </message>
     <message>
-        <source>%1 erwartet eine Zahl von 0 bis 14000, nicht "%2"</source>
-        <translation>%1 expects a number from 0 to 14000, not "%2"</translation>
+        <source>%1 erwartet eine Zahl von 0 bis 14000, nicht &quot;%2&quot;</source>
+        <translation>%1 expects a number from 0 to 14000, not &quot;%2&quot;</translation>
     </message>
     <message>
         <source>Aufruf: tarvelle-forge passepartouts [--data DATEI]</source>
         <translation>Usage: tarvelle-forge passepartouts [--data FILE]</translation>
     </message>
     <message>
-        <source>--gradient erwartet on oder off, nicht "%1"</source>
-        <translation>--gradient expects on or off, not "%1"</translation>
+        <source>--gradient erwartet on oder off, nicht &quot;%1&quot;</source>
+        <translation>--gradient expects on or off, not &quot;%1&quot;</translation>
     </message>
     <message>
         <source>Unbekannte Angabe: %1</source>
@@ -194,8 +195,8 @@
         <translation>Usage: tarvelle-forge passepartout --set NAME PICTURE -o OUTPUT</translation>
     </message>
     <message>
-        <source>Es gibt kein Passepartout "%1" (siehe tarvelle-forge passepartouts).</source>
-        <translation>There is no passepartout "%1" (see tarvelle-forge passepartouts).</translation>
+        <source>Es gibt kein Passepartout &quot;%1&quot; (siehe tarvelle-forge passepartouts).</source>
+        <translation>There is no passepartout &quot;%1&quot; (see tarvelle-forge passepartouts).</translation>
     </message>
     <message>
         <source>Das Bild im Passepartout wäre größer als 14000 Pixel.</source>
@@ -1374,7 +1375,7 @@
     </message>
     <message>
         <source>„%1“ malt noch nichts: sein Maler ist noch nicht eingebaut.</source>
-        <translation>"%1" paints nothing yet: its painter is not built in.</translation>
+        <translation>&quot;%1&quot; paints nothing yet: its painter is not built in.</translation>
     </message>
     <message>
         <source>Startwert %1</source>
@@ -2421,7 +2422,7 @@
     </message>
     <message>
         <source>Es gibt keine Animation zum Speichern: starten Sie zuerst den Tunnel des Plasmas.</source>
-        <translation>There is no animation to save: start the plasma's tunnel first.</translation>
+        <translation>There is no animation to save: start the plasma&apos;s tunnel first.</translation>
     </message>
     <message>
         <source>Animiertes PNG (*.png)</source>
