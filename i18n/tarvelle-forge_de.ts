@@ -1196,6 +1196,70 @@
         <source>Mindestschrift +8</source>
         <translation>Mindestschrift +8</translation>
     </message>
+    <message>
+        <source>Kathedralen-Fenster</source>
+        <translation>Kathedralen-Fenster</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Set</translation>
+    </message>
+    <message>
+        <source>Bleiglas</source>
+        <translation>Bleiglas</translation>
+    </message>
+    <message>
+        <source>H.-/V.symmetrisch</source>
+        <translation>H.-/V.symmetrisch</translation>
+    </message>
+    <message>
+        <source>Tiffany-Rahmen</source>
+        <translation>Tiffany-Rahmen</translation>
+    </message>
+    <message>
+        <source>Sonnenringe</source>
+        <translation>Sonnenringe</translation>
+    </message>
+    <message>
+        <source>Rosette</source>
+        <translation>Rosette</translation>
+    </message>
+    <message>
+        <source>Blume</source>
+        <translation>Blume</translation>
+    </message>
+    <message>
+        <source>Pflanzen</source>
+        <translation>Pflanzen</translation>
+    </message>
+    <message>
+        <source>Kristalle</source>
+        <translation>Kristalle</translation>
+    </message>
+    <message>
+        <source> Formen </source>
+        <translation> Formen </translation>
+    </message>
+    <message>
+        <source>Ohne</source>
+        <translation>Ohne</translation>
+    </message>
+    <message>
+        <source>Sonne</source>
+        <translation>Sonne</translation>
+    </message>
+    <message>
+        <source>Rahmendicke</source>
+        <translation>Rahmendicke</translation>
+    </message>
+    <message>
+        <source>Grössen-Korrektur %</source>
+        <translation>Grössen-Korrektur %</translation>
+    </message>
+    <message>
+        <source>Neue Werte</source>
+        <translation>Neue Werte</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

@@ -1197,6 +1197,70 @@
         <source>Mindestschrift +8</source>
         <translation>Smallest font +8</translation>
     </message>
+    <message>
+        <source>Kathedralen-Fenster</source>
+        <translation>Cathedral window</translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation>Set</translation>
+    </message>
+    <message>
+        <source>Bleiglas</source>
+        <translation>Lead glass</translation>
+    </message>
+    <message>
+        <source>H.-/V.symmetrisch</source>
+        <translation>H./V. symmetric</translation>
+    </message>
+    <message>
+        <source>Tiffany-Rahmen</source>
+        <translation>Tiffany border</translation>
+    </message>
+    <message>
+        <source>Sonnenringe</source>
+        <translation>Sun rings</translation>
+    </message>
+    <message>
+        <source>Rosette</source>
+        <translation>Rosette</translation>
+    </message>
+    <message>
+        <source>Blume</source>
+        <translation>Flower</translation>
+    </message>
+    <message>
+        <source>Pflanzen</source>
+        <translation>Plants</translation>
+    </message>
+    <message>
+        <source>Kristalle</source>
+        <translation>Crystals</translation>
+    </message>
+    <message>
+        <source> Formen </source>
+        <translation> Forms </translation>
+    </message>
+    <message>
+        <source>Ohne</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Sonne</source>
+        <translation>Sun</translation>
+    </message>
+    <message>
+        <source>Rahmendicke</source>
+        <translation>Border width</translation>
+    </message>
+    <message>
+        <source>Grössen-Korrektur %</source>
+        <translation>Size correction %</translation>
+    </message>
+    <message>
+        <source>Neue Werte</source>
+        <translation>New values</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

@@ -1,6 +1,7 @@
 // The frames of group 8 and the dispatch of every border and cut-out type by its key; the
 // cut-outs themselves are in borders_cutout.cpp.
 #include "generators/borders.h"
+#include "generators/leadglass.h"
 
 #include "generators/figures.h"
 
@@ -138,6 +139,7 @@ constexpr BorderType borderTypes[] = {
     {"Border-Cut out Mix", paintBorderCutOut},
     {"Border-Cut out Circles", paintBorderCutOut},
     {"Border-V-Dia positive", paintBorderDia},
+    {"Border-Tiffany-Rect", paintTiffanyBorder},
 };
 
 ColorLong tableOr(PaintContext &ctx, ColorLong plain)

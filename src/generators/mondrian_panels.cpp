@@ -1,6 +1,8 @@
 // The option panel of the Mondrian family, "feat_01Mondrian".
 #include "generators/mondrian.h"
 
+#include "generators/cathedral.h"
+#include "generators/leadglass.h"
 #include "paint/controls.h"
 
 #include <QtGlobal>
@@ -110,6 +112,12 @@ const ControlPanel &mondrianPanel()
 
 } // namespace
 
-void registerMondrianPanels() { registerControlPanel(&mondrianPanel()); }
+void registerMondrianPanels()
+{
+    registerControlPanel(&mondrianPanel());
+    // The lead-glass windows paint from the same tables and register with the family.
+    registerLeadGlassPanels();
+    registerCathedralPanels();
+}
 
 } // namespace tf

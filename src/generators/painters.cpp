@@ -8,6 +8,8 @@
 #include "generators/curves.h"
 #include "generators/matrixrain.h"
 #include "generators/mountains.h"
+#include "generators/cathedral.h"
+#include "generators/leadglass.h"
 #include "generators/mondrian.h"
 #include "generators/papers.h"
 #include "generators/plasmapaint.h"
@@ -53,8 +55,8 @@ std::span<const PainterEntry> painterTable()
         {"PIC-Mosaik", nullptr, Prepare},
         {"PIC-MosaikSuper", nullptr, Prepare},
         {"PIC-DiaShow", nullptr, NoUndo},
-        {"ART-Mondrian-LeadGlass", nullptr, Prepare},
-        {"ART-Cathedral-LeadGlass", nullptr, Prepare},
+        {"ART-Mondrian-LeadGlass", paintLeadGlass, Prepare},
+        {"ART-Cathedral-LeadGlass", paintCathedralWindow, Prepare},
         {"Photo-CUBE", nullptr, Prepare},
         {"Photo-CUBESuper", nullptr, Prepare},
         {"Interne Kacheln", Create_Interne_Webtiles, Prepare},
@@ -140,7 +142,7 @@ std::span<const PainterEntry> painterTable()
         {"Border-Cut out Mix", Create_Borders, Prepare},
         {"Border-Cut out Circles", Create_Borders, Prepare},
         {"Border-V-Dia positive", Create_Borders, Prepare},
-        {"Border-Tiffany-Rect", nullptr, Prepare},
+        {"Border-Tiffany-Rect", Create_Borders, Prepare},
         // Group 9
         {"LP-black", paintLPBlack, Prepare},
         {"LP-cut out", paintLPCutOut, Prepare},

@@ -37,6 +37,7 @@ std::span<const TypePanel> typePanels()
         {"Border-Cut out Mix", "feat_10Rahmen"},
         {"Border-Cut out Circles", "feat_10Rahmen"},
         {"Border-V-Dia positive", "feat_10Rahmen"},
+        {"Border-Tiffany-Rect", "feat_10Rahmen"},
         {"Forms-Cut out Squares", "feat_10Rahmen"},
         {"Forms-Cut out Areas", "feat_10Rahmen"},
         {"Forms-Cut out Rects", "feat_10Rahmen"},
@@ -56,6 +57,8 @@ std::span<const TypePanel> typePanels()
         {"TEXT-Spiral", "feat_12TextCircular", TextDialogPanelName},
         {"ART-Mondrian", "feat_01Mondrian"},
         {"ART-MondrianSuper", "feat_01Mondrian"},
+        {"ART-Mondrian-LeadGlass", "feat_20MLeadGlass"},
+        {"ART-Cathedral-LeadGlass", "feat_21CathedralWindow"},
         {"Plasma", "feat_22Plasma"},
     };
     return table;
