@@ -131,6 +131,14 @@ GrafDialogDock::GrafDialogDock(Session &session, PreviewCache &previews, QWidget
         ListBoxType_Click(m_session, row);
         showPreview();
     });
+    // After a change of group the group's last type is shown chosen but not yet taken up:
+    // a click on that row, which changes no row, takes it up and brings its panel on top.
+    connect(ListBoxType, &QListWidget::itemClicked, this, [this](QListWidgetItem *item) {
+        if (m_loading || !m_session.paint().GrafKey.isEmpty())
+            return;
+        ListBoxType_Click(m_session, ListBoxType->row(item));
+        showPreview();
+    });
     retranslate(); // loads the type list too
 }
 

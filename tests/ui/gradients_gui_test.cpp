@@ -60,6 +60,22 @@ TEST_F(GradientWindowTest, EachFilteredGradientBringsItsOwnPanelOnTop)
     EXPECT_EQ(options()->currentPanel(), QString());
 }
 
+TEST_F(GradientWindowTest, AClickOnTheRememberedRowAfterAChangeOfGroupBringsItsPanel)
+{
+    choose("Chromo-Steps");
+    paintButton()->click(); // a paint makes it the group's last type
+    QApplication::processEvents();
+    mn_Grafmodes(window->session(), 4);
+    mn_Grafmodes(window->session(), 5);
+    QApplication::processEvents();
+    ASSERT_EQ(typeList()->currentRow(), findType(QStringLiteral("Chromo-Steps"))->listIndex);
+    EXPECT_TRUE(window->session().paint().GrafKey.isEmpty());
+    emit typeList()->itemClicked(typeList()->currentItem());
+    QApplication::processEvents();
+    EXPECT_EQ(window->session().paint().GrafKey, QStringLiteral("Chromo-Steps"));
+    EXPECT_EQ(options()->currentPanel(), QStringLiteral("feat_24Chromo"));
+}
+
 TEST_F(GradientWindowTest, TheTypeListShowsAPreviewOfEveryGradient)
 {
     for (int i = 0; i < typeList()->count(); ++i) {
