@@ -1,5 +1,7 @@
 #include "core/bmpstream.h"
 
+#include "core/parallel.h"
+
 #include <QIODevice>
 #include <QtEndian>
 #include <algorithm>
@@ -45,22 +47,25 @@ bool writeBmp24(const EncodeRows &rows, QIODevice &out, int dotsPerMetre)
         }
         return true;
     }
-    std::vector<uchar> batch(size_t(rowSize) * size_t(batchRows), 0);
-    int inBatch = 0;
-    for (int y = h - 1; y >= 0; --y) {
-        const uchar *src = rows.row(y);
-        uchar *dst = batch.data() + size_t(inBatch) * size_t(rowSize);
-        for (int x = 0; x < w; ++x, src += rows.bytesPerPixel, dst += 3) {
-            dst[0] = src[0];
-            dst[1] = src[1];
-            dst[2] = src[2];
-        }
-        if (++inBatch == batchRows || y == 0) {
-            const qint64 n = rowSize * inBatch;
-            if (out.write(reinterpret_cast<const char *>(batch.data()), n) != n)
-                return false;
-            inBatch = 0;
-        }
+    // Larger batches here: their rows are converted on every core.
+    const int convertRows = batchRows * 8;
+    std::vector<uchar> batch(size_t(rowSize) * size_t(convertRows), 0);
+    for (int top = h - 1; top >= 0; top -= convertRows) {
+        const int n = std::min(convertRows, top + 1);
+        parallelRows(n, w, [&](int first, int last) {
+            for (int k = first; k < last; ++k) {
+                const uchar *src = rows.row(top - k);
+                uchar *dst = batch.data() + size_t(k) * size_t(rowSize);
+                for (int x = 0; x < w; ++x, src += rows.bytesPerPixel, dst += 3) {
+                    dst[0] = src[0];
+                    dst[1] = src[1];
+                    dst[2] = src[2];
+                }
+            }
+        });
+        const qint64 bytes = rowSize * n;
+        if (out.write(reinterpret_cast<const char *>(batch.data()), bytes) != bytes)
+            return false;
     }
     return true;
 }
@@ -133,8 +138,10 @@ QImage readPlainBmp(QByteArrayView bytes)
     if (image.isNull())
         return {};
     const auto *pixels = reinterpret_cast<const uchar *>(bytes.data()) + bmp.offBits;
-    for (int r = 0; r < bmp.height; ++r)
-        convertRow(bmp, pixels + bmp.rowSize * r, image, r);
+    parallelRows(bmp.height, bmp.width, [&](int first, int last) {
+        for (int r = first; r < last; ++r)
+            convertRow(bmp, pixels + bmp.rowSize * r, image, r);
+    });
     return image;
 }
 
