@@ -235,19 +235,25 @@ void filterContrast(FilterRun &run)
             uint8_t *out = run.D.row(y);
             for (int x = 0; x < width * 4; x += 4) {
                 int v[3] = {t[in[x]], t[in[x + 1]], t[in[x + 2]]}; // blue, green, red
+                // All three in 0..255 (the usual case) is one test: no bit above the lowest
+                // eight in any of them, a negative value having all of them.
+                if (((v[0] | v[1] | v[2]) & ~0xFF) == 0) {
+                    out[x] = uint8_t(v[0]);
+                    out[x + 1] = uint8_t(v[1]);
+                    out[x + 2] = uint8_t(v[2]);
+                    continue;
+                }
                 const auto inRange = [](int c) { return c >= 0 && c <= 255; };
-                if (!(inRange(v[0]) && inRange(v[1]) && inRange(v[2]))) {
-                    const bool allLow = v[0] < 0 && v[1] < 0 && v[2] < 0;
-                    const bool allHigh = v[0] > 255 && v[1] > 255 && v[2] > 255;
-                    if (!allLow && !allHigh) {
-                        // The overflow of the first channel out of range goes half to each
-                        // of the other two, which keeps the hue of over-driven pixels.
-                        const int c = !inRange(v[0]) ? 0 : !inRange(v[1]) ? 1 : 2;
-                        const int share = v[c] < 0 ? v[c] / 2 : (v[c] - 255) / 2;
-                        v[c] = v[c] < 0 ? 0 : 255;
-                        for (int o = 0; o < 3; ++o)
-                            if (o != c) v[o] += share;
-                    }
+                const bool allLow = v[0] < 0 && v[1] < 0 && v[2] < 0;
+                const bool allHigh = v[0] > 255 && v[1] > 255 && v[2] > 255;
+                if (!allLow && !allHigh) {
+                    // The overflow of the first channel out of range goes half to each of
+                    // the other two, which keeps the hue of over-driven pixels.
+                    const int c = !inRange(v[0]) ? 0 : !inRange(v[1]) ? 1 : 2;
+                    const int share = v[c] < 0 ? v[c] / 2 : (v[c] - 255) / 2;
+                    v[c] = v[c] < 0 ? 0 : 255;
+                    for (int o = 0; o < 3; ++o)
+                        if (o != c) v[o] += share;
                 }
                 out[x] = clampByte(v[0]);
                 out[x + 1] = clampByte(v[1]);
