@@ -9,6 +9,8 @@
 #include "paint/transparency.h"
 
 #include <QImage>
+#include "painterbench.h"
+
 #include <benchmark/benchmark.h>
 #include <cstring>
 
@@ -24,11 +26,8 @@ const char *const keys[] = {"Mountains",     "Mountains-Gradient", "Mountains-Pe
 
 Session &session()
 {
-    static Session *s = [] {
-        registerAllPanels();
-        auto *made = new Session;
-        made->setPainters(painterTable());
-        made->workspace().New_BildSize(Side, Side);
+    static const std::unique_ptr<Session> s = [] {
+        auto made = bench::paintSession(Side, Side);
         // Fixed values, so each run paints the same figure.
         made->colours().RandomValues = false;
         made->controls().set(ControlKey{QStringLiteral("XCenter")}, QStringLiteral("1"));
@@ -40,31 +39,14 @@ Session &session()
 
 void writeBytes(benchmark::State &state)
 {
-    QImage image(Side, Side, QImage::Format_RGB32);
-    uint8_t v = 0;
-    for (auto _ : state) {
-        std::memset(image.bits(), ++v, size_t(image.sizeInBytes()));
-        benchmark::DoNotOptimize(image.bits());
-    }
-    state.SetBytesProcessed(int64_t(state.iterations()) * image.sizeInBytes());
+    bench::writeBytes(state, Side);
 }
 BENCHMARK(writeBytes)->Unit(benchmark::kMillisecond);
 
 void figure(benchmark::State &state)
 {
-    Session &s = session();
-    const QString key = QString::fromUtf8(keys[state.range(0)]);
     state.SetLabel(keys[state.range(0)]);
-    s.paint().GrafKey = key;
-    const PainterEntry *entry = findPainter(s.painters(), key);
-    // The painter alone, without the dispatcher's undo image.
-    TransparencyState &t = s.transparency();
-    for (auto _ : state) {
-        s.seed(7);
-        PaintContext ctx{s, *t.XBild, *t.XUndo, *t.XWork,
-                         readOptionVariables(s.controls(), Side, Side)};
-        entry->paint(ctx);
-    }
+    bench::paintLoop(state, session(), QString::fromUtf8(keys[state.range(0)]), Side, Side, true);
 }
 BENCHMARK(figure)->DenseRange(0, int(std::size(keys)) - 1)->Unit(benchmark::kMillisecond);
 

@@ -11,6 +11,8 @@
 #include "tools/aaline.h"
 
 #include <QImage>
+#include "painterbench.h"
+
 #include <benchmark/benchmark.h>
 #include <cstring>
 
@@ -30,44 +32,21 @@ const char *const gradientKeys[] = {
 
 Session &session()
 {
-    static Session *s = [] {
-        registerAllPanels();
-        auto *made = new Session;
-        made->setPainters(painterTable());
-        made->workspace().New_BildSize(Side, Side);
-        return made;
-    }();
+    static const std::unique_ptr<Session> s = bench::paintSession(Side, Side);
     return *s;
 }
 
 void writeBytes(benchmark::State &state)
 {
-    QImage image(Side, Side, QImage::Format_RGB32);
-    uint8_t v = 0;
-    for (auto _ : state) {
-        std::memset(image.bits(), ++v, size_t(image.sizeInBytes()));
-        benchmark::DoNotOptimize(image.bits());
-    }
-    state.SetBytesProcessed(int64_t(state.iterations()) * image.sizeInBytes());
+    bench::writeBytes(state, Side);
 }
 BENCHMARK(writeBytes)->Unit(benchmark::kMillisecond);
 
 void gradient(benchmark::State &state)
 {
-    Session &s = session();
-    const QString key = QString::fromUtf8(gradientKeys[state.range(0)]);
     state.SetLabel(gradientKeys[state.range(0)]);
-    s.paint().GrafKey = key;
-    const PainterEntry *entry = findPainter(s.painters(), key);
-    // The painter alone: the dispatcher's undo image of a picture this large goes to a file,
-    // which is the workspace's cost, not the gradient's.
-    TransparencyState &t = s.transparency();
-    for (auto _ : state) {
-        s.seed(7);
-        PaintContext ctx{s, *t.XBild, *t.XUndo, *t.XWork,
-                         readOptionVariables(s.controls(), Side, Side)};
-        entry->paint(ctx);
-    }
+    bench::paintLoop(state, session(), QString::fromUtf8(gradientKeys[state.range(0)]), Side, Side,
+                     true);
 }
 BENCHMARK(gradient)->DenseRange(0, int(std::size(gradientKeys)) - 1)->Unit(benchmark::kMillisecond);
 

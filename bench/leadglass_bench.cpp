@@ -7,6 +7,8 @@
 #include "paint/session.h"
 #include "paint/transparency.h"
 
+#include "painterbench.h"
+
 #include <benchmark/benchmark.h>
 
 using namespace tf;
@@ -15,11 +17,8 @@ namespace {
 
 void paintType(benchmark::State &state, const char *key)
 {
-    registerAllPanels();
-    Session s;
-    s.setPainters(painterTable());
-    s.workspace().New_BildSize(4096, 4096);
-    Set_BILD(s);
+    const auto session = bench::paintSession(4096, 4096);
+    Session &s = *session;
     s.colours().RandomValues = false;
     Controls &k = s.controls();
     k.set(ControlKey{QStringLiteral("cmbPen"), -1}, QStringLiteral("4"));
@@ -30,15 +29,7 @@ void paintType(benchmark::State &state, const char *key)
         k.set(ControlKey{QStringLiteral("XMLG_Paint"), i}, QStringLiteral("1"));
     k.set(ControlKey{QStringLiteral("optXMLGForms"), -1}, QStringLiteral("1"));
     k.set(ControlKey{QStringLiteral("cmbCathedralWinNr"), -1}, QString::number(state.range(0)));
-    const PainterEntry *entry = findPainter(s.painters(), QString::fromLatin1(key));
-    uint32_t seed = 1;
-    for (auto _ : state) {
-        s.seed(seed++);
-        TransparencyState &t = s.transparency();
-        PaintContext ctx{s, *t.XBild, *t.XUndo, *t.XWork,
-                         readOptionVariables(s.controls(), 4096, 4096)};
-        entry->paint(ctx);
-    }
+    bench::paintLoop(state, s, QString::fromLatin1(key), 4096, 4096);
 }
 
 void leadGlass(benchmark::State &state) { paintType(state, "ART-Mondrian-LeadGlass"); }

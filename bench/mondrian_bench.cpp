@@ -10,6 +10,8 @@
 #include "paint/transparency.h"
 
 #include <QGuiApplication>
+#include "painterbench.h"
+
 #include <benchmark/benchmark.h>
 
 using namespace tf;
@@ -45,22 +47,11 @@ BENCHMARK(layout)->Args({100, 0})->Args({70, 1})->Unit(benchmark::kMillisecond);
 // Mondrian with its default options and random values, and the Boogie-Woogie.
 void paint(benchmark::State &state)
 {
-    registerAllPanels();
-    Session s;
-    s.setPainters(painterTable());
-    s.workspace().New_BildSize(4096, 4096);
-    Set_BILD(s);
+    const auto session = bench::paintSession(4096, 4096);
+    Session &s = *session;
     s.controls().set(ControlKey{QStringLiteral("cmbMondrian_Format"), 1},
                      QString::number(state.range(0)));
-    const PainterEntry *entry = findPainter(s.painters(), QStringLiteral("ART-Mondrian"));
-    uint32_t seed = 1;
-    for (auto _ : state) {
-        s.seed(seed++);
-        TransparencyState &t = s.transparency();
-        PaintContext ctx{s, *t.XBild, *t.XUndo, *t.XWork,
-                         readOptionVariables(s.controls(), 4096, 4096)};
-        entry->paint(ctx);
-    }
+    bench::paintLoop(state, s, QStringLiteral("ART-Mondrian"), 4096, 4096);
     state.SetLabel(state.range(0) == 0 ? "Mondrian" : "Boogie-Woogie");
 }
 BENCHMARK(paint)->Arg(0)->Arg(2)->Unit(benchmark::kMillisecond);

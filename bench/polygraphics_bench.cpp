@@ -9,6 +9,8 @@
 #include "paint/transparency.h"
 
 #include <QGuiApplication>
+#include "painterbench.h"
+
 #include <benchmark/benchmark.h>
 #include <map>
 #include <memory>
@@ -32,32 +34,15 @@ Session &session(int side)
 {
     static std::map<int, std::unique_ptr<Session>> sessions;
     auto &s = sessions[side];
-    if (!s) {
-        registerAllPanels();
-        s = std::make_unique<Session>();
-        s->setPainters(painterTable());
-        s->workspace().New_BildSize(side, side);
-        Set_BILD(*s);
-    }
+    if (!s) s = bench::paintSession(side, side);
     return *s;
 }
 
 void polygraphic(benchmark::State &state)
 {
     const int side = int(state.range(1));
-    Session &s = session(side);
-    const char *key = polyKeys[state.range(0)];
-    state.SetLabel(key);
-    s.paint().GrafKey = QString::fromUtf8(key);
-    const PainterEntry *entry = findPainter(s.painters(), s.paint().GrafKey);
-    TransparencyState &t = s.transparency();
-    uint32_t seed = 1;
-    for (auto _ : state) {
-        s.seed(seed++);
-        PaintContext ctx{s, *t.XBild, *t.XUndo, *t.XWork,
-                         readOptionVariables(s.controls(), side, side)};
-        entry->paint(ctx);
-    }
+    state.SetLabel(polyKeys[state.range(0)]);
+    bench::paintLoop(state, session(side), QString::fromUtf8(polyKeys[state.range(0)]), side, side);
 }
 
 void registerAll()

@@ -9,6 +9,8 @@
 #include "paint/transparency.h"
 
 #include <QGuiApplication>
+#include "painterbench.h"
+
 #include <benchmark/benchmark.h>
 #include <memory>
 
@@ -22,31 +24,14 @@ const char *const textKeys[] = {"TEXT-Dialog", "TEXT-Textblock", "TEXT-StarRotat
 
 Session &session()
 {
-    static std::unique_ptr<Session> s;
-    if (!s) {
-        registerAllPanels();
-        s = std::make_unique<Session>();
-        s->setPainters(painterTable());
-        s->workspace().New_BildSize(712, 712);
-        Set_BILD(*s);
-    }
+    static const std::unique_ptr<Session> s = bench::paintSession(712, 712);
     return *s;
 }
 
 void textType(benchmark::State &state)
 {
-    Session &s = session();
-    const char *key = textKeys[state.range(0)];
-    state.SetLabel(key);
-    s.paint().GrafKey = QString::fromUtf8(key);
-    const PainterEntry *entry = findPainter(s.painters(), s.paint().GrafKey);
-    TransparencyState &t = s.transparency();
-    uint32_t seed = 1;
-    for (auto _ : state) {
-        s.seed(seed++);
-        PaintContext ctx{s, *t.XBild, *t.XUndo, *t.XWork, readOptionVariables(s.controls(), 712, 712)};
-        entry->paint(ctx);
-    }
+    state.SetLabel(textKeys[state.range(0)]);
+    bench::paintLoop(state, session(), QString::fromUtf8(textKeys[state.range(0)]), 712, 712);
 }
 
 void rotatedLine(benchmark::State &state)

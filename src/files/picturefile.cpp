@@ -110,6 +110,14 @@ const SaveType *findSaveType(const QString &tag)
     return nullptr;
 }
 
+// The picture's own pixels are encoded as they stand; another format is converted first.
+QImage encodable(const QImage &image)
+{
+    return image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32
+               ? image
+               : image.convertToFormat(QImage::Format_RGB32);
+}
+
 } // namespace
 
 WriteResult saveRows(const EncodeRows &rows, const QString &path, const QString &SaveTypeTag,
@@ -127,11 +135,7 @@ WriteResult saveRows(const EncodeRows &rows, const QString &path, const QString 
 WriteResult savePicture(const QImage &image, const QString &path, const QString &SaveTypeTag,
                         const PictureMeta &meta, int jpegQuality)
 {
-    // The picture's own pixels are encoded as they stand; another format is converted first.
-    const QImage pixels =
-        image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32
-            ? image
-            : image.convertToFormat(QImage::Format_RGB32);
+    const QImage pixels = encodable(image);
     return saveRows(EncodeRows::of(pixels), path, SaveTypeTag, meta, jpegQuality);
 }
 
@@ -169,10 +173,7 @@ bool writeRowsForCommand(const EncodeRows &rows, const QString &path, const Pict
 bool writePictureForCommand(const QImage &image, const QString &path, const PictureMeta &meta,
                             QString &message)
 {
-    const QImage pixels =
-        image.format() == QImage::Format_RGB32 || image.format() == QImage::Format_ARGB32
-            ? image
-            : image.convertToFormat(QImage::Format_RGB32);
+    const QImage pixels = encodable(image);
     return writeRowsForCommand(EncodeRows::of(pixels), path, meta, message);
 }
 

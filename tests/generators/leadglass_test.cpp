@@ -9,25 +9,17 @@
 #include "paint/colourstate.h"
 #include "paint/mondriantables.h"
 
+#include "mondrianframes.h"
+
 #include <gtest/gtest.h>
 
 using namespace tf;
+using tf::test::sameFrames;
 
 namespace {
 
 constexpr ColorLong Ground = 0x00FF00;
 constexpr ColorLong Lead = 0x102030; // in no colour table
-
-bool sameFrames(const std::vector<MondrianFrame> &a, const std::vector<MondrianFrame> &b)
-{
-    if (a.size() != b.size())
-        return false;
-    for (size_t i = 0; i < a.size(); ++i)
-        if (a[i].left != b[i].left || a[i].top != b[i].top || a[i].right != b[i].right ||
-            a[i].bottom != b[i].bottom)
-            return false;
-    return true;
-}
 
 struct LeadGlassTest : PaintFixture {
     void SetUp() override
