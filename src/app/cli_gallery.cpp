@@ -6,6 +6,7 @@
 
 #include "files/picturefile.h"
 #include "files/picturemeta.h"
+#include "files/reduce.h"
 #include "files/safefile.h"
 #include "generators/painters.h"
 #include "paint/catalogue.h"
@@ -13,6 +14,7 @@
 #include "paint/paintdriver.h"
 #include "paint/paintrecord.h"
 #include "paint/session.h"
+#include "paint/superformat.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -86,10 +88,15 @@ struct Sheet {
     QString key, english, german, file, command;
 };
 
+// Types that rework the picture that stands are shown over this one.
+const QString GalleryBase = QStringLiteral("Boxes-Randomized");
+
 // Paints one type as `tarvelle-forge paint KEY --size WxH --seed N` does; answers the
-// picture, empty when the paint failed, and the record it left.
+// picture, empty when the paint failed, and the record it left. A type that reworks the
+// picture that stands is painted over `GalleryBase`, whose record goes to `base`. A
+// Superformat type paints its surface at the gallery's size; the picture is the surface.
 QImage paintOne(const QString &key, const GalleryOptions &o, QTemporaryDir &temp,
-                std::optional<PaintRecord> &record)
+                std::optional<PaintRecord> &record, std::optional<PaintRecord> &base)
 {
     CliPrompter prompter;
     RecordingStatus status;
@@ -98,13 +105,31 @@ QImage paintOne(const QString &key, const GalleryOptions &o, QTemporaryDir &temp
     s.setPrompter(&prompter);
     s.setStatus(&status);
     if (temp.isValid()) s.workspace().setTempDir(temp.path());
+    const bool super = isSuperformatType(key);
+    if (super) {
+        s.controls().setRaw(ControlKey{QStringLiteral("txtSuperSize"), 0},
+                            QString::number(o.size.width()));
+        s.controls().setRaw(ControlKey{QStringLiteral("txtSuperSize"), 1},
+                            QString::number(o.size.height()));
+        s.superformat().setKeepUndo(false);
+    }
     s.workspace().New_BildSize(o.size.width(), o.size.height());
-    const TypeLocation where = *findType(key);
-    mn_Grafmodes(s, where.group);
-    ListBoxType_Click(s, where.listIndex);
-    s.paint().nextSeed = o.seed;
-    if (BtnPaint_Click(s) != PaintOutcome::Painted || prompter.faultSeen()) return QImage();
+    const auto paintType = [&](const QString &k) {
+        const TypeLocation where = *findType(k);
+        mn_Grafmodes(s, where.group);
+        ListBoxType_Click(s, where.listIndex);
+        s.paint().nextSeed = o.seed;
+        return BtnPaint_Click(s) == PaintOutcome::Painted && !prompter.faultSeen();
+    };
+    const PainterEntry *entry = findPainter(s.painters(), key);
+    if (entry && entry->overPicture) {
+        if (!paintType(GalleryBase)) return QImage();
+        base = s.paint().lastPaint;
+    }
+    if (!paintType(key)) return QImage();
     record = s.paint().lastPaint;
+    if (super)
+        return s.superformat().hasPicture() ? imageOfDib(s.superformat().SuperDIB) : QImage();
     return s.workspace().Bild.Image();
 }
 
@@ -183,8 +208,8 @@ int runGallery(const QStringList &args)
             const QString key = QString::fromUtf8(row.key);
             const PainterEntry *entry = findPainter(painterTable(), key);
             if (!entry || !entry->paint) continue;
-            std::optional<PaintRecord> record;
-            const QImage picture = paintOne(key, o, temp, record);
+            std::optional<PaintRecord> record, base;
+            const QImage picture = paintOne(key, o, temp, record, base);
             const QString file = pictureFileName(key);
             if (picture.isNull() || !record) {
                 printError(
@@ -201,10 +226,17 @@ int runGallery(const QStringList &args)
                 printError(message);
                 return ExitFailed;
             }
+            QString command;
+            if (base) {
+                const QString under = QStringLiteral("under-") + file;
+                command = paintCommandLine(*base) + QStringLiteral(" -o ") + shellQuote(under) +
+                          QStringLiteral(" && ") + paintCommandLine(*record) +
+                          QStringLiteral(" --over ") + shellQuote(under);
+            } else {
+                command = paintCommandLine(*record);
+            }
             sheets.push_back({key, QString::fromUtf8(row.english), QString::fromUtf8(row.german),
-                              file,
-                              paintCommandLine(*record) + QStringLiteral(" -o ") +
-                                  shellQuote(file)});
+                              file, command + QStringLiteral(" -o ") + shellQuote(file)});
         }
         if (!sheets.empty()) groups.emplace_back(g, std::move(sheets));
     }

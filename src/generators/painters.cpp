@@ -30,6 +30,7 @@ namespace tf {
 namespace {
 constexpr bool Prepare = true;
 constexpr bool NoUndo = false; // paints into another window, or needs no undo image
+constexpr bool OverPicture = true; // reworks the picture that stands
 } // namespace
 
 std::span<const PainterEntry> painterTable()
@@ -46,8 +47,8 @@ std::span<const PainterEntry> painterTable()
         {"Lines-Quarterarea", paintLinesQuarterarea, Prepare},
         {"Lines-Polygonal", paintLinesPolygonal, Prepare},
         {"Lines-Mikado", paintLinesMikado, Prepare},
-        {"Bitblt-Kacheln", paintBitbltKacheln, NoUndo},
-        {"Bitblt-Schmieren", paintBitbltSchmieren, NoUndo},
+        {"Bitblt-Kacheln", paintBitbltKacheln, NoUndo, OverPicture},
+        {"Bitblt-Schmieren", paintBitbltSchmieren, NoUndo, OverPicture},
         // Group 2
         {"Filled-Triangles", paintFilledTriangles, Prepare},
         {"ART-Mondrian", paintMondrian, Prepare},

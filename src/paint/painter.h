@@ -50,6 +50,9 @@ struct PainterEntry {
     // False for the types that paint into another window or need no undo image: the
     // dispatcher skips its preparation (undo image, tool and status resets) for them.
     bool prepare = true;
+    // True for the types that rework the picture that stands (tiles exchanged, the picture
+    // smeared): on a cleared picture they show nothing, so a gallery paints one under them.
+    bool overPicture = false;
 };
 
 // The entry of a key in a table; null when the key is not in it.

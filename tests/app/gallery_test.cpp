@@ -95,6 +95,32 @@ TEST(Gallery, PaintsEveryTypeOfAGroupAndItsPageRepeatsEachWithTheSameBytes)
     EXPECT_EQ(QImage::fromData(a.readAll()), QImage::fromData(b.readAll()));
 }
 
+// Types that rework the picture that stands are shown over a painted one, and a Superformat
+// type shows its surface: neither may come out as the cleared white picture.
+TEST(Gallery, ShowsReworkingAndSuperformatTypesOverSomethingPainted)
+{
+    const auto isFlat = [](const QImage &picture) {
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                if (picture.pixel(x, y) != picture.pixel(0, 0)) return false;
+        return true;
+    };
+    for (const char *group : {"1", "2"}) {
+        QTemporaryDir dir;
+        const Outcome r = forge({QStringLiteral("gallery"), QStringLiteral("-o"), dir.path(),
+                                 QStringLiteral("--group"), QString::fromLatin1(group),
+                                 QStringLiteral("--size"), QStringLiteral("160x128"),
+                                 QStringLiteral("--seed"), QStringLiteral("4")});
+        ASSERT_EQ(r.code, 0) << r.err.toStdString();
+        const QString file = QString::fromLatin1(group) == QLatin1String("1")
+                                 ? QStringLiteral("Bitblt-Kacheln.png")
+                                 : QStringLiteral("ART-MondrianSuper.png");
+        const QImage picture(QDir(dir.path()).filePath(file));
+        ASSERT_FALSE(picture.isNull()) << file.toStdString();
+        EXPECT_FALSE(isFlat(picture)) << file.toStdString();
+    }
+}
+
 TEST(Gallery, WithoutAFolderItIsBadUsage)
 {
     const Outcome r = forge({QStringLiteral("gallery"), QStringLiteral("--lang"), QStringLiteral("en")});
