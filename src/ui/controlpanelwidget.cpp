@@ -35,8 +35,13 @@ QString itemText(const char *item)
 
 void setButtonColour(QPushButton *b, ColorLong c)
 {
-    b->setStyleSheet(QStringLiteral("background-color: %1; min-width: 40px;")
-                         .arg(toQColor(c).name()));
+    // A disabled colour field shows its colour faded into grey, as the other widgets grey out.
+    const QColor shown = toQColor(c);
+    const QColor faded = QColor::fromRgb((shown.red() + 3 * 224) / 4, (shown.green() + 3 * 224) / 4,
+                                         (shown.blue() + 3 * 224) / 4);
+    b->setStyleSheet(QStringLiteral("QPushButton { background-color: %1; min-width: 40px; }"
+                                    "QPushButton:disabled { background-color: %2; }")
+                         .arg(shown.name(), faded.name()));
 }
 
 } // namespace

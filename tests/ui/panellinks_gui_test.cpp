@@ -116,6 +116,7 @@ TEST_F(PanelLinksWindowTest, ABoogieTypeDisablesTheFormatAndEnablesItsColours)
     EXPECT_TRUE(format->isEnabled());
     EXPECT_FALSE(colour->isEnabled());
     EXPECT_TRUE(fourColours->isChecked()); // kept, only disabled
+    screenshot(*mondrian, "links-mondrian-standard-panel");
 }
 
 } // namespace
