@@ -227,6 +227,25 @@
     </message>
 </context>
 <context>
+    <name>ControlLinks</name>
+    <message>
+        <source>oder</source>
+        <translation>oder</translation>
+    </message>
+    <message>
+        <source>und</source>
+        <translation>und</translation>
+    </message>
+    <message>
+        <source>nur mit %1</source>
+        <translation>nur mit %1</translation>
+    </message>
+    <message>
+        <source>setzt %1 auf %2 bei %3</source>
+        <translation>setzt %1 auf %2 bei %3</translation>
+    </message>
+</context>
+<context>
     <name>Controls</name>
     <message>
         <source>Freies Format (pixel)</source>

@@ -228,6 +228,25 @@
     </message>
 </context>
 <context>
+    <name>ControlLinks</name>
+    <message>
+        <source>oder</source>
+        <translation>or</translation>
+    </message>
+    <message>
+        <source>und</source>
+        <translation>and</translation>
+    </message>
+    <message>
+        <source>nur mit %1</source>
+        <translation>only with %1</translation>
+    </message>
+    <message>
+        <source>setzt %1 auf %2 bei %3</source>
+        <translation>sets %1 to %2 when %3</translation>
+    </message>
+</context>
+<context>
     <name>Controls</name>
     <message>
         <source>Freies Format (pixel)</source>

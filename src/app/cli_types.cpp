@@ -8,6 +8,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace tf::cli {
 
 namespace {
@@ -46,6 +48,15 @@ void printPanel(const ControlPanel &panel)
         else
             for (qsizetype i = 0; i < items.size(); ++i)
                 print(stdout, QStringLiteral("\t\t%1\t%2\n").arg(i).arg(items[i]));
+        // The panel's links under the control they enable or the control whose change sets.
+        for (const ControlLink &link : panel.links) {
+            const bool names = link.kind == LinkKind::EnabledOnlyWith
+                                   ? std::find(link.targets.begin(), link.targets.end(), def.key) !=
+                                         link.targets.end()
+                                   : link.tests(def.key);
+            if (names)
+                print(stdout, QStringLiteral("\t\t%1\n").arg(link.describe()));
+        }
     }
 }
 

@@ -58,7 +58,7 @@ Options readOptions(Session &s)
     o.kaleido = k.checked(key("XMLG", 4));
     o.tiffany = k.checked(key("XMLG", 5));
     o.doSub = k.checked(key("XMLG", 6));
-    o.harmonic = o.doSub && k.checked(key("XMLG", 7));
+    o.harmonic = k.checked(key("XMLG", 7));
     o.sunRings = k.checked(key("XMLG_Paint", 0));
     o.rosette = k.checked(key("XMLG_Paint", 1));
     o.flower = k.checked(key("XMLG_Paint", 2));

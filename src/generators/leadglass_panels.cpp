@@ -88,6 +88,11 @@ const ControlPanel &leadGlassPanel()
             {"BtnMLG_Repaint_0", QT_TRANSLATE_NOOP("Controls", "Repaint letztes Set"),
              BtnMLG_Repaint},
             {"BtnMLG_Repaint_1", QT_TRANSLATE_NOOP("Controls", "Neue Werte"), BtnMLG_NewValues},
+        },
+        {
+            setsWhen(isOn("XMLG", 2), {controlKey("XBorders")}, "1"),
+            enabledOnlyWith({controlKey("txtMLGKachel", 3)}, {isOn("XMLG", 5)}),
+            enabledOnlyWith({controlKey("XMLG", 7)}, {isOn("XMLG", 6)}),
         }};
     return panel;
 }

@@ -59,7 +59,7 @@ Options readOptions(Session &s)
     o.withWhite = k.checked(QStringLiteral("XFill_White"));
     o.center = k.checked(QStringLiteral("XCenter"));
     o.doSub = k.checked(key("XMondrian", 2));
-    o.harmonic = o.doSub && k.checked(key("XMondrian", 5));
+    o.harmonic = k.checked(key("XMondrian", 5));
     o.kaleido = k.checked(key("XMondrian", 4));
     o.duoActive = s.colours().XDuotones[0] || s.colours().XDuotones[1];
     o.panelH = CInt(Max(2.0, Val(k.text(key("txtMondrian", 0)))));
@@ -355,7 +355,6 @@ void paintMondrian(PaintContext &ctx)
     PictureCanvas canvas(ctx.XBild);
     MondrianCall call = mondrianCallFromPanel(ctx, canvas, s.mondrian().RepaintAsked);
     if (call.Type >= 2) {
-        call.Format = 0;
         BoogieState state;
         Draw_MondrianBoogie(ctx, canvas, call, state);
     } else {

@@ -13,6 +13,9 @@ namespace {
 
 using K = ControlKind;
 
+// The list indices of "Typ" that paint a Boogie.
+const std::vector<int> BoogieTypes{2, 3, 4, 5};
+
 const ControlPanel &mondrianPanel()
 {
     static const ControlPanel panel{
@@ -106,6 +109,25 @@ const ControlPanel &mondrianPanel()
         {
             {"BtnMondrian_Repaint", QT_TRANSLATE_NOOP("Controls", "Repaint letztes Set"),
              BtnMondrian_Repaint},
+        },
+        {
+            enabledOnlyWith({controlKey("cmbMondrian_subfak", 0), controlKey("cmbMondrian_subfak", 1)},
+                            {isOn("XMondrian", 2)}),
+            // Harmonic splits seed the asymmetric parts: nothing to seed when both are even.
+            enabledOnlyWith({controlKey("XMondrian", 5)},
+                            {isOn("XMondrian", 2), anyOf({isOff("XMondrian", 0), isOff("XMondrian", 1)})}),
+            setsWhen(isOn("XMondrian", 3), {controlKey("XBorders")}, "1"),
+            // The Boogies are always square and centre their grid without a margin.
+            enabledOnlyWith({controlKey("cmbMondrian_Format", 0), controlKey("txtMondrian", 2)},
+                            {valueIn("cmbMondrian_Format", 1, {0, 1})}),
+            enabledOnlyWith({controlKey("cmbMondrian_Format", 2), controlKey("XMondrian", 6),
+                             controlKey("XMondrian", 7), controlKey("XMondrian", 8),
+                             controlKey("XMondrian", 9)},
+                            {valueIn("cmbMondrian_Format", 1, BoogieTypes)}),
+            enabledOnlyWith({controlKey("cmbMondrian_Format", 3)}, {isOn("XMondrian", 7)}),
+            enabledOnlyWith({controlKey("pic4C", 0), controlKey("pic4C", 1), controlKey("pic4C", 2),
+                             controlKey("pic4C", 3)},
+                            {isOn("XMondrian", 6)}),
         }};
     return panel;
 }

@@ -23,7 +23,6 @@ void paintMondrianSuper(PaintContext &ctx)
     call.SuperW = super.size().width();
     call.SuperH = super.size().height();
     if (call.Type >= 2) {
-        call.Format = 0;
         BoogieState state;
         Draw_MondrianBoogie(ctx, canvas, call, state);
     } else {

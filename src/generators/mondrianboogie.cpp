@@ -278,7 +278,7 @@ void drawBoogie(PaintContext &ctx, FrameCanvas &canvas, MondrianCall call, Boogi
     const bool duoActive = colours.XDuotones[0] || colours.XDuotones[1];
     const bool withWhite = k.checked(QStringLiteral("XFill_White"));
     const bool doSub = k.checked(key("XMondrian", 2));
-    const bool harmonic = doSub && k.checked(key("XMondrian", 5));
+    const bool harmonic = k.checked(key("XMondrian", 5));
     p.penW = call.PenWidth < 1 ? int16_t(1) : call.PenWidth;
     if (!drawBorders)
         call.AllFrames = 0;

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <mutex>
 #include <stdexcept>
 #include <utility>
@@ -47,12 +48,15 @@ inline int32_t meanOfFour(int32_t sum)
 
 inline int32_t holdHeight(int32_t v) { return std::clamp(v, -HeightLimit, HeightLimit); }
 
-// One pass's grid: a height per cell of `step` pixels, cells past the edge cut.
-struct Grid {
+} // namespace
+
+// One pass's grid: a height per cell of `step` pixels, cells past the edge cut. Heights are held
+// to -32764..32764, so 16 bits hold them.
+struct PlasmaGrid {
     int step = 0;
     int cols = 0;
     int rows = 0;
-    std::vector<int32_t> cells;
+    std::vector<int16_t> cells;
 
     void shape(int s, int width, int height)
     {
@@ -62,6 +66,10 @@ struct Grid {
         cells.resize(size_t(cols) * size_t(rows));
     }
 };
+
+namespace {
+
+using Grid = PlasmaGrid;
 
 // Where the far corner of the cell starting at `pos` lies: past the edge it is taken from the
 // opposite edge (wrapping) or from the cell itself.
@@ -84,10 +92,10 @@ void firstPass(Grid &g, uint64_t key, int maxThreads)
         g.rows, 16, threads,
         [&](int first, int last) {
             for (int j = first; j < last; ++j) {
-                int32_t *row = g.cells.data() + size_t(j) * size_t(g.cols);
+                int16_t *row = g.cells.data() + size_t(j) * size_t(g.cols);
                 for (int i = 0; i < g.cols; ++i) {
                     const float v = cellDraw(key, 0, i, j) * float(2 * 511) - 511.0f;
-                    row[i] = int32_t(std::nearbyint(v));
+                    row[i] = int16_t(std::nearbyint(v));
                 }
             }
         },
@@ -103,10 +111,11 @@ inline double roundEven(double x)
 }
 
 // A further pass: every cell from the corners the pass before (`prev`) left, plus the
-// displacement, into `out` (`cols` a row). Reads only `prev`, so the cells are independent of
-// each other. With `range` it also finds the lowest and highest height.
+// displacement, into `cells` (`cols` cells a row, rows `stride` cells apart). Reads only
+// `prev`, so the cells are independent of each other. With `range` it also finds the lowest
+// and highest height.
 template <typename Cell>
-void nextPass(const Grid &prev, int S, int cols, int rows, Cell *cells, int pass,
+void nextPass(const Grid &prev, int S, int cols, int rows, Cell *cells, size_t stride, int pass,
               const PlasmaSettings &s, int width, int height, uint64_t key, int maxThreads,
               std::pair<int32_t, int32_t> *range)
 {
@@ -128,15 +137,15 @@ void nextPass(const Grid &prev, int S, int cols, int rows, Cell *cells, int pass
             int32_t localLo = 10000, localHi = -10000;
             for (int j = first; j < last; ++j) {
                 const int y = j * S;
-                const int32_t *nearRow = prev.cells.data() + size_t(y / P) * size_t(prev.cols);
-                const int32_t *farRow =
+                const int16_t *nearRow = prev.cells.data() + size_t(y / P) * size_t(prev.cols);
+                const int16_t *farRow =
                     prev.cells.data() +
                     size_t(farCorner(y, S, height, s.wrapV) / P) * size_t(prev.cols);
-                Cell *out = cells + size_t(j) * size_t(cols);
+                Cell *out = cells + size_t(j) * stride;
                 int32_t rowLo = 10000, rowHi = -10000;
                 for (int i = 0; i < cols; ++i) {
                     const int32_t a = colNear[size_t(i)], b = colFar[size_t(i)];
-                    int32_t v = meanOfFour(nearRow[a] + nearRow[b] + farRow[a] + farRow[b]);
+                    int32_t v = meanOfFour(int32_t(nearRow[a]) + nearRow[b] + farRow[a] + farRow[b]);
                     if (grain > 0) {
                         const double u = cellDraw(key, pass, i, j);
                         v = holdHeight(v + int32_t(roundEven((u * grainSpan - grain) * S)));
@@ -169,45 +178,84 @@ uint64_t plasmaKey(Random &random)
     return (a << 24 | b) * 0xD6E8FEB86659FD93ull;
 }
 
-PlasmaField Plasma_Fill(int width, int height, const PlasmaSettings &settings, uint64_t key,
-                        int maxThreads)
+PlasmaCoarse::PlasmaCoarse() = default;
+PlasmaCoarse::PlasmaCoarse(PlasmaCoarse &&) noexcept = default;
+PlasmaCoarse &PlasmaCoarse::operator=(PlasmaCoarse &&) noexcept = default;
+PlasmaCoarse::~PlasmaCoarse() = default;
+
+PlasmaCoarse Plasma_Coarse(int width, int height, const PlasmaSettings &settings, uint64_t key,
+                           int maxThreads)
 {
     if (width < 1 || height < 1) throw std::invalid_argument("plasma size");
-    Grid prev, cur;
+    PlasmaCoarse c;
+    c.width = width;
+    c.height = height;
+    c.settings = settings;
+    c.key = key;
+    c.grid = std::make_unique<Grid>();
+    Grid &prev = *c.grid;
+    Grid cur;
     int step = clampPlasmaStep(settings.step);
     prev.shape(step, width, height);
     firstPass(prev, key, maxThreads);
+    // Down to cells of 2 (or 3): the first cell size is at least 4, so one pass is left.
+    int pass = 1;
+    for (; step / 2 > 1; ++pass) {
+        step /= 2;
+        cur.shape(step, width, height);
+        nextPass(prev, step, cur.cols, cur.rows, cur.cells.data(), size_t(cur.cols), pass,
+                 settings, width, height, key, maxThreads, nullptr);
+        std::swap(prev, cur);
+    }
+    c.lastPass = pass;
+    return c;
+}
+
+namespace {
+
+// The last pass, of single pixels, into `cells` (rows `stride` cells apart); the lowest and
+// highest height.
+template <typename Cell>
+std::pair<int32_t, int32_t> lastPass(const PlasmaCoarse &c, const Grid &prev, Cell *cells,
+                                     size_t stride, int maxThreads)
+{
+    std::pair<int32_t, int32_t> range{10000, -10000};
+    nextPass(prev, 1, c.width, c.height, cells, stride, c.lastPass, c.settings, c.width, c.height,
+             c.key, maxThreads, &range);
+    return range;
+}
+
+// index = rounded(511 / range * (height - min)), for each height from the lowest to the
+// highest, made with exactly that formula.
+template <typename Entry, typename Of>
+std::vector<Entry> heightTable(std::pair<int32_t, int32_t> range, Of of)
+{
+    const auto [lo, hi] = range;
+    const double factor = PlasmaMaxIndex / double(std::max(1, hi - lo));
+    std::vector<Entry> table(size_t(std::max(0, hi - lo)) + 1);
+    for (size_t d = 0; d < table.size(); ++d)
+        table[d] = of(uint16_t(
+            std::clamp(std::nearbyint(factor * double(d)), 0.0, double(PlasmaMaxIndex))));
+    return table;
+}
+
+} // namespace
+
+PlasmaField Plasma_Fill(int width, int height, const PlasmaSettings &settings, uint64_t key,
+                        int maxThreads)
+{
+    PlasmaCoarse coarse = Plasma_Coarse(width, height, settings, key, maxThreads);
     PlasmaField field;
     field.width = width;
     field.height = height;
     field.index.resize(size_t(width) * size_t(height));
-    // The passes down to cells of 2 (or 3) keep a height per cell; the last, of single
-    // pixels, writes its heights (-32764..32764) into the index field, which then takes the
-    // indices in place.
+    // The last pass writes its heights (-32764..32764) into the index field, which then takes
+    // the indices in place.
     auto *heights = reinterpret_cast<int16_t *>(field.index.data());
-    std::pair<int32_t, int32_t> range{10000, -10000};
-    for (int pass = 1; step > 1; ++pass) {
-        step /= 2;
-        if (step == 1) {
-            nextPass(prev, 1, width, height, heights, pass, settings, width, height, key,
-                     maxThreads, &range);
-        } else {
-            cur.shape(step, width, height);
-            nextPass(prev, step, cur.cols, cur.rows, cur.cells.data(), pass, settings, width,
-                     height, key, maxThreads, nullptr);
-            std::swap(prev, cur);
-        }
-    }
-    prev = Grid{};
-    cur = Grid{};
-    // index = rounded(511 / range * (height - min)), looked up by height in a table made with
-    // exactly that formula.
-    const auto [lo, hi] = range;
-    const double factor = PlasmaMaxIndex / double(std::max(1, hi - lo));
-    std::vector<uint16_t> table(size_t(std::max(0, hi - lo)) + 1);
-    for (size_t d = 0; d < table.size(); ++d)
-        table[d] = uint16_t(std::clamp(std::nearbyint(factor * double(d)), 0.0,
-                                       double(PlasmaMaxIndex)));
+    const auto range = lastPass(coarse, *coarse.grid, heights, size_t(width), maxThreads);
+    coarse = PlasmaCoarse{};
+    const int32_t lo = range.first;
+    const auto table = heightTable<uint16_t>(range, [](uint16_t i) { return i; });
     uint16_t *index = field.index.data();
     const int threads = threadsFor(height, width, 1 << 15, maxThreads);
     parallelChunks(
@@ -219,6 +267,31 @@ PlasmaField Plasma_Fill(int width, int height, const PlasmaSettings &settings, u
         },
         [](int) {});
     return field;
+}
+
+void Plasma_FillColours(PlasmaCoarse coarse, const Palette512 &palette, uint32_t *out,
+                        std::size_t stride, int maxThreads)
+{
+    // The heights go into the pixels as 32-bit numbers; the grid of the pass before is then
+    // let go, and each pixel takes its colour in place.
+    auto *heights = reinterpret_cast<int32_t *>(out);
+    const auto range = lastPass(coarse, *coarse.grid, heights, stride, maxThreads);
+    const int width = coarse.width, height = coarse.height;
+    coarse = PlasmaCoarse{};
+    const int32_t lo = range.first;
+    const auto table = heightTable<uint32_t>(range, [&](uint16_t i) { return 0xFF000000u | palette[i]; });
+    const int threads = threadsFor(height, width, 1 << 15, maxThreads);
+    parallelChunks(
+        height, 16, threads,
+        [&](int first, int last) {
+            for (int y = first; y < last; ++y) {
+                int32_t *row = heights + size_t(y) * stride;
+                uint32_t *pixels = out + size_t(y) * stride;
+                for (int x = 0; x < width; ++x)
+                    pixels[x] = table[size_t(row[x] - lo)];
+            }
+        },
+        [](int) {});
 }
 
 PlasmaField Plasma_Fill(int width, int height, const PlasmaSettings &settings, Random &random,

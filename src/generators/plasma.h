@@ -21,7 +21,9 @@
 
 #include "paint/plasmapalette.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <vector>
 
 namespace tf {
@@ -54,6 +56,28 @@ uint64_t plasmaKey(Random &random);
 // the 24 bits of the classic generator, a SplitMix64 finaliser over key, pass and place.
 float plasmaCellDraw(uint64_t key, int pass, int col, int row);
 
+struct PlasmaGrid;
+
+// The passes of a fill down to the last one, of single pixels: a grid of heights a quarter of
+// the pixels or fewer, 16 bits each. Made first, because it allocates (and so may fail), while
+// the last pass writes straight into what it fills.
+struct PlasmaCoarse {
+    PlasmaCoarse();
+    PlasmaCoarse(PlasmaCoarse &&) noexcept;
+    PlasmaCoarse &operator=(PlasmaCoarse &&) noexcept;
+    ~PlasmaCoarse();
+
+    int width = 0, height = 0;
+    PlasmaSettings settings;
+    uint64_t key = 0;
+    int lastPass = 0;                  // the number of the pass of single pixels
+    std::unique_ptr<PlasmaGrid> grid;  // the heights the pass before it left
+};
+
+// The coarse passes of the field of `width` x `height` (each at least 1) for a key.
+PlasmaCoarse Plasma_Coarse(int width, int height, const PlasmaSettings &settings, uint64_t key,
+                           int maxThreads = 0);
+
 // The field of `width` x `height` (each at least 1) for a key. `maxThreads` above 0 limits
 // the threads; the result is the same for any.
 PlasmaField Plasma_Fill(int width, int height, const PlasmaSettings &settings, uint64_t key,
@@ -67,6 +91,13 @@ PlasmaField Plasma_Fill(int width, int height, const PlasmaSettings &settings, R
 // top byte of each pixel is set to 0xFF.
 void Plasma_Colours(const PlasmaField &field, const Palette512 &palette, uint32_t *out,
                     std::size_t stride, int maxThreads = 0);
+
+// The fill's last pass and its colours straight into rows of 32-bit pixels `stride` pixels
+// apart, the same pixels `Plasma_Colours` gives for the field of the same key: the heights are
+// written into the pixels and each is then replaced by its colour in place, so no field of the
+// picture's size is held beside the picture. The grid is let go before the colouring.
+void Plasma_FillColours(PlasmaCoarse coarse, const Palette512 &palette, uint32_t *out,
+                        std::size_t stride, int maxThreads = 0);
 
 // The plasma as a table of `width` x `height` 32-bit colours (blue in the low byte, top byte
 // 0), for painters that cut pieces from it (the Boogie bars): the key from two draws of

@@ -10,6 +10,7 @@
 #include "paint/transparency.h"
 
 #include <QtGlobal>
+#include <utility>
 #include <vector>
 
 namespace tf {
@@ -125,19 +126,20 @@ void Create_Plasma(PaintContext &ctx)
     Session &s = ctx.session;
     const PlasmaSettings settings = plasmaSettingsOfPaint(s);
     const Palette512 palette = plasmaPaletteOfPaint(s, ctx.opt.UseDuoTable);
-    // The field first: a fault of the fill ("Plasma [...]") leaves the picture as it was.
-    PlasmaField field;
+    // The coarse passes first: a fault of the fill ("Plasma [...]") leaves the picture as it
+    // was. The last pass and the colours then go straight into the picture's rows.
+    PlasmaCoarse coarse;
     const int w = ctx.XBild.Width(), h = ctx.XBild.Height();
     if (!guarded(QStringLiteral("Plasma"),
-                 [&] { field = Plasma_Fill(w, h, settings, s.random()); }))
+                 [&] { coarse = Plasma_Coarse(w, h, settings, plasmaKey(s.random())); }))
         return;
     ctx.Bild_CLEAR();
     Start_Transparent(s);
     PictureBox &pic = ctx.XBild;
     QImage &image = pic.mutableImage();
     if (image.width() == w && image.height() == h)
-        Plasma_Colours(field, palette, reinterpret_cast<uint32_t *>(image.bits()),
-                       size_t(image.bytesPerLine()) / 4);
+        Plasma_FillColours(std::move(coarse), palette, reinterpret_cast<uint32_t *>(image.bits()),
+                           size_t(image.bytesPerLine()) / 4);
     pic.markChanged();
     Ende_Transparent(s);
 }

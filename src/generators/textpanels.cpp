@@ -43,7 +43,9 @@ const ControlPanel &textDialogPanel()
                         1),
             controlSpec("XText_Mixfonts", -1, K::Checked,
                         QT_TRANSLATE_NOOP("Controls", "Schriften mischen"), "0", 0, 1),
-        }};
+        },
+        {},
+        {enabledOnlyWith({controlKey("txtFontWidth")}, {isOn("XFontWidthActiv")})}};
     return panel;
 }
 

@@ -7,23 +7,6 @@
 
 namespace tf {
 
-QString ControlKey::toString() const
-{
-    return index < 0 ? name : QStringLiteral("%1(%2)").arg(name).arg(index);
-}
-
-std::optional<ControlKey> ControlKey::parse(const QString &text)
-{
-    static const QRegularExpression re(QStringLiteral(R"(^\s*([A-Za-z_][A-Za-z0-9_]*)\s*(?:\(\s*(\d+)\s*\))?\s*$)"));
-    const auto m = re.match(text);
-    if (!m.hasMatch())
-        return std::nullopt;
-    ControlKey key{m.captured(1), -1};
-    if (m.capturedLength(2) > 0)
-        key.index = m.captured(2).toInt();
-    return key;
-}
-
 QString ControlSpec::translatedCaption() const
 {
     return QCoreApplication::translate("Controls", caption);
@@ -165,6 +148,12 @@ std::optional<QString> normaliseValue(const ControlSpec &def, const QString &val
 
 Controls::Controls() { resetToDefaults(); }
 
+namespace {
+// Links are static tables; a chain longer than this is a cycle in them, read as enabled.
+constexpr int MaxLinkDepth = 8;
+const std::vector<const ControlLink *> NoLinks;
+} // namespace
+
 void Controls::resetToDefaults()
 {
     m_values.clear();
@@ -176,9 +165,37 @@ void Controls::addDefaults(const ControlPanel &panel)
 {
     for (const ControlSpec &def : panel.controls)
         m_values.try_emplace(def.key, def.defaultValue);
+    if (std::find(m_linked.begin(), m_linked.end(), &panel) != m_linked.end())
+        return;
+    m_linked.push_back(&panel);
+    for (const ControlLink &link : panel.links) {
+        if (link.kind == LinkKind::EnabledOnlyWith)
+            for (const ControlKey &target : link.targets)
+                m_enabling[target].push_back(&link);
+        for (const LinkClause &clause : link.when)
+            for (const ValueTest &test : clause.anyOf) {
+                auto &reading = m_reading[test.key];
+                if (std::find(reading.begin(), reading.end(), &link) == reading.end())
+                    reading.push_back(&link);
+            }
+    }
 }
 
-bool Controls::set(const ControlKey &key, const QString &value)
+const std::vector<const ControlLink *> &Controls::linksEnabling(const ControlKey &key) const
+{
+    auto it = m_enabling.find(key);
+    return it == m_enabling.end() ? NoLinks : it->second;
+}
+
+const std::vector<const ControlLink *> &Controls::linksReading(const ControlKey &key) const
+{
+    auto it = m_reading.find(key);
+    return it == m_reading.end() ? NoLinks : it->second;
+}
+
+bool Controls::set(const ControlKey &key, const QString &value) { return setAt(key, value, 0); }
+
+bool Controls::setAt(const ControlKey &key, const QString &value, int depth)
 {
     const ControlSpec *def = findControlSpec(key);
     if (!def)
@@ -186,8 +203,25 @@ bool Controls::set(const ControlKey &key, const QString &value)
     const auto v = normaliseValue(*def, value);
     if (!v)
         return false;
+    const bool changes = stored(key) != *v;
     setRaw(key, *v);
+    if (changes)
+        applyLinks(key, depth);
     return true;
+}
+
+void Controls::applyLinks(const ControlKey &changed, int depth)
+{
+    if (depth >= MaxLinkDepth)
+        return;
+    for (const ControlLink *link : linksReading(changed)) {
+        if (link->kind != LinkKind::SetsWhen)
+            continue;
+        if (!link->holds([&](const ControlKey &k) { return int(Val(readAt(k, depth + 1))); }))
+            continue;
+        for (const ControlKey &target : link->targets)
+            setAt(target, link->value, depth + 1);
+    }
 }
 
 void Controls::setRaw(const ControlKey &key, const QString &value)
@@ -199,11 +233,35 @@ void Controls::setRaw(const ControlKey &key, const QString &value)
     if (m_view) m_view->controlChanged(key);
 }
 
-QString Controls::text(const ControlKey &key) const
+QString Controls::stored(const ControlKey &key) const
 {
     auto it = m_values.find(key);
     return it == m_values.end() ? QString() : it->second;
 }
+
+bool Controls::enabled(const ControlKey &key) const { return enabledAt(key, 0); }
+
+bool Controls::enabledAt(const ControlKey &key, int depth) const
+{
+    if (depth >= MaxLinkDepth)
+        return true;
+    for (const ControlLink *link : linksEnabling(key))
+        if (!link->holds([&](const ControlKey &k) { return int(Val(readAt(k, depth + 1))); }))
+            return false;
+    return true;
+}
+
+QString Controls::readAt(const ControlKey &key, int depth) const
+{
+    if (enabledAt(key, depth))
+        return stored(key);
+    const ControlSpec *def = findControlSpec(key);
+    if (!def)
+        return stored(key);
+    return def->kind == ControlKind::Checked ? QStringLiteral("0") : def->defaultValue;
+}
+
+QString Controls::text(const ControlKey &key) const { return readAt(key, 0); }
 
 double Controls::number(const ControlKey &key) const { return Val(text(key)); }
 
@@ -215,11 +273,37 @@ int Controls::value(const ControlKey &key) const
 
 std::vector<std::pair<ControlKey, QString>> Controls::changed() const
 {
-    std::vector<std::pair<ControlKey, QString>> out;
+    std::vector<std::pair<ControlKey, QString>> sources, others;
     for (const auto &[key, value] : m_values) {
         const ControlSpec *def = findControlSpec(key);
-        if (def && def->defaultValue != value)
-            out.emplace_back(key, value);
+        if (!def || def->defaultValue == value)
+            continue;
+        const auto &reading = linksReading(key);
+        const bool sets = std::any_of(reading.begin(), reading.end(), [](const ControlLink *l) {
+            return l->kind == LinkKind::SetsWhen;
+        });
+        (sets ? sources : others).emplace_back(key, value);
+    }
+    // A control that a listed change sets by a link comes last, at the value it holds.
+    std::vector<ControlKey> setLast;
+    const auto read = [this](const ControlKey &k) { return int(Val(text(k))); };
+    for (const auto &[key, value] : sources)
+        for (const ControlLink *link : linksReading(key))
+            if (link->kind == LinkKind::SetsWhen && link->holds(read))
+                for (const ControlKey &target : link->targets)
+                    if (std::find(setLast.begin(), setLast.end(), target) == setLast.end())
+                        setLast.push_back(target);
+    std::vector<std::pair<ControlKey, QString>> out = std::move(sources);
+    for (auto &entry : others)
+        if (std::find(setLast.begin(), setLast.end(), entry.first) == setLast.end())
+            out.push_back(std::move(entry));
+    for (const ControlKey &target : setLast) {
+        auto listed = std::find_if(out.begin(), out.end(),
+                                   [&](const auto &e) { return e.first == target; });
+        if (listed != out.end())
+            out.erase(listed);
+        if (m_values.count(target))
+            out.emplace_back(target, stored(target));
     }
     return out;
 }

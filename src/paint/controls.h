@@ -6,12 +6,17 @@
 // when its value changes (a split count below 2 is rewritten as "2"). The definitions are data:
 // one `ControlPanel` table per option panel. The GUI builds its widgets from them, the command
 // line sets values with --set, tests set them directly, and `controls TYPE` lists them.
+// A panel's links (controllinks.h) say which controls are enabled only with others and which
+// change sets another; `Controls` applies them to every change and every read.
 //
 // Values are held as the control would hold them: text for text fields, a number for check
 // boxes (0/1), scroll bars, list indices and colours. Captions and list items are German
 // source texts of the "Controls" translation context (write them with QT_TRANSLATE_NOOP), so
 // the catalogues translate them like every other text.
 
+
+#include "paint/controlkey.h"
+#include "paint/controllinks.h"
 
 #include <QString>
 #include <QStringList>
@@ -28,23 +33,6 @@ enum class ControlKind {
     Checked,   // a check box: 0 or 1
     ListIndex, // a list or combo box: the index of the chosen item, -1 none
     Colour,    // a colour field: a colour long
-};
-
-// A control's name and, for a control array, its index (-1 when it is no array).
-struct ControlKey {
-    QString name;
-    int index = -1;
-
-    bool operator==(const ControlKey &o) const { return index == o.index && name == o.name; }
-    bool operator<(const ControlKey &o) const
-    {
-        const int c = name.compare(o.name);
-        return c != 0 ? c < 0 : index < o.index;
-    }
-    // "txtMondrian(2)" or "XFill".
-    QString toString() const;
-    // Parses "name" or "name(i)"; nullopt when malformed.
-    static std::optional<ControlKey> parse(const QString &text);
 };
 
 struct ControlSpec {
@@ -78,12 +66,14 @@ struct PanelAction {
     PaintOutcome (*run)(Session &);
 };
 
-// One option panel: its name, its caption, its controls and its buttons.
+// One option panel: its name, its caption, its controls, its buttons and the links between its
+// controls (a link may name a control of another panel, as "XBorders" of the paint dialog).
 struct ControlPanel {
     QString name;            // "feat_01Mondrian", "frmGrafDialog"
     const char *caption = ""; // German source text of the "Controls" context
     std::vector<ControlSpec> controls;
     std::vector<PanelAction> actions = {};
+    std::vector<ControlLink> links = {};
 };
 
 // A control's definition as the panel tables write it: name and index (-1 for none), kind,
@@ -123,13 +113,26 @@ public:
     // Adds the defaults of a panel registered after construction (idempotent).
     void addDefaults(const ControlPanel &panel);
 
-    // Sets a value through the control's normalising rule, as a user's change would.
-    // Answers false (and changes nothing) for an unknown control or an unfitting value.
+    // Sets a value through the control's normalising rule, as a user's change would, and then
+    // the controls that the change sets by a link. Answers false (and changes nothing) for an
+    // unknown control or an unfitting value. A disabled control takes the value all the same
+    // (and keeps it), but is read at rest until it is enabled.
     bool set(const ControlKey &key, const QString &value);
-    // Sets a value as it stands, without the rule (what a painter does when it writes a field).
+    // Sets a value as it stands, without the rule and without links (what a painter does when
+    // it writes a field).
     void setRaw(const ControlKey &key, const QString &value);
 
     bool has(const ControlKey &key) const { return m_values.count(key) != 0; }
+    // Whether every link that enables the control holds.
+    bool enabled(const ControlKey &key) const;
+    // The value the control holds, enabled or not (what its widget shows).
+    QString stored(const ControlKey &key) const;
+    // The links of the registered panels that enable `key`, and those whose condition reads it.
+    const std::vector<const ControlLink *> &linksEnabling(const ControlKey &key) const;
+    const std::vector<const ControlLink *> &linksReading(const ControlKey &key) const;
+
+    // The value as the engine reads it: the stored value of an enabled control; a disabled
+    // control at rest (a check box off, any other control its default).
     QString text(const ControlKey &key) const;
     // The value as a number: Val() of the text for text fields (leading number, else 0).
     double number(const ControlKey &key) const;
@@ -142,14 +145,25 @@ public:
     int value(const QString &name) const { return value(ControlKey{name}); }
     bool checked(const QString &name) const { return checked(ControlKey{name}); }
 
-    // The controls whose value differs from their default (for presets and command lines).
+    // The controls whose stored value differs from their default (for presets and command
+    // lines), in an order that gives the same values back when they are set one after another:
+    // the controls that set others by a link first, and a control such a change would set
+    // last, at its value, even when that is its default.
     std::vector<std::pair<ControlKey, QString>> changed() const;
 
     // The panels that show the values (borrowed; null: none), told after every change.
     void setView(ControlsView *view) { m_view = view; }
 
 private:
+    QString readAt(const ControlKey &key, int depth) const;
+    bool enabledAt(const ControlKey &key, int depth) const;
+    void applyLinks(const ControlKey &changed, int depth);
+    bool setAt(const ControlKey &key, const QString &value, int depth);
+
     std::map<ControlKey, QString> m_values;
+    std::map<ControlKey, std::vector<const ControlLink *>> m_enabling; // target -> links
+    std::map<ControlKey, std::vector<const ControlLink *>> m_reading;  // tested control -> links
+    std::vector<const ControlPanel *> m_linked;                        // panels indexed
     ControlsView *m_view = nullptr;
 };
 

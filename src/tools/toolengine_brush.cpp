@@ -42,9 +42,7 @@ void ToolEngine::sprayDown(int x, int y)
     SprayType = std::clamp(c.listIndex(ControlKey{QStringLiteral("cmbSprayType")}), 0, 4);
     SpraySize = std::max(1, c.value(ControlKey{QStringLiteral("scrollSpray"), 0}));
     SprayPressure = std::clamp(c.value(ControlKey{QStringLiteral("scrollSpray"), 1}), 0, 100);
-    // Only the two brushes join their dabs by the rule of the connected brush.
-    SprayConnected = c.checked(ControlKey{QStringLiteral("XSprayBrush"), 0}) &&
-                     (SprayType == 1 || SprayType == 2);
+    SprayConnected = c.checked(ControlKey{QStringLiteral("XSprayBrush"), 0});
     SprayOverlay = c.checked(ControlKey{QStringLiteral("XSprayBrush"), 1});
     takeUndo();
     Refresh_BrushImage();

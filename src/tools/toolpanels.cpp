@@ -69,6 +69,11 @@ const ControlPanel &sprayPanel()
                         QT_TRANSLATE_NOOP("Controls", "Verbundener Pinsel"), "1", 0, 1),
             controlSpec("XSprayBrush", 1, ControlKind::Checked,
                         QT_TRANSLATE_NOOP("Controls", "Weichz. + Überlagern"), "0", 0, 1),
+        },
+        {},
+        {
+            // Only the two brushes join their dabs by the rule of the connected brush.
+            enabledOnlyWith({controlKey("XSprayBrush", 0)}, {valueIn("cmbSprayType", -1, {1, 2})}),
         }};
     return panel;
 }

@@ -14,6 +14,9 @@
 #include <QPushButton>
 #include <QSlider>
 
+#include <algorithm>
+#include <cmath>
+
 namespace tf::ui {
 
 namespace {
@@ -32,8 +35,13 @@ QString itemText(const char *item)
 
 void setButtonColour(QPushButton *b, ColorLong c)
 {
-    b->setStyleSheet(QStringLiteral("background-color: %1; min-width: 40px;")
-                         .arg(toQColor(c).name()));
+    // A disabled colour field shows its colour faded into grey, as the other widgets grey out.
+    const QColor shown = toQColor(c);
+    const QColor faded = QColor::fromRgb((shown.red() + 3 * 224) / 4, (shown.green() + 3 * 224) / 4,
+                                         (shown.blue() + 3 * 224) / 4);
+    b->setStyleSheet(QStringLiteral("QPushButton { background-color: %1; min-width: 40px; }"
+                                    "QPushButton:disabled { background-color: %2; }")
+                         .arg(shown.name(), faded.name()));
 }
 
 } // namespace
@@ -66,12 +74,12 @@ void ControlPanelWidget::build()
                 connect(combo, &QComboBox::currentTextChanged, this,
                         [this, sp](const QString &t) { commit(*sp, t); });
                 b.widget = combo;
-                b.show = [this, combo, sp] { combo->setCurrentText(m_controls.text(sp->key)); };
+                b.show = [this, combo, sp] { combo->setCurrentText(m_controls.stored(sp->key)); };
             } else {
                 auto *edit = new QLineEdit(this);
                 connect(edit, &QLineEdit::editingFinished, this, [this, sp, edit] { commit(*sp, edit->text()); });
                 b.widget = edit;
-                b.show = [this, edit, sp] { edit->setText(m_controls.text(sp->key)); };
+                b.show = [this, edit, sp] { edit->setText(m_controls.stored(sp->key)); };
             }
             break;
         }
@@ -91,7 +99,7 @@ void ControlPanelWidget::build()
             });
             b.widget = box;
             b.show = [this, slider, number, sp] {
-                const int v = m_controls.value(sp->key);
+                const int v = storedNumber(sp->key);
                 slider->setValue(v);
                 number->setText(QString::number(v) + QString::fromUtf8(sp->unit));
             };
@@ -102,7 +110,7 @@ void ControlPanelWidget::build()
             connect(check, &QCheckBox::toggled, this,
                     [this, sp](bool on) { commit(*sp, on ? QStringLiteral("1") : QStringLiteral("0")); });
             b.widget = check;
-            b.show = [this, check, sp] { check->setChecked(m_controls.checked(sp->key)); };
+            b.show = [this, check, sp] { check->setChecked(storedNumber(sp->key) != 0); };
             break;
         }
         case ControlKind::ListIndex: {
@@ -112,18 +120,18 @@ void ControlPanelWidget::build()
             connect(combo, &QComboBox::currentIndexChanged, this,
                     [this, sp](int i) { commit(*sp, QString::number(i)); });
             b.widget = combo;
-            b.show = [this, combo, sp] { combo->setCurrentIndex(m_controls.value(sp->key)); };
+            b.show = [this, combo, sp] { combo->setCurrentIndex(storedNumber(sp->key)); };
             break;
         }
         case ControlKind::Colour: {
             auto *button = new QPushButton(this);
             connect(button, &QPushButton::clicked, this, [this, sp] {
-                const QColor c = QColorDialog::getColor(toQColor(m_controls.value(sp->key)), this);
+                const QColor c = QColorDialog::getColor(toQColor(storedNumber(sp->key)), this);
                 if (c.isValid())
                     commit(*sp, QString::number(fromQRgb(c.rgb())));
             });
             b.widget = button;
-            b.show = [this, button, sp] { setButtonColour(button, m_controls.value(sp->key)); };
+            b.show = [this, button, sp] { setButtonColour(button, storedNumber(sp->key)); };
             break;
         }
         }
@@ -161,18 +169,41 @@ QLabel *ControlPanelWidget::labelFor(const ControlKey &key) const
 
 void ControlPanelWidget::refresh()
 {
+    m_showing = true;
     for (auto &[key, b] : m_bindings)
-        refresh(key);
+        b.show();
+    m_showing = false;
+    showEnabled();
 }
 
 void ControlPanelWidget::refresh(const ControlKey &key)
 {
     auto it = m_bindings.find(key);
-    if (it == m_bindings.end())
-        return;
-    m_showing = true;
-    it->second.show();
-    m_showing = false;
+    if (it != m_bindings.end()) {
+        m_showing = true;
+        it->second.show();
+        m_showing = false;
+    }
+    // A control of this panel, or of another one (the paint dialog's), may enable ours.
+    if (!m_controls.linksReading(key).empty())
+        showEnabled();
+}
+
+void ControlPanelWidget::showEnabled()
+{
+    for (auto &[key, b] : m_bindings) {
+        if (m_controls.linksEnabling(key).empty())
+            continue;
+        const bool on = m_controls.enabled(key);
+        b.widget->setEnabled(on);
+        if (b.label)
+            b.label->setEnabled(on);
+    }
+}
+
+int ControlPanelWidget::storedNumber(const ControlKey &key) const
+{
+    return int(std::clamp(std::nearbyint(Val(m_controls.stored(key))), -2147483648.0, 2147483647.0));
 }
 
 void ControlPanelWidget::commit(const ControlSpec &def, const QString &value)
@@ -184,8 +215,12 @@ void ControlPanelWidget::commit(const ControlSpec &def, const QString &value)
         return;
     }
     // The normalising rule may have rewritten the value ("1" split becomes "2").
-    if (m_controls.text(def.key) != value)
+    if (m_controls.stored(def.key) != value)
         refresh(def.key);
+    // The change may enable or disable controls by a link (the session's view is told as well,
+    // but a panel shown on its own must follow too).
+    if (!m_controls.linksReading(def.key).empty())
+        showEnabled();
 }
 
 void ControlPanelWidget::changeEvent(QEvent *event)

@@ -7,6 +7,9 @@
 // Kinds and widgets: a Text control with items is an editable combo box, one without a line
 // edit; a Value control a slider with its number (and unit) beside it; Checked a check box;
 // ListIndex a combo box; Colour a colour button.
+//
+// A widget shows the value its control keeps, also while a link disables it; the panel enables
+// its widgets as the links of the control tables say, after every change it is told of.
 
 #include "core/runstate.h"
 #include "paint/controls.h"
@@ -56,6 +59,10 @@ private:
     void build();
     void retranslate();
     void commit(const ControlSpec &def, const QString &value);
+    // Enables each widget (and its label) as the links say.
+    void showEnabled();
+    // A control's stored value as a number (a disabled control shows what it keeps).
+    int storedNumber(const ControlKey &key) const;
 
     const ControlPanel &m_panel;
     Controls &m_controls;

@@ -190,8 +190,6 @@ void MainWindow::syncToolPanels()
     ControlPanelWidget *panel = m_featDialog->panelWidget(QString::fromLatin1(SprayPanelName));
     if (!panel) return;
     const int type = m_session.controls().listIndex(ControlKey{QStringLiteral("cmbSprayType")});
-    if (QWidget *w = panel->widgetFor(ControlKey{QStringLiteral("XSprayBrush"), 0}))
-        w->setEnabled(type == 1 || type == 2);
     // The saturation brush's pressure is the saturation it gives.
     if (QLabel *label = panel->labelFor(ControlKey{QStringLiteral("scrollSpray"), 1}))
         label->setText(type == 2 ? tr("Sättigung ") : QCoreApplication::translate("Controls", "Druck "));

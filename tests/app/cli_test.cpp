@@ -117,6 +117,23 @@ TEST_F(CliTest, ControlsOfATypeListTheGeneralOptionsWithKindDefaultAndRange)
     EXPECT_EQ(forge({QStringLiteral("controls"), QStringLiteral("Nope")}).code, 2);
 }
 
+TEST_F(CliTest, ControlsListTheLinksUnderTheControlsTheyConcern)
+{
+    const Result r = forge({QStringLiteral("controls"), QStringLiteral("ART-Mondrian-LeadGlass"),
+                            QStringLiteral("--lang"), QStringLiteral("en")});
+    ASSERT_EQ(r.code, 0) << r.err.toStdString();
+    EXPECT_TRUE(r.out.contains(QStringLiteral("\tXMLG(2)\tchecked\t1\t0..1\tDraw all frames\n"
+                                              "\t\tsets XBorders to 1 when XMLG(2) = 1\n")))
+        << r.out.toStdString();
+    EXPECT_TRUE(r.out.contains(QStringLiteral("\tXMLG(7)\tchecked\t0\t0..1\tHarmonic subdivision\n"
+                                              "\t\tonly with XMLG(6) = 1\n")));
+    const Result m = forge({QStringLiteral("controls"), QStringLiteral("ART-Mondrian"),
+                            QStringLiteral("--lang"), QStringLiteral("de")});
+    EXPECT_TRUE(m.out.contains(
+        QStringLiteral("\t\tnur mit XMondrian(2) = 1 und (XMondrian(0) = 0 oder XMondrian(1) = 0)\n")))
+        << m.out.toStdString();
+}
+
 TEST_F(CliTest, TheSameSeedGivesTheSameBytes)
 {
     for (const auto &[seed, name] : {std::pair{"7", "a.png"}, {"7", "b.png"}, {"8", "c.png"}}) {

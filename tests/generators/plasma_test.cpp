@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <stdexcept>
 
 using namespace tf;
 
@@ -180,6 +181,29 @@ TEST(PlasmaFill, ColoursAndTable)
     EXPECT_EQ(t1, t2);
     EXPECT_EQ(r1.state(), r2.state());
     EXPECT_TRUE(std::all_of(t1.begin(), t1.end(), [](uint32_t c) { return c <= 0xFFFFFFu; }));
+}
+
+TEST(PlasmaFill, ColouredInPlaceTheSameAsTheFieldThroughItsColours)
+{
+    // The last pass straight into 32-bit rows (wider than the picture) and coloured there gives
+    // the pixels of the field's colours, on one thread and on more, and leaves the rest alone.
+    const Palette512 p = Plasma_Palette(RGB(10, 200, 30), RGB(250, 20, 140), 1);
+    struct Case { int w, h; PlasmaSettings s; uint64_t key; };
+    for (const Case &c : {Case{300, 200, {0, 32, false, false}, 1},
+                          Case{257, 131, {5, 100, true, false}, 2},
+                          Case{64, 97, {40, 4, true, true}, 3},
+                          Case{1, 1, {2, 7, false, true}, 4}}) {
+        const size_t stride = size_t(c.w) + 3;
+        std::vector<uint32_t> expected(stride * size_t(c.h), 0x12345678u);
+        Plasma_Colours(Plasma_Fill(c.w, c.h, c.s, c.key), p, expected.data(), stride);
+        for (int threads : {1, 2}) {
+            std::vector<uint32_t> pixels(stride * size_t(c.h), 0x12345678u);
+            Plasma_FillColours(Plasma_Coarse(c.w, c.h, c.s, c.key, threads), p, pixels.data(),
+                               stride, threads);
+            EXPECT_EQ(pixels, expected) << c.w << " x " << c.h << " on " << threads;
+        }
+    }
+    EXPECT_THROW(Plasma_Coarse(0, 5, {}, 1), std::invalid_argument);
 }
 
 TEST(PlasmaPalette, FourForms)
