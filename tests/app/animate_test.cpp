@@ -18,12 +18,6 @@ using namespace tf;
 
 namespace {
 
-QByteArray readAll(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
 quint32 crc32Of(const QByteArray &bytes)
 {
     quint32 crc = 0xFFFFFFFFu;
@@ -108,8 +102,8 @@ TEST(CliAnimate, TunnelAsApngRepeatsBySeedAndShowsTheTunnelsFrames)
     const auto first = forge(args + QStringList{a});
     ASSERT_EQ(first.code, 0) << first.err.toStdString();
     ASSERT_EQ(forge(args + QStringList{b}).code, 0);
-    const QByteArray bytes = readAll(a);
-    EXPECT_EQ(bytes, readAll(b));
+    const QByteArray bytes = bytesOf(a);
+    EXPECT_EQ(bytes, bytesOf(b));
     EXPECT_TRUE(bytes.contains("acTL"));
 
     const std::vector<QImage> frames = apngFrames(bytes);

@@ -1,35 +1,18 @@
 // `tarvelle-forge gallery` and the gradient types on the command line, run as the built
 // program.
+#include "forgeprocess.h"
+
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
 
-struct Outcome {
-    int code = -1;
-    QString out, err;
-};
-
-Outcome forge(const QStringList &args, const QString &workingDir = QString())
-{
-    static QTemporaryDir runtime;
-    QProcess p;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime.path());
-    p.setProcessEnvironment(env);
-    if (!workingDir.isEmpty()) p.setWorkingDirectory(workingDir);
-    p.start(QStringLiteral(TF_EXE), args);
-    EXPECT_TRUE(p.waitForFinished(120000));
-    return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1,
-            QString::fromUtf8(p.readAllStandardOutput()),
-            QString::fromUtf8(p.readAllStandardError())};
-}
+using forgetest::forge;
+using forgetest::Outcome;
 
 // Splits a command line of the index page into its arguments (single quotes as the shell).
 QStringList shellWords(const QString &line)
@@ -86,7 +69,7 @@ TEST(Gallery, PaintsEveryTypeOfAGroupAndItsPageRepeatsEachWithTheSameBytes)
                                                                        QLatin1String("&"));
     QStringList args = shellWords(line).mid(1);
     QTemporaryDir again;
-    const Outcome p = forge(args, again.path());
+    const Outcome p = forge(args, {}, again.path());
     ASSERT_EQ(p.code, 0) << p.err.toStdString() << line.toStdString();
     QFile a(QDir(dir.path()).filePath(QStringLiteral("Sky_gradient.png")));
     QFile b(QDir(again.path()).filePath(QStringLiteral("Sky_gradient.png")));

@@ -1,4 +1,5 @@
 // Animated PNG and GIF: the files decode to the frames that were given.
+#include "support/files.h"
 #include "files/animationfile.h"
 #include "paint/animation.h"
 
@@ -252,10 +253,7 @@ TEST(AnimationFile, WrongFramesAndFailedWritesLeaveNoFile)
 
     // A stop from the progress leaves the old file as it was.
     const QString path = dir.filePath(QStringLiteral("keep.png"));
-    QFile old(path);
-    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-    old.write("old");
-    old.close();
+    writeBytes(path, "old");
     const WriteResult stopped =
         writeAnimation(path, source, 5, 10, 0, [](int done, int) { return done < 2; });
     EXPECT_FALSE(stopped.ok());
