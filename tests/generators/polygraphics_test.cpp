@@ -3,20 +3,11 @@
 // painting without a fault on odd sizes, with transparency and with the colour tables.
 #include "paintfixture.h"
 
-#include "core/picturebox.h"
 #include "generators/matrixrain.h"
-#include "generators/painters.h"
 #include "generators/polygraphics.h"
 #include "generators/webtiles.h"
-#include "paint/catalogue.h"
 #include "paint/colourdialog.h"
-#include "paint/colourstate.h"
-#include "paint/grafmenu.h"
-#include "paint/paintdriver.h"
-#include "paint/session.h"
 #include "paint/sessionview.h"
-
-#include <gtest/gtest.h>
 
 using namespace tf;
 
