@@ -7,7 +7,6 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QToolButton>
-#include <gtest/gtest.h>
 
 using namespace tf;
 

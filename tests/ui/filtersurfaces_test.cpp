@@ -10,10 +10,8 @@
 #include "ui/getstepsdialog.h"
 #include "windowfixture.h"
 
-#include <QApplication>
 #include <QLineEdit>
 #include <QProcess>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QSlider>
 

@@ -2,17 +2,8 @@
 // paint reads them, and the panel's buttons repaint the last set (keeping its frames) or paint
 // a new one. With TF_SCREENSHOTS set to a folder the window is saved there.
 #include "generators/mondrianlayout.h"
-#include "paint/catalogue.h"
-#include "paint/grafmenu.h"
 #include "paint/mondriantables.h"
-#include "ui/featdialogdock.h"
-#include "ui/mainwindow.h"
 #include "windowfixture.h"
-
-#include <QApplication>
-#include <QListWidget>
-#include <QPushButton>
-#include <gtest/gtest.h>
 
 using namespace tf;
 
@@ -23,22 +14,6 @@ struct LeadGlassWindowTest : WindowFixture {
     {
         WindowFixture::SetUp();
         start();
-    }
-    QListWidget *typeList() { return window->findChild<QListWidget *>(QStringLiteral("ListBoxType")); }
-    QPushButton *button(const char *name)
-    {
-        return window->findChild<QPushButton *>(QString::fromLatin1(name));
-    }
-    ui::FeatDialogDock *options() { return window->findChild<ui::FeatDialogDock *>(); }
-    void choose(const char *key)
-    {
-        const auto where = findType(QString::fromUtf8(key));
-        ASSERT_TRUE(where);
-        mn_Grafmodes(window->session(), where->group);
-        QApplication::processEvents();
-        typeList()->setCurrentRow(where->listIndex);
-        ListBoxType_Click(window->session(), where->listIndex);
-        QApplication::processEvents();
     }
 };
 

@@ -1,10 +1,8 @@
 // "Neu" with its formats and its question, the free size remembered across sessions, and the
 // two clearing commands of the Edit menu.
-#include "core/settings.h"
 #include "windowfixture.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QComboBox>
 #include <QDialog>
 #include <QSpinBox>

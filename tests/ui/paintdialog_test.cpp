@@ -1,17 +1,9 @@
-#include "core/settings.h"
-#include "paint/catalogue.h"
-#include "paint/grafmenu.h"
 #include "paint/paintdriver.h"
 #include "paint/paintrecord.h"
-#include "ui/mainwindow.h"
 #include "windowfixture.h"
 
 #include <QDockWidget>
-#include <QListWidget>
 #include <QProcess>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 using namespace tf;
 
@@ -23,8 +15,6 @@ struct PaintDialogTest : WindowFixture {
         WindowFixture::SetUp();
         start();
     }
-    QListWidget *typeList() { return window->findChild<QListWidget *>(QStringLiteral("ListBoxType")); }
-    QPushButton *paintButton() { return window->findChild<QPushButton *>(QStringLiteral("BtnPaint")); }
 };
 
 } // namespace

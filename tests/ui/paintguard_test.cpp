@@ -1,19 +1,14 @@
 // While a paint gives way to the event loop, every other handler of the window stays still.
 #include "core/pictureformats.h"
-#include "paint/catalogue.h"
-#include "paint/grafmenu.h"
 #include "paint/painter.h"
 #include "windowfixture.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QListWidget>
-#include <QPushButton>
 #include <QSlider>
 #include <QTimer>
 #include <functional>

@@ -2,20 +2,12 @@
 // chosen options is repeated by its command line, and "The Matrix" opens its own window,
 // which a key closes, leaving the picture as it was. With TF_SCREENSHOTS set to a folder the
 // window (and the matrix window) is saved there.
-#include "paint/catalogue.h"
-#include "paint/grafmenu.h"
 #include "paint/paintrecord.h"
-#include "ui/featdialogdock.h"
-#include "ui/mainwindow.h"
 #include "ui/matrixwindow.h"
 #include "windowfixture.h"
 
-#include <QApplication>
 #include <QKeyEvent>
-#include <QListWidget>
 #include <QProcess>
-#include <QPushButton>
-#include <gtest/gtest.h>
 
 using namespace tf;
 
@@ -26,25 +18,6 @@ struct PolyWindowTest : WindowFixture {
     {
         WindowFixture::SetUp();
         start();
-    }
-    QListWidget *typeList() { return window->findChild<QListWidget *>(QStringLiteral("ListBoxType")); }
-    QPushButton *paintButton() { return window->findChild<QPushButton *>(QStringLiteral("BtnPaint")); }
-    ui::FeatDialogDock *options() { return window->findChild<ui::FeatDialogDock *>(); }
-    void choose(const char *key)
-    {
-        const auto where = findType(QString::fromUtf8(key));
-        ASSERT_TRUE(where);
-        mn_Grafmodes(window->session(), where->group);
-        QApplication::processEvents();
-        typeList()->setCurrentRow(where->listIndex);
-        QApplication::processEvents();
-    }
-    void screenshot(QWidget *w, const char *name)
-    {
-        const QString dir = qEnvironmentVariable("TF_SCREENSHOTS");
-        if (dir.isEmpty()) return;
-        QApplication::processEvents();
-        w->grab().save(dir + QLatin1Char('/') + QLatin1String(name) + QStringLiteral(".png"));
     }
     ui::MatrixWindow *matrixWindow()
     {
@@ -78,7 +51,7 @@ TEST_F(PolyWindowTest, ARoseWithChosenOptionsIsRepeatedByItsCommandLine)
     s.controls().set({QStringLiteral("txtRose"), 1}, QStringLiteral("3"));
     s.controls().set({QStringLiteral("XAAlias")}, QStringLiteral("1"));
     paintButton()->click();
-    screenshot(window.get(), "poly-rose");
+    screenshot(*window, "poly-rose");
     ASSERT_TRUE(s.paint().lastPaint.has_value());
 
     s.workspace().Bild.setPicture(QImage());
@@ -117,7 +90,7 @@ TEST_F(PolyWindowTest, TheMatrixOpensItsOwnWindowAndLeavesThePicture)
             green += qGreen(p) > 60 && qGreen(p) > qRed(p) && qGreen(p) > qBlue(p);
         }
     EXPECT_GT(green, 20);
-    screenshot(matrix, "poly-matrix");
+    screenshot(*matrix, "poly-matrix");
     QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
     QApplication::sendEvent(matrix, &escape);
     QApplication::processEvents();

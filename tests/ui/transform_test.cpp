@@ -14,7 +14,6 @@
 #include "ui/transformmenu.h"
 #include "windowfixture.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QMenuBar>
 #include <QSlider>

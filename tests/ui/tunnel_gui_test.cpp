@@ -1,7 +1,5 @@
 // The plasma tunnel in the window: it runs from the timer while the window stays live, the
 // other commands wait, Stop ends it after a frame.
-#include "paint/catalogue.h"
-#include "paint/grafmenu.h"
 #include "windowfixture.h"
 
 #include <QAction>
@@ -13,7 +11,6 @@
 #include <QSpinBox>
 #include <QTimer>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QStackedWidget>
 
 using namespace tf;

@@ -3,10 +3,15 @@
 // answers to its questions.
 #include "core/prompter.h"
 #include "core/settings.h"
+#include "paint/catalogue.h"
+#include "paint/grafmenu.h"
+#include "ui/featdialogdock.h"
 #include "ui/mainwindow.h"
 
 #include <QApplication>
 #include <QImage>
+#include <QListWidget>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <memory>
@@ -34,6 +39,23 @@ struct WindowFixture : ::testing::Test {
         window->session().setPrompter(&prompter);
         window->startUp(*store);
         window->show();
+    }
+    QListWidget *typeList() { return window->findChild<QListWidget *>(QStringLiteral("ListBoxType")); }
+    QPushButton *button(const char *name) { return window->findChild<QPushButton *>(QLatin1String(name)); }
+    QPushButton *paintButton() { return button("BtnPaint"); }
+    tf::ui::FeatDialogDock *options() { return window->findChild<tf::ui::FeatDialogDock *>(); }
+    // Chooses the type of `key` as a user would: its group from the menu, then its row in the
+    // type list. The group remembers its last row, and a row that is current already gives no
+    // change of row, so the list's click follows as the list gives it.
+    void choose(const char *key)
+    {
+        const auto where = tf::findType(QString::fromUtf8(key));
+        ASSERT_TRUE(where) << key;
+        tf::mn_Grafmodes(window->session(), where->group);
+        QApplication::processEvents();
+        typeList()->setCurrentRow(where->listIndex);
+        tf::ListBoxType_Click(window->session(), where->listIndex);
+        QApplication::processEvents();
     }
 };
 
