@@ -11,13 +11,7 @@ using namespace tf;
 
 namespace {
 
-struct CentreWindowTest : WindowFixture {
-    void SetUp() override
-    {
-        WindowFixture::SetUp();
-        start();
-    }
-};
+using CentreWindowTest = StartedWindow;
 
 } // namespace
 

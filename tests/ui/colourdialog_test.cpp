@@ -12,12 +12,11 @@ using namespace tf;
 
 namespace {
 
-struct ColourDialogTest : WindowFixture {
+struct ColourDialogTest : StartedWindow {
     ui::ColourDialogDock *dock = nullptr;
     void SetUp() override
     {
-        WindowFixture::SetUp();
-        start();
+        StartedWindow::SetUp();
         dock = window->findChild<ui::ColourDialogDock *>(QStringLiteral("frmColorDialog"));
         ASSERT_TRUE(dock);
     }

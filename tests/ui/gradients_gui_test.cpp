@@ -4,17 +4,15 @@
 #include "paint/paintrecord.h"
 #include "windowfixture.h"
 
-#include <QProcess>
 
 using namespace tf;
 
 namespace {
 
-struct GradientWindowTest : WindowFixture {
+struct GradientWindowTest : StartedWindow {
     void SetUp() override
     {
-        WindowFixture::SetUp();
-        start();
+        StartedWindow::SetUp();
         window->resize(1500, 1000);
         mn_Grafmodes(window->session(), 5);
     }
@@ -83,13 +81,7 @@ TEST_F(GradientWindowTest, AFrameGradientWithChosenOptionsIsRepeatedByItsCommand
     s.paint().nextSeed = s.paint().lastPaint->seed;
     paintButton()->click();
     const QImage painted = s.workspace().Bild.Image().convertToFormat(QImage::Format_RGB32);
-    const QString out = dir.filePath(QStringLiteral("again.png"));
-    QStringList args = paintCommandArguments(*s.paint().lastPaint);
+    const QStringList args = paintCommandArguments(*s.paint().lastPaint);
     EXPECT_TRUE(args.contains(QStringLiteral("chkGPassepartout=1")));
-    args << QStringLiteral("-o") << out;
-    QProcess cli;
-    cli.start(QStringLiteral(TF_EXE), args);
-    ASSERT_TRUE(cli.waitForFinished(60000));
-    ASSERT_EQ(cli.exitCode(), 0) << cli.readAllStandardError().toStdString();
-    EXPECT_EQ(QImage(out).convertToFormat(QImage::Format_RGB32), painted);
+    EXPECT_EQ(writtenBy(args + QStringList{QStringLiteral("-o"), outFile()}), painted);
 }

@@ -9,13 +9,7 @@ using namespace tf;
 
 namespace {
 
-struct LeadGlassWindowTest : WindowFixture {
-    void SetUp() override
-    {
-        WindowFixture::SetUp();
-        start();
-    }
-};
+using LeadGlassWindowTest = StartedWindow;
 
 TEST_F(LeadGlassWindowTest, ThePanelsButtonsRepaintTheSetAndPaintANewOne)
 {

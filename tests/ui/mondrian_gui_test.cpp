@@ -9,13 +9,7 @@ using namespace tf;
 
 namespace {
 
-struct MondrianWindowTest : WindowFixture {
-    void SetUp() override
-    {
-        WindowFixture::SetUp();
-        start();
-    }
-};
+using MondrianWindowTest = StartedWindow;
 
 TEST_F(MondrianWindowTest, RepaintLetztesSetPaintsTheSameFramesAgain)
 {

@@ -39,11 +39,10 @@ void yieldingPainter(PaintContext &ctx)
 const PainterEntry yieldingTable[] = {{"Backgroundcolor", yieldingPainter, true},
                                       {"Boxes-Kreisradius", yieldingPainter, true}};
 
-struct PaintGuardTest : WindowFixture {
+struct PaintGuardTest : StartedWindow {
     void SetUp() override
     {
-        WindowFixture::SetUp();
-        start();
+        StartedWindow::SetUp();
         window->session().setPainters(yieldingTable);
     }
     void TearDown() override

@@ -7,18 +7,12 @@
 #include "windowfixture.h"
 
 #include <QKeyEvent>
-#include <QProcess>
 
 using namespace tf;
 
 namespace {
 
-struct PolyWindowTest : WindowFixture {
-    void SetUp() override
-    {
-        WindowFixture::SetUp();
-        start();
-    }
+struct PolyWindowTest : StartedWindow {
     ui::MatrixWindow *matrixWindow()
     {
         for (QWidget *w : QApplication::topLevelWidgets())
@@ -58,15 +52,9 @@ TEST_F(PolyWindowTest, ARoseWithChosenOptionsIsRepeatedByItsCommandLine)
     s.paint().nextSeed = s.paint().lastPaint->seed;
     paintButton()->click();
     const QImage painted = s.workspace().Bild.Image().convertToFormat(QImage::Format_RGB32);
-    const QString out = dir.filePath(QStringLiteral("again.png"));
-    QStringList args = paintCommandArguments(*s.paint().lastPaint);
+    const QStringList args = paintCommandArguments(*s.paint().lastPaint);
     EXPECT_TRUE(args.contains(QStringLiteral("txtRose(0)=5"))) << args.join(' ').toStdString();
-    args << QStringLiteral("-o") << out;
-    QProcess cli;
-    cli.start(QStringLiteral(TF_EXE), args);
-    ASSERT_TRUE(cli.waitForFinished(60000));
-    ASSERT_EQ(cli.exitCode(), 0) << cli.readAllStandardError().toStdString();
-    EXPECT_EQ(QImage(out).convertToFormat(QImage::Format_RGB32), painted);
+    EXPECT_EQ(writtenBy(args + QStringList{QStringLiteral("-o"), outFile()}), painted);
 }
 
 TEST_F(PolyWindowTest, TheMatrixOpensItsOwnWindowAndLeavesThePicture)

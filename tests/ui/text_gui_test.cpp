@@ -21,11 +21,10 @@ using namespace tf;
 
 namespace {
 
-struct TextWindowTest : WindowFixture {
+struct TextWindowTest : StartedWindow {
     void SetUp() override
     {
-        WindowFixture::SetUp();
-        start();
+        StartedWindow::SetUp();
         Session &s = window->session();
         s.colours().RandomColors = false;
         s.colours().RandomValues = false;

@@ -17,15 +17,11 @@ using namespace tf;
 
 namespace {
 
-struct TunnelGui : WindowFixture {
+struct TunnelGui : StartedWindow {
     void SetUp() override
     {
-        WindowFixture::SetUp();
-        start();
-        const TypeLocation where = *findType(QStringLiteral("Plasma"));
-        mn_Grafmodes(window->session(), where.group);
-        ListBoxType_Click(window->session(), where.listIndex);
-        QApplication::processEvents();
+        StartedWindow::SetUp();
+        choose("Plasma");
     }
     template <typename T> T *child(const char *name)
     {

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QListWidget>
+#include <QProcess>
 #include <QPushButton>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -56,6 +57,25 @@ struct WindowFixture : ::testing::Test {
         typeList()->setCurrentRow(where->listIndex);
         tf::ListBoxType_Click(window->session(), where->listIndex);
         QApplication::processEvents();
+    }
+    QString outFile() const { return dir.filePath(QStringLiteral("out.png")); }
+    // Runs the program with `args` and answers the picture it wrote to outFile().
+    QImage writtenBy(const QStringList &args)
+    {
+        QProcess cli;
+        cli.start(QStringLiteral(TF_EXE), args);
+        EXPECT_TRUE(cli.waitForFinished(60000));
+        EXPECT_EQ(cli.exitCode(), 0) << cli.readAllStandardError().toStdString();
+        return QImage(outFile()).convertToFormat(QImage::Format_RGB32);
+    }
+};
+
+// A window started before each test.
+struct StartedWindow : WindowFixture {
+    void SetUp() override
+    {
+        WindowFixture::SetUp();
+        start();
     }
 };
 
