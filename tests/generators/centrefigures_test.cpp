@@ -12,6 +12,7 @@
 #include <cmath>
 #include <numeric>
 #include <set>
+#include <string>
 
 using namespace tf;
 
@@ -373,23 +374,22 @@ TEST_F(CircleTest, RadialRunsFromTheFirstColourAtTheHeartToTheSecondAtTheFarthes
 
 TEST_F(CircleTest, TheSectorRunsCounterClockwiseFromTheStartToTheEndAngle)
 {
+    // Which quarters about the centre took paint: up right, up left, down left, down right.
+    const auto quarters = [&] {
+        std::string q;
+        for (auto [x, y] : {std::pair{160, 50}, {80, 50}, {80, 130}, {160, 130}})
+            q += at(x, y) != Ground ? '#' : '.';
+        return q;
+    };
     set("CMW1", QStringLiteral("90"), 1);
     ground();
     ASSERT_EQ(paint("Radial", 1), PaintOutcome::Painted);
-    // The quarter up and to the right of the centre is painted, the other three keep the
-    // ground.
-    EXPECT_NE(at(160, 50), Ground);
-    EXPECT_EQ(at(80, 50), Ground);
-    EXPECT_EQ(at(80, 130), Ground);
-    EXPECT_EQ(at(160, 130), Ground);
+    EXPECT_EQ(quarters(), "#...");
     // An end before the start wraps round: 270 to 90 is the right half.
     set("CMW1", QStringLiteral("270"), 2);
     ground();
     ASSERT_EQ(paint("Radial", 1), PaintOutcome::Painted);
-    EXPECT_NE(at(160, 50), Ground);
-    EXPECT_NE(at(160, 130), Ground);
-    EXPECT_EQ(at(80, 50), Ground);
-    EXPECT_EQ(at(80, 130), Ground);
+    EXPECT_EQ(quarters(), "#..#");
 }
 
 TEST_F(CircleTest, SunburstRaysTurnOutAndBackPerDivision)
