@@ -52,7 +52,7 @@ TEST_F(TextTest, AnEmptyTextPaintsTheLatinSample)
     EXPECT_EQ(image(), empty);
 }
 
-TEST_F(TextTest, AnAngleOfZeroSetsNoEscapementAndOthersTurnTheText)
+TEST_F(TextTest, AnAngleOfZeroSetsNoEscapementOthersTurnTheTextAndThePositionIsItsCorner)
 {
     const text::TextFont f = text::dialogFont(s.controls());
     EXPECT_EQ(text::logicalFont(f, 0).escapement, 0);
@@ -76,17 +76,16 @@ TEST_F(TextTest, AnAngleOfZeroSetsNoEscapementAndOthersTurnTheText)
     EXPECT_GT(upright.height(), 3 * upright.width());
     EXPECT_NEAR(upright.height(), flat.width(), 2);
     EXPECT_NEAR(upright.center().y(), 150, 2);
-}
 
-TEST_F(TextTest, ThePositionIsTheInksTopLeftCornerUnlessCentred)
-{
-    text(QStringLiteral("Hallo"));
+    // Not centred, the position is the ink's top left corner.
+    ground(White);
+    set("TDW1", QStringLiteral("0"), 0);
+    set("XTextDialog_Center", QStringLiteral("0"));
     set("txtDialogXYPos", QStringLiteral("30"), 0);
     set("txtDialogXYPos", QStringLiteral("40"), 1);
     ASSERT_EQ(paint("TEXT-Dialog"), PaintOutcome::Painted);
-    const QRect ink = inkIn();
-    EXPECT_NEAR(ink.left(), 30, 1);
-    EXPECT_NEAR(ink.top(), 40, 1);
+    EXPECT_NEAR(inkIn().left(), 30, 1);
+    EXPECT_NEAR(inkIn().top(), 40, 1);
 }
 
 TEST_F(TextTest, UmlautsAndSharpSPaintWithTheirMarks)
