@@ -6,6 +6,7 @@
 #include <QImage>
 #include <array>
 #include <initializer_list>
+#include <vector>
 
 namespace filtertest {
 
@@ -50,6 +51,15 @@ inline std::array<int, 3> rgb(const QImage &img, int x, int y)
 {
     const QRgb p = img.pixel(x, y);
     return {qRed(p), qGreen(p), qBlue(p)};
+}
+
+// The red channel along row y.
+inline std::vector<int> reds(const QImage &img, int y = 0)
+{
+    std::vector<int> out;
+    for (int x = 0; x < img.width(); ++x)
+        out.push_back(qRed(img.pixel(x, y)));
+    return out;
 }
 
 } // namespace filtertest
