@@ -401,4 +401,12 @@ TEST_F(TextTest, TheNextClickPlacesTheDialogsText)
     EXPECT_FALSE(placeTextAt(s, 9, 9));
 }
 
+TEST_F(TextTest, TheTextBlockMarginsStartAtTheProgramsTextBlockStep)
+{
+    const Session fresh;
+    for (int i : {0, 1})
+        EXPECT_EQ(fresh.controls().value(ControlKey{QStringLiteral("scrollTextBlock"), i}),
+                  fresh.startValues().TextBlockStep);
+}
+
 } // namespace
