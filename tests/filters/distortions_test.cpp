@@ -6,20 +6,13 @@
 #include "filters/filtercommand.h"
 #include "filters/filtertable.h"
 #include "filters/geometry.h"
-#include "paint/session.h"
-
-#include <gtest/gtest.h>
 
 using namespace tf;
 using namespace filtertest;
 
 namespace {
 
-struct Distortions : ::testing::Test {
-    Session s;
-    ScriptedPrompter prompter;
-    void SetUp() override { s.setPrompter(&prompter); }
-
+struct Distortions : FilterSession {
     // Filter `number` (a shape 1000.. runs as 46 with its selector) with the slider values.
     QImage run(int number, QImage img, const std::vector<int> &sliders, FilterArgs a = {})
     {

@@ -14,15 +14,13 @@ using namespace filtertest;
 
 namespace {
 
-struct Geometry : ::testing::Test {
-    Session s;
-    ScriptedPrompter prompter;
+struct Geometry : FilterSession {
     QImage start;
     Workspace &ws = s.workspace();
 
     void SetUp() override
     {
-        s.setPrompter(&prompter);
+        FilterSession::SetUp();
         ws.New_BildSize(12, 7);
         start = noisy(12, 7);
         ws.Bild.setPicture(start);
