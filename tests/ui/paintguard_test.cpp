@@ -50,14 +50,10 @@ struct PaintGuardTest : StartedWindow {
         g_whilePainting = nullptr;
         WindowFixture::TearDown();
     }
-    template <typename T> T *child(const char *name)
-    {
-        return window->findChild<T *>(QLatin1String(name));
-    }
     void paintFirstType()
     {
-        child<QListWidget>("ListBoxType")->setCurrentRow(0);
-        child<QPushButton>("BtnPaint")->click();
+        typeList()->setCurrentRow(0);
+        paintButton()->click();
     }
 };
 

@@ -23,10 +23,6 @@ struct TunnelGui : StartedWindow {
         StartedWindow::SetUp();
         choose("Plasma");
     }
-    template <typename T> T *child(const char *name)
-    {
-        return window->findChild<T *>(QLatin1String(name));
-    }
     // Runs the event loop for `ms` milliseconds.
     static void wait(int ms)
     {

@@ -41,8 +41,9 @@ struct WindowFixture : ::testing::Test {
         window->startUp(*store);
         window->show();
     }
-    QListWidget *typeList() { return window->findChild<QListWidget *>(QStringLiteral("ListBoxType")); }
-    QPushButton *button(const char *name) { return window->findChild<QPushButton *>(QLatin1String(name)); }
+    template <typename T> T *child(const char *name) { return window->findChild<T *>(QLatin1String(name)); }
+    QListWidget *typeList() { return child<QListWidget>("ListBoxType"); }
+    QPushButton *button(const char *name) { return child<QPushButton>(name); }
     QPushButton *paintButton() { return button("BtnPaint"); }
     tf::ui::FeatDialogDock *options() { return window->findChild<tf::ui::FeatDialogDock *>(); }
     // Chooses the type of `key` as a user would: its group from the menu, then its row in the
