@@ -1,7 +1,7 @@
 // The lead-glass and cathedral windows in the desktop program: their panels come on top, the
 // paint reads them, and the panel's buttons repaint the last set (keeping its frames) or paint
 // a new one. With TF_SCREENSHOTS set to a folder the window is saved there.
-#include "generators/mondrianlayout.h"
+#include "generators/mondrianframes.h"
 #include "paint/mondriantables.h"
 #include "windowfixture.h"
 
@@ -33,11 +33,7 @@ TEST_F(LeadGlassWindowTest, ThePanelsButtonsRepaintTheSetAndPaintANewOne)
     ASSERT_TRUE(button("BtnMLG_Repaint_0"));
     button("BtnMLG_Repaint_0")->click();
     QApplication::processEvents();
-    const auto again = mondrianFrames(s.mondrian());
-    ASSERT_EQ(again.size(), frames.size());
-    for (size_t i = 0; i < frames.size(); ++i)
-        EXPECT_TRUE(again[i].left == frames[i].left && again[i].top == frames[i].top &&
-                    again[i].right == frames[i].right && again[i].bottom == frames[i].bottom);
+    EXPECT_TRUE(test::sameFrames(mondrianFrames(s.mondrian()), frames));
     EXPECT_NE(s.workspace().Bild.Image(), first);
     options()->raise();
     screenshot(*window, "leadglass-window");

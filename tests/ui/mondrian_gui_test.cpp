@@ -1,7 +1,7 @@
 // "ART-Mondrian" in the desktop program: its panel comes on top with the button "Repaint
 // letztes Set", which paints the same frames again. With TF_SCREENSHOTS set to a folder the
 // window is saved there.
-#include "generators/mondrianlayout.h"
+#include "generators/mondrianframes.h"
 #include "paint/mondriantables.h"
 #include "windowfixture.h"
 
@@ -28,12 +28,7 @@ TEST_F(MondrianWindowTest, RepaintLetztesSetPaintsTheSameFramesAgain)
     EXPECT_EQ(repaint->text(), QStringLiteral("Repaint letztes Set"));
     repaint->click();
     QApplication::processEvents();
-    const auto again = mondrianFrames(s.mondrian());
-    ASSERT_EQ(frames.size(), again.size());
-    for (size_t i = 0; i < frames.size(); ++i) {
-        EXPECT_EQ(frames[i].left, again[i].left);
-        EXPECT_EQ(frames[i].bottom, again[i].bottom);
-    }
+    EXPECT_TRUE(test::sameFrames(mondrianFrames(s.mondrian()), frames));
     EXPECT_NE(s.workspace().Bild.Image(), first);
     EXPECT_TRUE(prompter.asked().empty());
     auto *dock = options();
