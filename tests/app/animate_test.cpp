@@ -1,6 +1,7 @@
 // `tarvelle-forge animate`: the tunnel as an animated PNG or GIF, the same bytes for a seed,
 // the frames those of the tunnel painted in the process.
 #include "forgeprocess.h"
+#include "support/pngchunks.h"
 
 #include "generators/painters.h"
 #include "generators/tunnel.h"
@@ -17,58 +18,6 @@ using forgetest::forge;
 using namespace tf;
 
 namespace {
-
-QByteArray readAll(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-quint32 crc32Of(const QByteArray &bytes)
-{
-    quint32 crc = 0xFFFFFFFFu;
-    for (char ch : bytes) {
-        crc ^= quint8(ch);
-        for (int k = 0; k < 8; ++k) crc = (crc >> 1) ^ (0xEDB88320u & (0u - (crc & 1u)));
-    }
-    return ~crc;
-}
-
-void appendChunk(QByteArray &png, const QByteArray &type, const QByteArray &data)
-{
-    char word[4];
-    qToBigEndian<quint32>(quint32(data.size()), word);
-    png.append(word, 4);
-    png.append(type + data);
-    qToBigEndian<quint32>(crc32Of(type + data), word);
-    png.append(word, 4);
-}
-
-// The frames of an APNG, each rebuilt as a still PNG and decoded by Qt.
-std::vector<QImage> apngFrames(const QByteArray &file)
-{
-    std::vector<QImage> frames;
-    QByteArray ihdr, data;
-    auto flush = [&] {
-        if (data.isEmpty()) return;
-        QByteArray png = file.left(8);
-        appendChunk(png, "IHDR", ihdr);
-        appendChunk(png, "IDAT", data);
-        appendChunk(png, "IEND", {});
-        frames.push_back(QImage::fromData(png, "PNG").convertToFormat(QImage::Format_RGB32));
-        data.clear();
-    };
-    for (qsizetype pos = 8; pos + 12 <= file.size();) {
-        const quint32 length = qFromBigEndian<quint32>(file.constData() + pos);
-        const QByteArray type = file.mid(pos + 4, 4), body = file.mid(pos + 8, length);
-        if (type == "IHDR") ihdr = body;
-        if (type == "fcTL" || type == "IEND") flush();
-        if (type == "IDAT") data += body;
-        if (type == "fdAT") data += body.mid(4);
-        pos += 12 + qsizetype(length);
-    }
-    return frames;
-}
 
 // The tunnel the command makes for `seed` at 64 x 48, made in this process, and its frames at
 // `fps`.
@@ -108,11 +57,11 @@ TEST(CliAnimate, TunnelAsApngRepeatsBySeedAndShowsTheTunnelsFrames)
     const auto first = forge(args + QStringList{a});
     ASSERT_EQ(first.code, 0) << first.err.toStdString();
     ASSERT_EQ(forge(args + QStringList{b}).code, 0);
-    const QByteArray bytes = readAll(a);
-    EXPECT_EQ(bytes, readAll(b));
+    const QByteArray bytes = bytesOf(a);
+    EXPECT_EQ(bytes, bytesOf(b));
     EXPECT_TRUE(bytes.contains("acTL"));
 
-    const std::vector<QImage> frames = apngFrames(bytes);
+    const std::vector<QImage> frames = pngtest::readApng(bytes).frames;
     const std::vector<QImage> painted = tunnelFrames(3, 5, 15);
     ASSERT_EQ(frames.size(), 5u);
     for (size_t i = 0; i < frames.size(); ++i) EXPECT_EQ(frames[i], painted[i]) << "frame " << i;

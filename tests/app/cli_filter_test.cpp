@@ -35,11 +35,6 @@ struct CliFilter : ::testing::Test {
         return forge(QStringList{QStringLiteral("filter")} + args +
                      QStringList{QStringLiteral("--lang"), QStringLiteral("en")});
     }
-    static QByteArray bytes(const QString &path)
-    {
-        QFile f(path);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }
 };
 
 } // namespace
@@ -100,10 +95,7 @@ TEST_F(CliFilter, AnUnreadablePictureEndsWithExitCodeOneAndNoOutput)
 {
     const QString out = file("out.png");
     const QString broken = file("broken.png");
-    QFile f(broken);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("\x89PNG\r\n\x1a\n not a picture");
-    f.close();
+    writeBytes(broken, "\x89PNG\r\n\x1a\n not a picture");
     const struct {
         QString in, message;
     } cases[] = {
@@ -134,8 +126,8 @@ TEST_F(CliFilter, AChainGivesWhatTheFiltersGiveOneAfterTheOther)
     ASSERT_EQ(filter({QStringLiteral("emboss"), first, QStringLiteral("-o"), second, QStringLiteral("--colour0"),
                       QStringLiteral("#808080")}).code, 0);
     ASSERT_EQ(filter({QStringLiteral("burke"), second, QStringLiteral("-o"), first}).code, 0);
-    EXPECT_EQ(bytes(chained), bytes(first));
-    EXPECT_FALSE(bytes(chained).isEmpty());
+    EXPECT_EQ(bytesOf(chained), bytesOf(first));
+    EXPECT_FALSE(bytesOf(chained).isEmpty());
 }
 
 TEST_F(CliFilter, TheColourMixTakesTheBackgroundColourAtHalfTransparency)

@@ -1,36 +1,27 @@
 // `passepartouts` and `passepartout` as the built program runs them.
+#include "forgeprocess.h"
+
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
 
-struct Outcome {
-    int code = -1;
-    QString out, err;
-};
+using forgetest::Outcome;
 
 struct CliPassepartout : ::testing::Test {
     QTemporaryDir dir;
     QString file(const char *name) const { return dir.filePath(QString::fromLatin1(name)); }
 
+    // In German, with the settings and data folders of its own.
     Outcome forge(const QStringList &args) const
     {
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        env.insert(QStringLiteral("XDG_RUNTIME_DIR"), dir.path());
+        QProcessEnvironment env;
         env.insert(QStringLiteral("XDG_CONFIG_HOME"), dir.filePath(QStringLiteral("config")));
         env.insert(QStringLiteral("XDG_DATA_HOME"), dir.filePath(QStringLiteral("data")));
-        QProcess p;
-        p.setProcessEnvironment(env);
-        p.start(QStringLiteral(TF_EXE),
-                args + QStringList{QStringLiteral("--lang"), QStringLiteral("de")});
-        EXPECT_TRUE(p.waitForFinished(60000));
-        return {p.exitCode(), QString::fromUtf8(p.readAllStandardOutput()),
-                QString::fromUtf8(p.readAllStandardError())};
+        return forgetest::forge(args + QStringList{QStringLiteral("--lang"), QStringLiteral("de")}, env);
     }
 };
 
@@ -44,10 +35,7 @@ TEST_F(CliPassepartout, ListsAndPaintsTheStoredSetsOfTheUsersDataFolder)
     bytes.append("\x02\x00\xff\x00\x00\x00", 6);
     bytes.append(36, '\0');
     QDir().mkpath(file("data/tarvelle-forge"));
-    QFile data(file("data/tarvelle-forge/tvlpassp.dat"));
-    ASSERT_TRUE(data.open(QIODevice::WriteOnly));
-    data.write(bytes);
-    data.close();
+    writeBytes(file("data/tarvelle-forge/tvlpassp.dat"), bytes);
 
     const Outcome list = forge({QStringLiteral("passepartouts")});
     ASSERT_EQ(list.code, 0) << list.err.toStdString();
@@ -79,17 +67,12 @@ TEST_F(CliPassepartout, ListsAndPaintsTheStoredSetsOfTheUsersDataFolder)
 
 TEST_F(CliPassepartout, AForeignDataFileEndsTheCommandAndStaysAsItWas)
 {
-    QFile f(file("foreign.dat"));
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("GIF89a");
-    f.close();
+    writeBytes(file("foreign.dat"), "GIF89a");
     const Outcome r =
         forge({QStringLiteral("passepartouts"), QStringLiteral("--data"), file("foreign.dat")});
     EXPECT_EQ(r.code, 1);
     EXPECT_TRUE(r.err.contains(QStringLiteral("Falsches Dateiformat für Passepartouts.")));
-    QFile again(file("foreign.dat"));
-    ASSERT_TRUE(again.open(QIODevice::ReadOnly));
-    EXPECT_EQ(again.readAll(), QByteArray("GIF89a"));
+    EXPECT_EQ(bytesOf(file("foreign.dat")), QByteArray("GIF89a"));
     const Outcome usage = forge({QStringLiteral("passepartout"), file("foreign.dat")});
     EXPECT_EQ(usage.code, 2);
 }

@@ -1,4 +1,5 @@
 // The command line, run as the built program.
+#include "forgeprocess.h"
 #include "support/testdata.h"
 #include "generators/painters.h"
 #include "paint/grafmenu.h"
@@ -10,7 +11,6 @@
 
 #include <QFile>
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -18,42 +18,8 @@ using namespace tf;
 
 namespace {
 
-struct Result {
-    int code = -1;
-    QString out;
-    QString err;
-};
-
-QProcessEnvironment environment()
-{
-    static QTemporaryDir runtime; // private to the user, as the runtime folder must be
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime.path());
-    return env;
-}
-
-Result runProgram(const QString &program, const QStringList &args)
-{
-    QProcess p;
-    p.setProcessEnvironment(environment());
-    p.start(program, args);
-    EXPECT_TRUE(p.waitForFinished(120000)) << program.toStdString();
-    return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1,
-            QString::fromUtf8(p.readAllStandardOutput()),
-            QString::fromUtf8(p.readAllStandardError())};
-}
-
-Result forge(const QStringList &args)
-{
-    return runProgram(QStringLiteral(TF_EXE), args);
-}
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
+using forgetest::forge;
+using Result = forgetest::Outcome;
 
 struct CliTest : ::testing::Test {
     QTemporaryDir dir;
@@ -255,7 +221,7 @@ TEST_F(CliTest, TheCopiedCommandLineReproducesThePaintOnAClearedPicture)
         const QString out = file("copied.png");
         QFile::remove(out);
         const Result r =
-            runProgram(QStringLiteral("/bin/sh"),
+            forgetest::run(QStringLiteral("/bin/sh"),
                        {QStringLiteral("-c"), shellQuote(QStringLiteral(TF_EXE)) +
                                                   line.mid(int(qstrlen("tarvelle-forge"))) +
                                                   QStringLiteral(" -o ") + shellQuote(out)});

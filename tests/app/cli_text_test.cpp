@@ -52,11 +52,8 @@ TEST(CliText, ATextBlockWithUmlautsPaintsAndItsRecipePaintsItAgain)
     EXPECT_EQ(QImage(in(dir, "b.png")), painted);
 
     // The same text from a file in the Western 8-bit encoding paints the same picture.
-    QFile file(in(dir, "text.txt"));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("Gr\xF6\xDF" "e, \xDC" "berma\xDF,\r\n\xC4pfel und \xD6l\r\n");
-    file.close();
-    const auto fromFile = forge(common + QStringList{QStringLiteral("--text-file"), file.fileName(),
+    writeBytes(in(dir, "text.txt"), "Gr\xF6\xDF" "e, \xDC" "berma\xDF,\r\n\xC4pfel und \xD6l\r\n");
+    const auto fromFile = forge(common + QStringList{QStringLiteral("--text-file"), in(dir, "text.txt"),
                                                      QStringLiteral("-o"), in(dir, "c.png")});
     ASSERT_EQ(fromFile.code, 0) << fromFile.err.toStdString();
     EXPECT_EQ(QImage(in(dir, "c.png")), painted);

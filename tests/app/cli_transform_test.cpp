@@ -1,36 +1,24 @@
 // The command line's picture commands and distortions, run as the built program on a real
 // photo: sizes and pixels of what it writes, and its messages for bad arguments.
+#include "forgeprocess.h"
 #include "support/testdata.h"
 
 #include <QImage>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
 
-struct Outcome {
-    int code = -1;
-    QString err;
-};
+using forgetest::Outcome;
 
 struct CliTransform : ::testing::Test {
     QTemporaryDir dir;
-    QTemporaryDir runtime;
     QString photo = testdataPath(QStringLiteral("photos/kodak/landscape/kodim01.jpg"));
 
     QString file(const char *name) const { return dir.filePath(QString::fromLatin1(name)); }
     Outcome forge(const QStringList &args) const
     {
-        QProcess p;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        env.insert(QStringLiteral("XDG_RUNTIME_DIR"), runtime.path());
-        p.setProcessEnvironment(env);
-        p.start(QStringLiteral(TF_EXE),
-                args + QStringList{QStringLiteral("--lang"), QStringLiteral("en")});
-        EXPECT_TRUE(p.waitForFinished(120000));
-        return {p.exitCode(), QString::fromUtf8(p.readAllStandardError())};
+        return forgetest::forge(args + QStringList{QStringLiteral("--lang"), QStringLiteral("en")});
     }
 };
 

@@ -1,3 +1,4 @@
+#include "support/files.h"
 #include "core/dibsection.h"
 #include "core/prompter.h"
 #include "pixel_art.h"
@@ -195,7 +196,7 @@ TEST(DIBSection, StretchUsesTheGivenModeAndRestoresTheTargets)
     EXPECT_EQ(dc.pixel(2, 3), d.dib_hdc().pixel(1, 1));
 }
 
-TEST(DIBSection, ResampleAndResizeToTheSameSizeAreExactCopies)
+TEST(DIBSection, ResampleAndResizeToTheSameSizeCopyAndToOneByOneSampleTheCorner)
 {
     cDIBSection d;
     ASSERT_TRUE(d.Create(7, 5));
@@ -205,20 +206,12 @@ TEST(DIBSection, ResampleAndResizeToTheSameSizeAreExactCopies)
     ASSERT_TRUE(a && b);
     EXPECT_TRUE(sameMemory(d, *a));
     EXPECT_TRUE(sameMemory(d, *b));
-}
-
-TEST(DIBSection, ResampleToOneByOneSamplesTheCorner)
-{
-    cDIBSection d;
-    ASSERT_TRUE(d.Create(3, 3));
-    fillPattern(d, 99);
     auto r = d.Resample(1, 1);
     ASSERT_TRUE(r);
-    ASSERT_EQ(r->dib_width(), 1);
-    ASSERT_EQ(r->dib_height(), 1);
+    ASSERT_EQ(std::pair(r->dib_width(), r->dib_height()), std::pair(1, 1));
     // Memory (0,0): the bottom left pixel as shown.
     EXPECT_EQ(memPixel(*r, 0, 0), memPixel(d, 0, 0));
-    EXPECT_EQ(r->dib_hdc().pixel(0, 0), d.dib_hdc().pixel(0, 2));
+    EXPECT_EQ(r->dib_hdc().pixel(0, 0), d.dib_hdc().pixel(0, 4));
 }
 
 TEST(DIBSection, ResampleOfAKnownPatternRoundsEachStageHalfToEven)
@@ -377,12 +370,6 @@ TEST(DIBSection, LineDIBClampsAndOrdersItsBoxInMemoryRows)
 
 namespace {
 
-QByteArray readFile(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
 uint32_t le32(const QByteArray &b, int at) { return qFromLittleEndian<quint32>(b.constData() + at); }
 uint16_t le16(const QByteArray &b, int at) { return qFromLittleEndian<quint16>(b.constData() + at); }
 
@@ -392,18 +379,14 @@ TEST(DIBSection, SaveBmpWritesTheSystemsHeaderAndTheRows)
 {
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("three.bmp"));
-    {
-        QFile old(path);
-        ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-        old.write("an older and longer file that must be replaced as a whole");
-    }
+    writeBytes(path, "an older and longer file that must be replaced as a whole");
     cDIBSection d;
     ASSERT_TRUE(d.Create(3, 2));
     for (int i = 0; i < 6; ++i)
         setMemPixel(d, i % 3, i / 3, uint8_t(3 * i + 1), uint8_t(3 * i + 2), uint8_t(3 * i + 3));
     ASSERT_TRUE(cDIBSection::Save_BMP(path, d));
 
-    const QByteArray b = readFile(path);
+    const QByteArray b = bytesOf(path);
     ASSERT_EQ(b.size(), 54 + 12 * 2);
     EXPECT_EQ(b.left(2), QByteArray("BM"));
     EXPECT_EQ(le32(b, 2), 40u + 12u * 2u) << "bfSize leaves out the 14-byte file header";
@@ -434,7 +417,7 @@ TEST(DIBSection, SaveBmpOfALargerSurfaceReadsBackAndAnEmptyOneWritesNothing)
     for (int y = 0; y < d.dib_height(); ++y)
         d.view()(1803, y) = 0xEE;
     ASSERT_TRUE(cDIBSection::Save_BMP(path, d));
-    const QByteArray b = readFile(path);
+    const QByteArray b = bytesOf(path);
     ASSERT_EQ(size_t(b.size()), 54 + d.view().byteCount());
     EXPECT_EQ(le32(b, 2), 40u + 1804u * 1203u);
     // Padding bytes are written as zeros whatever the memory holds.

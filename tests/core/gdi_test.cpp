@@ -10,6 +10,7 @@
 
 using namespace tf;
 using tf::test::art;
+using tf::test::inkBox;
 
 namespace {
 
@@ -32,16 +33,6 @@ class Gdi : public ::testing::TestWithParam<bool> {
 protected:
     Surface surface(int w, int h) { return Surface(w, h, GetParam()); }
 };
-
-QRect inkBox(const DeviceContext &dc)
-{
-    QRect box;
-    for (int y = 0; y < dc.height(); ++y)
-        for (int x = 0; x < dc.width(); ++x)
-            if (dc.pixel(x, y) != 0xFFFFFF)
-                box |= QRect(x, y, 1, 1);
-    return box;
-}
 
 } // namespace
 

@@ -1,3 +1,4 @@
+#include "support/files.h"
 #include "core/mrufilelist.h"
 #include "core/settings.h"
 
@@ -62,10 +63,7 @@ TEST(MRUFileList, SavedAndLoadedThroughTheSettingsStore)
     QTemporaryDir dir;
     const QString ini = dir.filePath(QStringLiteral("s.ini"));
     const QString existing = dir.filePath(QStringLiteral("da.png"));
-    {
-        QFile f(existing);
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    }
+    writeBytes(existing, {});
     {
         SettingsStore store(ini);
         cMRUFileList list;

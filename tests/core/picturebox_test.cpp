@@ -8,6 +8,7 @@
 using namespace tf;
 using tf::test::art;
 using tf::test::artRow;
+using tf::test::inkBox;
 
 namespace {
 
@@ -17,16 +18,6 @@ struct Canvas {
     Canvas(int w, int h) : pb(QStringLiteral("pic"), w, h) { pb.setAutoRedraw(true); }
     std::string pixels() const { return art(pb.Image()); }
 };
-
-// Bounding box of the pixels that are not the background (white).
-QRect inkBox(const QImage &img, ColorLong background = 0xFFFFFF)
-{
-    QRect box;
-    for (int y = 0; y < img.height(); ++y)
-        for (int x = 0; x < img.width(); ++x)
-            if (fromQRgb(img.pixel(x, y)) != background) box |= QRect(x, y, 1, 1);
-    return box;
-}
 
 } // namespace
 
@@ -87,7 +78,7 @@ TEST(PictureBoxLine, BoxesOutlinedFilledAndFilledByFillStyle)
                           "...........###\n");
 }
 
-TEST(PictureBoxLine, WideBoxesGrowOutwardUnlessDrawnInside)
+TEST(PictureBoxLine, WideLinesAreCentredAndWideBoxesGrowOutwardUnlessDrawnInside)
 {
     Canvas c(12, 11);
     c.pb.setDrawWidth(3);
@@ -103,6 +94,13 @@ TEST(PictureBoxLine, WideBoxesGrowOutwardUnlessDrawnInside)
     EXPECT_EQ(inkBox(inside.pb.Image()), QRect(QPoint(2, 2), QPoint(9, 8)));
     EXPECT_EQ(inside.pb.Point(4, 4), 0);
     EXPECT_EQ(inside.pb.Point(5, 5), 0xFFFFFF);
+
+    // A wide line is centred on its path with round ends.
+    Canvas line(10, 5);
+    line.pb.setDrawWidth(3);
+    line.pb.Line(2, 2, 7, 2);
+    EXPECT_EQ(inkBox(line.pb.Image()), QRect(QPoint(1, 1), QPoint(8, 3)));
+    EXPECT_EQ(artRow(line.pb.Image(), 1), ".########.");
 }
 
 TEST(PictureBoxLine, DrawStylesOnAThinLine)
@@ -128,15 +126,6 @@ TEST(PictureBoxLine, DrawStylesOnAThinLine)
     wide.pb.setDrawWidth(2);
     wide.pb.Line(0, 1, 29, 1);
     EXPECT_EQ(artRow(wide.pb.Image(), 1), std::string(30, '#'));
-}
-
-TEST(PictureBoxLine, WideLinesAreCentredWithRoundEnds)
-{
-    Canvas c(10, 5);
-    c.pb.setDrawWidth(3);
-    c.pb.Line(2, 2, 7, 2);
-    EXPECT_EQ(inkBox(c.pb.Image()), QRect(QPoint(1, 1), QPoint(8, 3)));
-    EXPECT_EQ(artRow(c.pb.Image(), 1), ".########.");
 }
 
 TEST(PictureBoxDrawMode, XorTwiceRestoresAndWritesEachPixelOnce)

@@ -7,6 +7,7 @@
 #include "core/devicecontext.h"
 
 #include <QImage>
+#include <QRect>
 #include <map>
 #include <string>
 
@@ -50,6 +51,23 @@ inline QImage gradient(int w, int h)
         for (int x = 0; x < w; ++x)
             pic.setPixel(x, y, qRgb(40 * x + 3, 50 * y + 7, 11 * x + 13 * y + 1));
     return pic;
+}
+
+// The box of the pixels that are not `background`.
+inline QRect inkBox(const DeviceContext &dc, ColorLong background = 0xFFFFFF)
+{
+    QRect box;
+    for (int y = 0; y < dc.height(); ++y)
+        for (int x = 0; x < dc.width(); ++x)
+            if (dc.pixel(x, y) != background) box |= QRect(x, y, 1, 1);
+    return box;
+}
+
+inline QRect inkBox(const QImage &image, ColorLong background = 0xFFFFFF)
+{
+    QImage copy = image;
+    DeviceContext dc(&copy, false);
+    return inkBox(dc, background);
 }
 
 // One row of a picture.

@@ -1,5 +1,6 @@
 // The start and end of the program around the work folder: rescue of undo images left by a
 // crash, the cleanup at a regular end, the work folder's creation, and the single-instance lock.
+#include "support/files.h"
 #include "core/fixings.h"
 #include "core/prompter.h"
 #include "core/rescue.h"
@@ -32,12 +33,7 @@ struct RescueTest : ::testing::Test {
     const QDateTime crashNight{QDate(2024, 3, 5), QTime(12, 34, 56, 700)};
 
     QString path(const QString &name) const { return dir.filePath(name); }
-    void touch(const QString &name, const QByteArray &content = "BM")
-    {
-        QFile f(path(name));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(content);
-    }
+    void touch(const QString &name, const QByteArray &content = "BM") { writeBytes(path(name), content); }
     QStringList files() const { return QDir(dir.path()).entryList(QDir::Files, QDir::Name); }
 };
 
@@ -52,9 +48,7 @@ TEST_F(RescueTest, ALeftUndoPictureIsOfferedAndRescuedUnderTheDateAndSecond)
     const QString target = path(QStringLiteral("20240305_restp_45296.bmp"));
     EXPECT_EQ(rescued, QStringList{target});
     EXPECT_EQ(files(), QStringList{QStringLiteral("20240305_restp_45296.bmp")});
-    QFile f(target);
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    EXPECT_EQ(f.readAll(), QByteArray("picture"));
+    EXPECT_EQ(bytesOf(target), QByteArray("picture"));
 
     ASSERT_EQ(prompter.asked().size(), 2u);
     const Prompt &question = prompter.asked()[0];

@@ -1,3 +1,4 @@
+#include "support/files.h"
 #include "core/appsettings.h"
 #include "core/settings.h"
 
@@ -16,17 +17,8 @@ struct SettingsTest : ::testing::Test {
     QTemporaryDir dir;
     QString iniPath() const { return dir.filePath(QStringLiteral("Tvl-2.5.ini")); }
 
-    void writeFile(const QByteArray &content)
-    {
-        QFile f(iniPath());
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(content);
-    }
-    QString fileText() const
-    {
-        QFile f(iniPath());
-        return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
-    }
+    void writeFile(const QByteArray &content) { writeBytes(iniPath(), content); }
+    QString fileText() const { return QString::fromUtf8(bytesOf(iniPath())); }
 };
 
 AppSettings defaultsWithSystemLanguage()

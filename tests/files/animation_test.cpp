@@ -1,4 +1,6 @@
 // Animated PNG and GIF: the files decode to the frames that were given.
+#include "support/files.h"
+#include "support/pngchunks.h"
 #include "files/animationfile.h"
 #include "paint/animation.h"
 
@@ -8,11 +10,11 @@
 #include <QTemporaryDir>
 #include <QtEndian>
 #include <gtest/gtest.h>
-#include <zlib.h>
 
 #include <cmath>
 
 using namespace tf;
+using namespace pngtest;
 
 namespace {
 
@@ -52,82 +54,6 @@ std::vector<QImage> framesOf(Animation &a, int n, double step)
         out.push_back(f.copy());
     }
     return out;
-}
-
-struct Chunk {
-    QByteArray type;
-    QByteArray data;
-};
-
-std::vector<Chunk> chunksOf(const QByteArray &png)
-{
-    std::vector<Chunk> out;
-    qsizetype pos = 8;
-    while (pos + 12 <= png.size()) {
-        const quint32 length = qFromBigEndian<quint32>(png.constData() + pos);
-        const QByteArray typed = png.mid(pos + 4, 4 + qsizetype(length));
-        const quint32 crc = qFromBigEndian<quint32>(png.constData() + pos + 8 + length);
-        EXPECT_EQ(crc, crc32(0, reinterpret_cast<const Bytef *>(typed.constData()), uInt(typed.size())));
-        out.push_back({typed.left(4), typed.mid(4)});
-        pos += 12 + qsizetype(length);
-    }
-    EXPECT_EQ(pos, png.size());
-    return out;
-}
-
-void appendChunk(QByteArray &png, const QByteArray &type, const QByteArray &data)
-{
-    char len[4];
-    qToBigEndian<quint32>(quint32(data.size()), len);
-    png.append(len, 4);
-    const QByteArray typed = type + data;
-    png.append(typed);
-    char crc[4];
-    qToBigEndian<quint32>(quint32(crc32(0, reinterpret_cast<const Bytef *>(typed.constData()),
-                                        uInt(typed.size()))),
-                          crc);
-    png.append(crc, 4);
-}
-
-// Each frame of an APNG as a still PNG of its own (its IHDR and its image data), decoded by
-// Qt's reader; the frames' timing from the fcTL chunks.
-struct ApngRead {
-    std::vector<QImage> frames;
-    quint32 declaredFrames = 0, loops = 0;
-    std::vector<std::pair<int, int>> delays;
-};
-
-ApngRead readApng(const QByteArray &file)
-{
-    ApngRead r;
-    const auto chunks = chunksOf(file);
-    QByteArray ihdr;
-    QByteArray data;
-    auto flush = [&] {
-        if (data.isEmpty()) return;
-        QByteArray png = file.left(8);
-        appendChunk(png, "IHDR", ihdr);
-        appendChunk(png, "IDAT", data);
-        appendChunk(png, "IEND", {});
-        r.frames.push_back(QImage::fromData(png, "PNG").convertToFormat(QImage::Format_RGB32));
-        data.clear();
-    };
-    for (const Chunk &c : chunks) {
-        if (c.type == "IHDR") ihdr = c.data;
-        if (c.type == "acTL") {
-            r.declaredFrames = qFromBigEndian<quint32>(c.data.constData());
-            r.loops = qFromBigEndian<quint32>(c.data.constData() + 4);
-        }
-        if (c.type == "fcTL") {
-            flush();
-            r.delays.emplace_back(qFromBigEndian<quint16>(c.data.constData() + 20),
-                                  qFromBigEndian<quint16>(c.data.constData() + 22));
-        }
-        if (c.type == "IDAT") data += c.data;
-        if (c.type == "fdAT") data += c.data.mid(4);
-        if (c.type == "IEND") flush();
-    }
-    return r;
 }
 
 std::vector<QImage> readGif(const QByteArray &file, int &delay, int &loops)
@@ -178,9 +104,7 @@ TEST(AnimationFile, ApngDecodesToTheFramesGiven)
     const std::vector<QImage> expected = framesOf(*copy, 5, 30.0 / 12);
     const WriteResult w = writeAnimation(path, source, 5, 12, 3);
     ASSERT_TRUE(w.ok()) << w.message.toStdString();
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    const ApngRead r = readApng(f.readAll());
+    const ApngRead r = readApng(bytesOf(path));
     EXPECT_EQ(r.declaredFrames, 5u);
     EXPECT_EQ(r.loops, 3u);
     ASSERT_EQ(r.frames.size(), 5u);
@@ -200,10 +124,8 @@ TEST(AnimationFile, GifOfFewColoursIsExact)
     auto copy = source.clone();
     const std::vector<QImage> expected = framesOf(*copy, 4, 1.0);
     ASSERT_TRUE(writeAnimation(path, source, 4, 30, 0).ok());
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
     int delay = 0, loops = -2;
-    const std::vector<QImage> frames = readGif(f.readAll(), delay, loops);
+    const std::vector<QImage> frames = readGif(bytesOf(path), delay, loops);
     ASSERT_EQ(frames.size(), 4u);
     for (size_t i = 0; i < 4; ++i) EXPECT_EQ(frames[i], expected[i]) << "frame " << i;
     EXPECT_EQ(delay, 30); // 3 hundredths: 30 frames a second, rounded
@@ -252,14 +174,9 @@ TEST(AnimationFile, WrongFramesAndFailedWritesLeaveNoFile)
 
     // A stop from the progress leaves the old file as it was.
     const QString path = dir.filePath(QStringLiteral("keep.png"));
-    QFile old(path);
-    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
-    old.write("old");
-    old.close();
+    writeBytes(path, "old");
     const WriteResult stopped =
         writeAnimation(path, source, 5, 10, 0, [](int done, int) { return done < 2; });
     EXPECT_FALSE(stopped.ok());
-    QFile kept(path);
-    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
-    EXPECT_EQ(kept.readAll(), QByteArray("old"));
+    EXPECT_EQ(bytesOf(path), QByteArray("old"));
 }

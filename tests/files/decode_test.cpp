@@ -1,5 +1,6 @@
 // The decoders on the shared test files, against Qt's own readers, and the size rules of the
 // load pipeline.
+#include "support/files.h"
 #include "support/testdata.h"
 
 #include "core/dibsection.h"
@@ -273,10 +274,7 @@ TEST(Decoders, TheContentTellsTheKindNotTheName)
     EXPECT_EQ(sniffPicture(png), PictureKind::Png);
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("really-png.jpg"));
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(png);
-    f.close();
+    writeBytes(path, png);
     const LoadResult r = LoadImage(path);
     ASSERT_TRUE(r.loaded());
     EXPECT_EQ(r.image, ramp(6, 6));

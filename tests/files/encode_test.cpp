@@ -1,4 +1,5 @@
 // The encoders: the bytes of the files they write.
+#include "support/pngchunks.h"
 #include "core/dibsection.h"
 #include "files/bmpwriter.h"
 #include "files/decode.h"
@@ -13,6 +14,8 @@
 #include <gtest/gtest.h>
 
 using namespace tf;
+using pngtest::Chunk;
+using pngtest::chunksOf;
 
 namespace {
 
@@ -23,23 +26,6 @@ QImage testPicture(int w, int h)
         for (int x = 0; x < w; ++x)
             image.setPixel(x, y, qRgb(x * 40 % 256, y * 60 % 256, (x + y) * 25 % 256));
     return image;
-}
-
-struct Chunk {
-    QByteArray type;
-    QByteArray data;
-};
-
-std::vector<Chunk> chunksOf(const QByteArray &png)
-{
-    std::vector<Chunk> out;
-    qsizetype pos = 8;
-    while (pos + 12 <= png.size()) {
-        const quint32 length = qFromBigEndian<quint32>(png.constData() + pos);
-        out.push_back({png.mid(pos + 4, 4), png.mid(pos + 8, length)});
-        pos += 12 + length;
-    }
-    return out;
 }
 
 PictureMeta sampleMeta()

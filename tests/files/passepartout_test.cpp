@@ -1,4 +1,5 @@
 // The passepartout data file byte for byte, its refusals, and the mat drawn round a picture.
+#include "support/files.h"
 #include "files/passepartout.h"
 #include "files/passepartoutfile.h"
 #include "files/passepartoutsets.h"
@@ -10,19 +11,6 @@
 using namespace tf;
 
 namespace {
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-void writeBytes(const QString &path, const QByteArray &bytes)
-{
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
 
 PPRecord set(const char *name, int16_t w1, ColorLong c1)
 {

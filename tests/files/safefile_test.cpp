@@ -1,4 +1,5 @@
 // Saves that fail leave the old file as it was and say why.
+#include "support/files.h"
 #include "files/picturefile.h"
 #include "files/safefile.h"
 
@@ -11,28 +12,11 @@
 
 using namespace tf;
 
-namespace {
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-void writeText(const QString &path, const QByteArray &text)
-{
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(text);
-}
-
-} // namespace
-
 TEST(SafeFile, AFailedWriteKeepsTheOldFileAndLeavesNoTemporaryBehind)
 {
     QTemporaryDir dir;
     const QString path = dir.filePath(QStringLiteral("bild.png"));
-    writeText(path, "the old picture");
+    writeBytes(path, "the old picture");
     const WriteResult r = writeFileSafely(path, [](QIODevice &out, QString &why) {
         out.write("half a new pic");
         why = QStringLiteral("encoder gave up");
@@ -60,7 +44,7 @@ TEST(SafeFile, MissingFolderAndReadOnlyFileAreNamed)
                                   QDir::toNativeSeparators(dir.filePath(QStringLiteral("nicht/da")))));
 
     const QString locked = dir.filePath(QStringLiteral("fest.bmp"));
-    writeText(locked, "kept");
+    writeBytes(locked, "kept");
     QFile::setPermissions(locked, QFileDevice::ReadOwner);
     const WriteResult ro = savePicture(QImage(4, 4, QImage::Format_RGB32), locked, QStringLiteral("BMP"));
     if (QFileInfo(locked).isWritable())

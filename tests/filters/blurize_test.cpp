@@ -4,20 +4,13 @@
 #include "filterpictures.h"
 #include "filters/blurize.h"
 #include "filters/dografic.h"
-#include "paint/session.h"
-
-#include <gtest/gtest.h>
 
 using namespace tf;
 using namespace filtertest;
 
 namespace {
 
-struct Blurize : ::testing::Test {
-    Session s;
-    ScriptedPrompter prompter;
-    void SetUp() override { s.setPrompter(&prompter); }
-
+struct Blurize : FilterSession {
     QImage run(int selector, const QImage &first, QImage second, std::vector<int> sliders)
     {
         FilterArgs a = blurizeDefaults(*findBlurize(selector));

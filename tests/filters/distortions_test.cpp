@@ -6,20 +6,13 @@
 #include "filters/filtercommand.h"
 #include "filters/filtertable.h"
 #include "filters/geometry.h"
-#include "paint/session.h"
-
-#include <gtest/gtest.h>
 
 using namespace tf;
 using namespace filtertest;
 
 namespace {
 
-struct Distortions : ::testing::Test {
-    Session s;
-    ScriptedPrompter prompter;
-    void SetUp() override { s.setPrompter(&prompter); }
-
+struct Distortions : FilterSession {
     // Filter `number` (a shape 1000.. runs as 46 with its selector) with the slider values.
     QImage run(int number, QImage img, const std::vector<int> &sliders, FilterArgs a = {})
     {
@@ -44,14 +37,6 @@ QImage columns(int w, int h)
     return img;
 }
 
-std::vector<int> redsOfRow(const QImage &img, int y)
-{
-    std::vector<int> out;
-    for (int x = 0; x < img.width(); ++x)
-        out.push_back(qRed(img.pixel(x, y)));
-    return out;
-}
-
 // How far row y of a shaped `columns` picture is squeezed in from the right: the last source
 // column lands at W - d.
 int insetOfRow(const QImage &out, int y)
@@ -68,8 +53,8 @@ TEST_F(Distortions, TheRowBufferKeepsWhatNoLaterWriteCovers)
     // Funnel, value 1 (P = 4) on 6 x 4: row 1 has d = 3, L = 0: every pixel goes to column 3,
     // the last one (6) stays there. Row 2 has d = 6, s = -1: t = 6 - x, raised to 1.
     const QImage out = run(1005, columns(6, 4), {1});
-    EXPECT_EQ(redsOfRow(out, 0), (std::vector<int>{1, 2, 6, 4, 5, 6}));
-    EXPECT_EQ(redsOfRow(out, 1), (std::vector<int>{6, 4, 3, 4, 5, 6}));
+    EXPECT_EQ(reds(out, 0), (std::vector<int>{1, 2, 6, 4, 5, 6}));
+    EXPECT_EQ(reds(out, 1), (std::vector<int>{6, 4, 3, 4, 5, 6}));
 }
 
 TEST_F(Distortions, TheHourglassSqueezesMostAtTheMiddleAndValueZeroChangesNothing)

@@ -15,14 +15,12 @@ using namespace filtertest;
 
 namespace {
 
-struct FilterCommands : ::testing::Test {
-    Session s;
-    ScriptedPrompter prompter;
+struct FilterCommands : FilterSession {
     QImage start;
 
     void SetUp() override
     {
-        s.setPrompter(&prompter);
+        FilterSession::SetUp();
         s.workspace().New_BildSize(12, 9);
         start = noisy(12, 9);
         s.workspace().Bild.setPicture(start);

@@ -1,13 +1,24 @@
 #pragma once
-// Small pictures with known pixels for the filter tests.
+// Small pictures with known pixels for the filter tests, and a session whose questions are
+// answered by script.
 #include "core/colour.h"
+#include "core/prompter.h"
 #include "core/random.h"
+#include "paint/session.h"
 
 #include <QImage>
+#include <gtest/gtest.h>
 #include <array>
 #include <initializer_list>
+#include <vector>
 
 namespace filtertest {
+
+struct FilterSession : ::testing::Test {
+    tf::Session s;
+    tf::ScriptedPrompter prompter;
+    void SetUp() override { s.setPrompter(&prompter); }
+};
 
 // A picture of w x h whose pixels are given row by row as colour longs.
 inline QImage picture(int w, int h, std::initializer_list<tf::ColorLong> pixels)
@@ -50,6 +61,15 @@ inline std::array<int, 3> rgb(const QImage &img, int x, int y)
 {
     const QRgb p = img.pixel(x, y);
     return {qRed(p), qGreen(p), qBlue(p)};
+}
+
+// The red channel along row y.
+inline std::vector<int> reds(const QImage &img, int y = 0)
+{
+    std::vector<int> out;
+    for (int x = 0; x < img.width(); ++x)
+        out.push_back(qRed(img.pixel(x, y)));
+    return out;
 }
 
 } // namespace filtertest

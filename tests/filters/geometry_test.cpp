@@ -14,21 +14,29 @@ using namespace filtertest;
 
 namespace {
 
-struct Geometry : ::testing::Test {
-    Session s;
-    ScriptedPrompter prompter;
+struct Geometry : FilterSession {
     QImage start;
     Workspace &ws = s.workspace();
 
     void SetUp() override
     {
-        s.setPrompter(&prompter);
+        FilterSession::SetUp();
         ws.New_BildSize(12, 7);
         start = noisy(12, 7);
         ws.Bild.setPicture(start);
     }
     const QImage &bild() { return ws.Bild.Image(); }
     QSize size() const { return {ws.BildW, ws.BildH}; }
+    // Shows a selection of a noisy w x h picture at (x, y) and answers the picture.
+    QImage select(int w, int h, int x, int y)
+    {
+        const QImage part = noisy(w, h);
+        ws.PicSelect.resize(w, h);
+        ws.PicSelect.setPicture(part);
+        ws.PicSelect.Move(x, y);
+        ws.PicSelect.setVisible(true);
+        return part;
+    }
 };
 
 } // namespace
@@ -102,11 +110,7 @@ TEST_F(Geometry, CroppingTakesTheSelectionAndNeedsOne)
     EXPECT_FALSE(Menu_CropToSelection(s));
     EXPECT_EQ(prompter.lastText(),
               QStringLiteral("Zum Freistellen ziehen Sie zuerst eine Auswahl auf."));
-    const QImage part = noisy(5, 4);
-    ws.PicSelect.resize(5, 4);
-    ws.PicSelect.setPicture(part);
-    ws.PicSelect.Move(3, 2);
-    ws.PicSelect.setVisible(true);
+    const QImage part = select(5, 4, 3, 2);
     ASSERT_TRUE(Menu_CropToSelection(s));
     EXPECT_EQ(size(), QSize(5, 4));
     EXPECT_EQ(bild(), part);
@@ -117,11 +121,7 @@ TEST_F(Geometry, CroppingTakesTheSelectionAndNeedsOne)
 
 TEST_F(Geometry, ATurnOfASelectionKeepsItsPlace)
 {
-    const QImage part = noisy(5, 3);
-    ws.PicSelect.resize(5, 3);
-    ws.PicSelect.setPicture(part);
-    ws.PicSelect.Move(4, 2);
-    ws.PicSelect.setVisible(true);
+    const QImage part = select(5, 3, 4, 2);
     ASSERT_TRUE(Menu_Turn(s, 3));
     EXPECT_EQ(ws.PicSelect.Image(), turnedQuarters(part, 3));
     EXPECT_EQ(ws.PicSelect.Left(), 4.0f);
@@ -158,11 +158,7 @@ TEST_F(Geometry, RotationAndStretchThatResizeGrowBildAndCancelGivesItBack)
 
 TEST_F(Geometry, ARectangularSelectionKeepsItsPlaceUnderStretchAndRotation)
 {
-    const QImage part = noisy(6, 4);
-    ws.PicSelect.resize(6, 4);
-    ws.PicSelect.setPicture(part);
-    ws.PicSelect.Move(3, 2);
-    ws.PicSelect.setVisible(true);
+    select(6, 4, 3, 2);
     const FilterRow &stretch = *findFilter(52);
     FilterArgs a = defaultArguments(stretch);
     a.sliders = {100, 0, 0};

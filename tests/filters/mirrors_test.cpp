@@ -20,14 +20,6 @@ QImage row(int w)
     return img;
 }
 
-std::vector<int> reds(const QImage &img, int y = 0)
-{
-    std::vector<int> out;
-    for (int x = 0; x < img.width(); ++x)
-        out.push_back(qRed(img.pixel(x, y)));
-    return out;
-}
-
 std::vector<int> redsOfColumn(const QImage &img, int x)
 {
     std::vector<int> out;

@@ -1,21 +1,14 @@
 // The exact rules of the pixel filters on small pictures with known pixels.
 #include "filters/dografic.h"
 #include "filters/filtertable.h"
-#include "paint/session.h"
 #include "filterpictures.h"
-
-#include <gtest/gtest.h>
 
 using namespace tf;
 using namespace filtertest;
 
 namespace {
 
-struct PixelFilters : ::testing::Test {
-    Session s;
-    ScriptedPrompter prompter;
-    void SetUp() override { s.setPrompter(&prompter); }
-
+struct PixelFilters : FilterSession {
     QImage run(int number, QImage img, int32_t argument = 0)
     {
         FilterArgs a;

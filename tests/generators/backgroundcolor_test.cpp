@@ -1,31 +1,15 @@
 // "Backgroundcolor" through the Paint command, and the random colour it picks.
-#include "core/picturebox.h"
-#include "generators/painters.h"
-#include "paint/colourstate.h"
-#include "paint/grafmenu.h"
-#include "paint/paintdriver.h"
-#include "paint/session.h"
-
-#include <gtest/gtest.h>
+#include "paintfixture.h"
 
 using namespace tf;
 
 namespace {
 
-struct EngineFirst {
-    EngineFirst() { registerAllPanels(); }
-};
-
-struct BackgroundcolorTest : ::testing::Test {
-    EngineFirst engine;
-    Session s;
-    ScriptedPrompter prompter;
-
+struct BackgroundcolorTest : PaintFixture {
     void SetUp() override
     {
-        s.setPainters(painterTable());
-        s.setPrompter(&prompter);
-        s.workspace().New_BildSize(5, 4);
+        PaintFixture::SetUp();
+        size(5, 4);
         mn_Grafmodes(s, 1);
         ListBoxType_Click(s, 0);
         ASSERT_EQ(s.paint().GrafKey, QStringLiteral("Backgroundcolor"));
@@ -44,7 +28,6 @@ struct BackgroundcolorTest : ::testing::Test {
                          QString::number(percent));
         return BtnPaint_Click(s);
     }
-    ColorLong at(int x, int y) { return s.workspace().Bild.Point(x, y); }
 };
 
 } // namespace

@@ -2,17 +2,8 @@
 // the size limits of the cut-outs, and the frames' pixels at known places.
 #include "paintfixture.h"
 
-#include "core/picturebox.h"
 #include "generators/borders.h"
-#include "generators/painters.h"
-#include "paint/catalogue.h"
-#include "paint/colourstate.h"
-#include "paint/grafmenu.h"
-#include "paint/paintdriver.h"
-#include "paint/session.h"
 #include "paint/sessionview.h"
-
-#include <gtest/gtest.h>
 
 using namespace tf;
 

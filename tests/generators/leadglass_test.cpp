@@ -3,15 +3,11 @@
 // for one pane caught by the handler, and the panes of the border at known points.
 #include "paintfixture.h"
 
-#include "core/picturebox.h"
 #include "generators/leadglass.h"
 #include "generators/mondrianlayout.h"
-#include "paint/colourstate.h"
 #include "paint/mondriantables.h"
 
 #include "mondrianframes.h"
-
-#include <gtest/gtest.h>
 
 using namespace tf;
 using tf::test::sameFrames;

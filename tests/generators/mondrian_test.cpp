@@ -4,16 +4,12 @@
 #include "paintfixture.h"
 
 #include "core/dibsection.h"
-#include "core/picturebox.h"
 #include "generators/framecanvas.h"
 #include "generators/mondrian.h"
 #include "generators/mondrianlayout.h"
-#include "paint/colourstate.h"
 #include "paint/mondriantables.h"
 
 #include "mondrianframes.h"
-
-#include <gtest/gtest.h>
 
 #include <set>
 
@@ -40,14 +36,6 @@ struct MondrianTest : PaintFixture {
         set("XMondrian", "1", 3);
         set("XFill_White", "1");
         set("cmbPen", "1");
-    }
-    int count(ColorLong c)
-    {
-        int n = 0;
-        for (int y = 0; y < image().height(); ++y)
-            for (int x = 0; x < image().width(); ++x)
-                n += at(x, y) == c;
-        return n;
     }
 };
 

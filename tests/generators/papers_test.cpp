@@ -2,17 +2,8 @@
 // slat colours at known rows, and the ruled lines at their places.
 #include "paintfixture.h"
 
-#include "core/picturebox.h"
-#include "generators/painters.h"
 #include "generators/papers.h"
-#include "paint/catalogue.h"
-#include "paint/colourstate.h"
-#include "paint/grafmenu.h"
-#include "paint/paintdriver.h"
-#include "paint/session.h"
 #include "paint/sessionview.h"
-
-#include <gtest/gtest.h>
 
 using namespace tf;
 

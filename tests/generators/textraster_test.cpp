@@ -3,19 +3,14 @@
 // dots, the sample for an empty text.
 #include "paintfixture.h"
 
-#include "core/picturebox.h"
 #include "generators/mondrianlayout.h"
 #include "generators/textraster.h"
-#include "paint/colourstate.h"
 #include "paint/mondriantables.h"
-#include "paint/session.h"
 #include "paint/textstate.h"
 #include "core/status.h"
 
-#include <QRect>
 #include <array>
 #include <set>
-#include <gtest/gtest.h>
 
 using namespace tf;
 
@@ -100,14 +95,7 @@ struct RasterPaintTest : PaintFixture {
         set("XOrthoT1", QStringLiteral("0"), 3); // no frame lines: only text is ink
     }
     bool ink(int x, int y) { return (image().pixel(x, y) & 0xFFFFFF) != 0xFFFFFF; }
-    QRect inkWithin(const QRect &r)
-    {
-        QRect box;
-        for (int y = r.top(); y <= r.bottom(); ++y)
-            for (int x = r.left(); x <= r.right(); ++x)
-                if (ink(x, y)) box |= QRect(x, y, 1, 1);
-        return box;
-    }
+    QRect inkWithin(const QRect &r) { return boxOfOther(White, r); }
     // The colours of the ink inside `r`.
     std::set<QRgb> coloursWithin(const QRect &r)
     {

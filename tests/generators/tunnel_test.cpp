@@ -127,7 +127,7 @@ TEST_F(PlasmaPaint, TransparencyLaysThePlasmaOverThePicture)
     ground(RGB(200, 100, 50));
     set("ScrollTransparence", QStringLiteral("50"));
     ASSERT_EQ(paint("Plasma", 2), PaintOutcome::Painted);
-    EXPECT_EQ(pixelAt(s.workspace().Bild.Image(), 17, 33), RGB(100, 50, 25));
+    EXPECT_EQ(at(17, 33), RGB(100, 50, 25));
 }
 
 TEST_F(PlasmaPaint, LoadedPaletteWhenAskedFor)
@@ -148,7 +148,7 @@ TEST_F(PlasmaPaint, LoadedPaletteWhenAskedFor)
     // Unchecked, the two colours come back.
     set("XPlasmas", QStringLiteral("0"), 2);
     ASSERT_EQ(paint("Plasma", 3), PaintOutcome::Painted);
-    const ColorLong p = pixelAt(s.workspace().Bild.Image(), 9, 9);
+    const ColorLong p = at(9, 9);
     EXPECT_EQ(RedOf(p), GreenOf(p));
 }
 
@@ -208,9 +208,9 @@ TEST_F(PlasmaPaint, TunnelFramesLieOverThePictureAtTheTransparency)
     ground(RGB(200, 100, 50));
     set("ScrollTransparence", QStringLiteral("50"));
     ASSERT_TRUE(BtnPlasmaRepaint_Click(s, 0));
-    EXPECT_EQ(pixelAt(s.workspace().Bild.Image(), 20, 30), RGB(100, 50, 25));
+    EXPECT_EQ(at(20, 30), RGB(100, 50, 25));
     ASSERT_TRUE(Plasma_TunnelFrame(s));
-    EXPECT_EQ(pixelAt(s.workspace().Bild.Image(), 150, 100), RGB(100, 50, 25));
+    EXPECT_EQ(at(150, 100), RGB(100, 50, 25));
     BtnPlasmaRepaint_Click(s, 1);
     EXPECT_FALSE(Plasma_TunnelFrame(s));
     EXPECT_TRUE(s.animation().blend.empty());

@@ -1,4 +1,5 @@
 // Palette loads into the colour state: files chosen by the user and the system palettes.
+#include "support/files.h"
 #include "support/testdata.h"
 #include "paint/paletteload.h"
 
@@ -32,9 +33,7 @@ struct LoadFixture : ::testing::Test {
     QString write(const char *name, const QByteArray &text)
     {
         const QString path = dir.filePath(QLatin1String(name));
-        QFile f(path);
-        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(text);
+        writeBytes(path, text);
         return path;
     }
 };

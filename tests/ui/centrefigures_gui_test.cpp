@@ -2,44 +2,16 @@
 // the desktop program: their panels come on top and are read by the paint, and Stop during a
 // long circle gradient ends it with what is painted. With TF_SCREENSHOTS set to a folder the
 // window is saved there.
-#include "paint/catalogue.h"
-#include "paint/grafmenu.h"
-#include "ui/featdialogdock.h"
-#include "ui/mainwindow.h"
 #include "windowfixture.h"
 
-#include <QApplication>
 #include <QElapsedTimer>
-#include <QListWidget>
-#include <QPushButton>
 #include <QTimer>
-#include <gtest/gtest.h>
 
 using namespace tf;
 
 namespace {
 
-struct CentreWindowTest : WindowFixture {
-    void SetUp() override
-    {
-        WindowFixture::SetUp();
-        start();
-    }
-    QListWidget *typeList() { return window->findChild<QListWidget *>(QStringLiteral("ListBoxType")); }
-    QPushButton *paintButton() { return window->findChild<QPushButton *>(QStringLiteral("BtnPaint")); }
-    ui::FeatDialogDock *options() { return window->findChild<ui::FeatDialogDock *>(); }
-    void choose(const char *key)
-    {
-        const auto where = findType(QString::fromUtf8(key));
-        ASSERT_TRUE(where);
-        mn_Grafmodes(window->session(), where->group);
-        QApplication::processEvents();
-        typeList()->setCurrentRow(where->listIndex);
-        // The group remembers its last row: a row that is current already gives no click.
-        ListBoxType_Click(window->session(), where->listIndex);
-        QApplication::processEvents();
-    }
-};
+using CentreWindowTest = StartedWindow;
 
 } // namespace
 

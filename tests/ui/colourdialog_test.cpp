@@ -7,18 +7,16 @@
 #include <QCheckBox>
 #include <QLabel>
 #include <QToolButton>
-#include <gtest/gtest.h>
 
 using namespace tf;
 
 namespace {
 
-struct ColourDialogTest : WindowFixture {
+struct ColourDialogTest : StartedWindow {
     ui::ColourDialogDock *dock = nullptr;
     void SetUp() override
     {
-        WindowFixture::SetUp();
-        start();
+        StartedWindow::SetUp();
         dock = window->findChild<ui::ColourDialogDock *>(QStringLiteral("frmColorDialog"));
         ASSERT_TRUE(dock);
     }

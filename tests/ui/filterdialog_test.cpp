@@ -9,7 +9,6 @@
 #include "ui/gammadialog.h"
 #include "windowfixture.h"
 
-#include <QApplication>
 #include <QSlider>
 
 using namespace tf;

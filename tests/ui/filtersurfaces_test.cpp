@@ -10,10 +10,7 @@
 #include "ui/getstepsdialog.h"
 #include "windowfixture.h"
 
-#include <QApplication>
 #include <QLineEdit>
-#include <QProcess>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QSlider>
 
@@ -21,22 +18,12 @@ using namespace tf;
 
 namespace {
 
-QImage stripedPicture(int w, int h)
-{
-    QImage img(w, h, QImage::Format_RGB32);
-    for (int y = 0; y < h; ++y)
-        for (int x = 0; x < w; ++x)
-            img.setPixel(x, y, qRgb((x * 5 + y) & 255, (y * 9) & 255, (x * y) & 255));
-    return img;
-}
-
-struct FilterSurfaces : WindowFixture {
+struct FilterSurfaces : StartedWindow {
     QImage startPicture;
     void SetUp() override
     {
-        WindowFixture::SetUp();
-        start();
-        startPicture = stripedPicture(700, 500);
+        StartedWindow::SetUp();
+        startPicture = photoLike(700, 500);
         window->session().workspace().New_BildSize(700, 500);
         window->session().workspace().Bild.setPicture(startPicture);
     }
@@ -45,18 +32,10 @@ struct FilterSurfaces : WindowFixture {
     // The command line's result for the same picture.
     QImage commandLine(const QStringList &args)
     {
-        const QString in = dir.filePath(QStringLiteral("in.png")), out = dir.filePath(QStringLiteral("out.png"));
+        const QString in = dir.filePath(QStringLiteral("in.png"));
         EXPECT_TRUE(startPicture.save(in));
-        QProcess p;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-        env.insert(QStringLiteral("XDG_RUNTIME_DIR"), dir.path());
-        p.setProcessEnvironment(env);
-        p.start(QStringLiteral(TF_EXE), QStringList{QStringLiteral("filter")} + args.mid(0, 1) +
-                                            QStringList{in, QStringLiteral("-o"), out} + args.mid(1));
-        EXPECT_TRUE(p.waitForFinished(60000));
-        EXPECT_EQ(p.exitCode(), 0) << p.readAllStandardError().toStdString();
-        return QImage(out).convertToFormat(QImage::Format_RGB32);
+        return writtenBy(QStringList{QStringLiteral("filter")} + args.mid(0, 1) +
+                         QStringList{in, QStringLiteral("-o"), outFile()} + args.mid(1));
     }
 };
 

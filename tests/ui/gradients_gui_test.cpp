@@ -1,47 +1,20 @@
 // The gradient group in the desktop program: its option panels come on top with their types,
 // the type list shows previews, a paint with chosen options is repeated by its command line.
 // With TF_SCREENSHOTS set to a folder the window is also saved there after each paint.
-#include "paint/catalogue.h"
-#include "paint/grafmenu.h"
 #include "paint/paintrecord.h"
-#include "ui/featdialogdock.h"
-#include "ui/mainwindow.h"
 #include "windowfixture.h"
 
-#include <QApplication>
-#include <QListWidget>
-#include <QProcess>
-#include <QPushButton>
-#include <gtest/gtest.h>
 
 using namespace tf;
 
 namespace {
 
-struct GradientWindowTest : WindowFixture {
+struct GradientWindowTest : StartedWindow {
     void SetUp() override
     {
-        WindowFixture::SetUp();
-        start();
-        mn_Grafmodes(window->session(), 5);
-    }
-    QListWidget *typeList() { return window->findChild<QListWidget *>(QStringLiteral("ListBoxType")); }
-    QPushButton *paintButton() { return window->findChild<QPushButton *>(QStringLiteral("BtnPaint")); }
-    ui::FeatDialogDock *options() { return window->findChild<ui::FeatDialogDock *>(); }
-    void choose(const char *key)
-    {
-        const auto where = findType(QString::fromUtf8(key));
-        ASSERT_TRUE(where);
-        typeList()->setCurrentRow(where->listIndex);
-        QApplication::processEvents();
-    }
-    void screenshot(const char *name)
-    {
-        const QString dir = qEnvironmentVariable("TF_SCREENSHOTS");
-        if (dir.isEmpty()) return;
+        StartedWindow::SetUp();
         window->resize(1500, 1000);
-        QApplication::processEvents();
-        window->grab().save(dir + QLatin1Char('/') + QLatin1String(name) + QStringLiteral(".png"));
+        mn_Grafmodes(window->session(), 5);
     }
 };
 
@@ -93,14 +66,14 @@ TEST_F(GradientWindowTest, AFrameGradientWithChosenOptionsIsRepeatedByItsCommand
     // A picture to lay the frame over.
     choose("Lense");
     paintButton()->click();
-    screenshot("gradient-lense");
+    screenshot(*window, "gradient-lense");
     choose("Framegradient-Transp");
     s.colours().RandomValues = false;
     s.controls().set({QStringLiteral("optGColorTyp")}, QStringLiteral("1"));
     s.controls().set({QStringLiteral("txtGColorBorder"), 0}, QStringLiteral("60"));
     s.controls().set({QStringLiteral("chkGPassepartout")}, QStringLiteral("1"));
     paintButton()->click();
-    screenshot("gradient-frame");
+    screenshot(*window, "gradient-frame");
     ASSERT_TRUE(s.paint().lastPaint.has_value());
 
     // On a cleared picture, as the command line paints, the same options give the same bytes.
@@ -108,13 +81,7 @@ TEST_F(GradientWindowTest, AFrameGradientWithChosenOptionsIsRepeatedByItsCommand
     s.paint().nextSeed = s.paint().lastPaint->seed;
     paintButton()->click();
     const QImage painted = s.workspace().Bild.Image().convertToFormat(QImage::Format_RGB32);
-    const QString out = dir.filePath(QStringLiteral("again.png"));
-    QStringList args = paintCommandArguments(*s.paint().lastPaint);
+    const QStringList args = paintCommandArguments(*s.paint().lastPaint);
     EXPECT_TRUE(args.contains(QStringLiteral("chkGPassepartout=1")));
-    args << QStringLiteral("-o") << out;
-    QProcess cli;
-    cli.start(QStringLiteral(TF_EXE), args);
-    ASSERT_TRUE(cli.waitForFinished(60000));
-    ASSERT_EQ(cli.exitCode(), 0) << cli.readAllStandardError().toStdString();
-    EXPECT_EQ(QImage(out).convertToFormat(QImage::Format_RGB32), painted);
+    EXPECT_EQ(writtenBy(args + QStringList{QStringLiteral("-o"), outFile()}), painted);
 }

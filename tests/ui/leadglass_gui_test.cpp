@@ -1,46 +1,15 @@
 // The lead-glass and cathedral windows in the desktop program: their panels come on top, the
 // paint reads them, and the panel's buttons repaint the last set (keeping its frames) or paint
 // a new one. With TF_SCREENSHOTS set to a folder the window is saved there.
-#include "generators/mondrianlayout.h"
-#include "paint/catalogue.h"
-#include "paint/grafmenu.h"
+#include "generators/mondrianframes.h"
 #include "paint/mondriantables.h"
-#include "ui/featdialogdock.h"
-#include "ui/mainwindow.h"
 #include "windowfixture.h"
-
-#include <QApplication>
-#include <QListWidget>
-#include <QPushButton>
-#include <gtest/gtest.h>
 
 using namespace tf;
 
 namespace {
 
-struct LeadGlassWindowTest : WindowFixture {
-    void SetUp() override
-    {
-        WindowFixture::SetUp();
-        start();
-    }
-    QListWidget *typeList() { return window->findChild<QListWidget *>(QStringLiteral("ListBoxType")); }
-    QPushButton *button(const char *name)
-    {
-        return window->findChild<QPushButton *>(QString::fromLatin1(name));
-    }
-    ui::FeatDialogDock *options() { return window->findChild<ui::FeatDialogDock *>(); }
-    void choose(const char *key)
-    {
-        const auto where = findType(QString::fromUtf8(key));
-        ASSERT_TRUE(where);
-        mn_Grafmodes(window->session(), where->group);
-        QApplication::processEvents();
-        typeList()->setCurrentRow(where->listIndex);
-        ListBoxType_Click(window->session(), where->listIndex);
-        QApplication::processEvents();
-    }
-};
+using LeadGlassWindowTest = StartedWindow;
 
 TEST_F(LeadGlassWindowTest, ThePanelsButtonsRepaintTheSetAndPaintANewOne)
 {
@@ -64,11 +33,7 @@ TEST_F(LeadGlassWindowTest, ThePanelsButtonsRepaintTheSetAndPaintANewOne)
     ASSERT_TRUE(button("BtnMLG_Repaint_0"));
     button("BtnMLG_Repaint_0")->click();
     QApplication::processEvents();
-    const auto again = mondrianFrames(s.mondrian());
-    ASSERT_EQ(again.size(), frames.size());
-    for (size_t i = 0; i < frames.size(); ++i)
-        EXPECT_TRUE(again[i].left == frames[i].left && again[i].top == frames[i].top &&
-                    again[i].right == frames[i].right && again[i].bottom == frames[i].bottom);
+    EXPECT_TRUE(test::sameFrames(mondrianFrames(s.mondrian()), frames));
     EXPECT_NE(s.workspace().Bild.Image(), first);
     options()->raise();
     screenshot(*window, "leadglass-window");

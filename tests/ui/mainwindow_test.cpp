@@ -1,13 +1,10 @@
+#include "support/files.h"
 #include "core/language.h"
-#include "core/settings.h"
-#include "ui/mainwindow.h"
 #include "windowfixture.h"
 
 #include <QAction>
 #include <QFile>
 #include <QMenuBar>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 using namespace tf;
 
@@ -116,10 +113,7 @@ TEST_F(MainWindowTest, OpenedAndSavedFilesEnterTheLastFileList)
     EXPECT_FALSE(window->openPicture(dir.filePath(QStringLiteral("missing.png"))));
     EXPECT_EQ(prompter.asked().size(), asked);
     const QString bad = dir.filePath(QStringLiteral("bad.png"));
-    QFile f(bad);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("\x89PNG\r\n\x1a\n and nothing more");
-    f.close();
+    writeBytes(bad, "\x89PNG\r\n\x1a\n and nothing more");
     EXPECT_FALSE(window->openPicture(bad));
     EXPECT_EQ(prompter.lastText(), QStringLiteral("Fehlerhaftes Bild - Siehe Statusbar!"));
     EXPECT_EQ(window->session().workspace().BildW, 30);

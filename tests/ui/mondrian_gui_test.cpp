@@ -1,77 +1,43 @@
 // "ART-Mondrian" in the desktop program: its panel comes on top with the button "Repaint
 // letztes Set", which paints the same frames again. With TF_SCREENSHOTS set to a folder the
 // window is saved there.
-#include "generators/mondrianlayout.h"
-#include "paint/catalogue.h"
-#include "paint/grafmenu.h"
+#include "generators/mondrianframes.h"
 #include "paint/mondriantables.h"
-#include "ui/featdialogdock.h"
-#include "ui/mainwindow.h"
 #include "windowfixture.h"
-
-#include <QApplication>
-#include <QListWidget>
-#include <QPushButton>
-#include <gtest/gtest.h>
 
 using namespace tf;
 
 namespace {
 
-struct MondrianWindowTest : WindowFixture {
-    void SetUp() override
-    {
-        WindowFixture::SetUp();
-        start();
-    }
-    void choose(const char *key)
-    {
-        const auto where = findType(QString::fromUtf8(key));
-        ASSERT_TRUE(where);
-        mn_Grafmodes(window->session(), where->group);
-        QApplication::processEvents();
-        window->findChild<QListWidget *>(QStringLiteral("ListBoxType"))
-            ->setCurrentRow(where->listIndex);
-        QApplication::processEvents();
-    }
-};
+using MondrianWindowTest = StartedWindow;
 
 TEST_F(MondrianWindowTest, RepaintLetztesSetPaintsTheSameFramesAgain)
 {
     choose("ART-Mondrian");
-    EXPECT_EQ(window->findChild<ui::FeatDialogDock *>()->currentPanel(),
+    EXPECT_EQ(options()->currentPanel(),
               QStringLiteral("feat_01Mondrian"));
-    window->findChild<QPushButton *>(QStringLiteral("BtnPaint"))->click();
+    paintButton()->click();
     QApplication::processEvents();
     Session &s = window->session();
     ASSERT_TRUE(s.mondrian().holdsLayout());
     const auto frames = mondrianFrames(s.mondrian());
     const QImage first = s.workspace().Bild.Image();
 
-    auto *repaint = window->findChild<QPushButton *>(QStringLiteral("BtnMondrian_Repaint"));
+    auto *repaint = button("BtnMondrian_Repaint");
     ASSERT_NE(repaint, nullptr);
     EXPECT_EQ(repaint->text(), QStringLiteral("Repaint letztes Set"));
     repaint->click();
     QApplication::processEvents();
-    const auto again = mondrianFrames(s.mondrian());
-    ASSERT_EQ(frames.size(), again.size());
-    for (size_t i = 0; i < frames.size(); ++i) {
-        EXPECT_EQ(frames[i].left, again[i].left);
-        EXPECT_EQ(frames[i].bottom, again[i].bottom);
-    }
+    EXPECT_TRUE(test::sameFrames(mondrianFrames(s.mondrian()), frames));
     EXPECT_NE(s.workspace().Bild.Image(), first);
     EXPECT_TRUE(prompter.asked().empty());
-    auto *options = window->findChild<ui::FeatDialogDock *>();
-    options->raise();
+    auto *dock = options();
+    dock->raise();
     screenshot(*window, "mondrian-window");
-    options->setFloating(true);
-    options->resize(360, 900);
-    screenshot(*options, "mondrian-panel");
+    dock->setFloating(true);
+    dock->resize(360, 900);
+    screenshot(*dock, "mondrian-panel");
 }
-
-} // namespace
-
-namespace {
 
 TEST_F(MondrianWindowTest, TheTypeListOfThePanelPaintsABoogie)
 {
@@ -80,7 +46,7 @@ TEST_F(MondrianWindowTest, TheTypeListOfThePanelPaintsABoogie)
     ASSERT_TRUE(s.controls().set(ControlKey{QStringLiteral("cmbMondrian_Format"), 1},
                                  QStringLiteral("2")));
     const QImage before = s.workspace().Bild.Image();
-    window->findChild<QPushButton *>(QStringLiteral("BtnPaint"))->click();
+    paintButton()->click();
     QApplication::processEvents();
     EXPECT_NE(s.workspace().Bild.Image(), before);
     EXPECT_EQ(s.mondrian().MondrianLastType, 2);

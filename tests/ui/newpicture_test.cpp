@@ -1,10 +1,8 @@
 // "Neu" with its formats and its question, the free size remembered across sessions, and the
 // two clearing commands of the Edit menu.
-#include "core/settings.h"
 #include "windowfixture.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QComboBox>
 #include <QDialog>
 #include <QSpinBox>
@@ -17,12 +15,7 @@ namespace {
 const QString Changed = QStringLiteral("Das Bild wurde geändert und der aktuelle Stand noch nicht "
                                        "gesichert.");
 
-struct NewPictureTest : WindowFixture {
-    void SetUp() override
-    {
-        WindowFixture::SetUp();
-        start();
-    }
+struct NewPictureTest : StartedWindow {
     Workspace &ws() { return window->session().workspace(); }
     QAction *action(const QString &name) { return window->findChild<QAction *>(name); }
     QAction *newFormat(int i) { return action(QStringLiteral("mn_New_Picformat(%1)").arg(i)); }

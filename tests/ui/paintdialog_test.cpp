@@ -1,31 +1,14 @@
-#include "core/settings.h"
-#include "paint/catalogue.h"
-#include "paint/grafmenu.h"
 #include "paint/paintdriver.h"
 #include "paint/paintrecord.h"
-#include "ui/mainwindow.h"
 #include "windowfixture.h"
 
 #include <QDockWidget>
-#include <QListWidget>
-#include <QProcess>
-#include <QPushButton>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 using namespace tf;
 
 namespace {
 
-struct PaintDialogTest : WindowFixture {
-    void SetUp() override
-    {
-        WindowFixture::SetUp();
-        start();
-    }
-    QListWidget *typeList() { return window->findChild<QListWidget *>(QStringLiteral("ListBoxType")); }
-    QPushButton *paintButton() { return window->findChild<QPushButton *>(QStringLiteral("BtnPaint")); }
-};
+using PaintDialogTest = StartedWindow;
 
 } // namespace
 
@@ -53,23 +36,3 @@ TEST_F(PaintDialogTest, PaintWithoutATypeOnlyTellsTheUser)
     EXPECT_EQ(window->session().workspace().Bild.Image(), before);
 }
 
-TEST_F(PaintDialogTest, TheCopiedCommandLineReproducesAGuiPaint)
-{
-    window->session().controls().set({QStringLiteral("ScrollTransparence")}, QStringLiteral("0"));
-    typeList()->setCurrentRow(0); // Backgroundcolor
-    paintButton()->click();
-    const auto &last = window->session().paint().lastPaint;
-    ASSERT_TRUE(last.has_value());
-    const QImage painted = window->session().workspace().Bild.Image();
-
-    const QString out = dir.filePath(QStringLiteral("again.png"));
-    QStringList args = paintCommandArguments(*last);
-    args << QStringLiteral("-o") << out;
-    QProcess cli;
-    cli.start(QStringLiteral(TF_EXE), args);
-    ASSERT_TRUE(cli.waitForFinished(60000));
-    ASSERT_EQ(cli.exitCode(), 0) << cli.readAllStandardError().toStdString();
-    const QImage again(out);
-    ASSERT_EQ(again.size(), painted.size());
-    EXPECT_EQ(again.convertToFormat(QImage::Format_RGB32), painted.convertToFormat(QImage::Format_RGB32));
-}

@@ -1,19 +1,14 @@
 // While a paint gives way to the event loop, every other handler of the window stays still.
 #include "core/pictureformats.h"
-#include "paint/catalogue.h"
-#include "paint/grafmenu.h"
 #include "paint/painter.h"
 #include "windowfixture.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QListWidget>
-#include <QPushButton>
 #include <QSlider>
 #include <QTimer>
 #include <functional>
@@ -44,11 +39,10 @@ void yieldingPainter(PaintContext &ctx)
 const PainterEntry yieldingTable[] = {{"Backgroundcolor", yieldingPainter, true},
                                       {"Boxes-Kreisradius", yieldingPainter, true}};
 
-struct PaintGuardTest : WindowFixture {
+struct PaintGuardTest : StartedWindow {
     void SetUp() override
     {
-        WindowFixture::SetUp();
-        start();
+        StartedWindow::SetUp();
         window->session().setPainters(yieldingTable);
     }
     void TearDown() override
@@ -56,14 +50,10 @@ struct PaintGuardTest : WindowFixture {
         g_whilePainting = nullptr;
         WindowFixture::TearDown();
     }
-    template <typename T> T *child(const char *name)
-    {
-        return window->findChild<T *>(QLatin1String(name));
-    }
     void paintFirstType()
     {
-        child<QListWidget>("ListBoxType")->setCurrentRow(0);
-        child<QPushButton>("BtnPaint")->click();
+        typeList()->setCurrentRow(0);
+        paintButton()->click();
     }
 };
 

@@ -1,4 +1,5 @@
 // The passepartout generator and demo, the printed page and the tile viewer.
+#include "support/files.h"
 #include "files/passepartoutfile.h"
 #include "paint/session.h"
 #include "ui/passepdemo.h"
@@ -16,12 +17,6 @@ using namespace tf;
 using namespace tf::ui;
 
 namespace {
-
-QByteArray bytesOf(const QString &path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
 
 struct GenFixture : ::testing::Test {
     QTemporaryDir dir;
@@ -83,10 +78,7 @@ TEST_F(GenFixture, MakesRenamesAndDeletesSetsAndWritesThemOnOk)
 
 TEST_F(GenFixture, ADamagedFileIsReportedAndKeptUnlessTheUserAgrees)
 {
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(QByteArray("\x0c\x00PPData-Tvl25\x05\x00\x00\x00", 18));
-    f.close();
+    writeBytes(path, QByteArray("\x0c\x00PPData-Tvl25\x05\x00\x00\x00", 18));
     const QByteArray before = bytesOf(path);
     PassepGen gen(session, path);
     EXPECT_EQ(prompter.lastText(), QStringLiteral("Die Passepartout-Datei ist beschädigt (5 Sets "

@@ -2,50 +2,17 @@
 // chosen options is repeated by its command line, and "The Matrix" opens its own window,
 // which a key closes, leaving the picture as it was. With TF_SCREENSHOTS set to a folder the
 // window (and the matrix window) is saved there.
-#include "paint/catalogue.h"
-#include "paint/grafmenu.h"
 #include "paint/paintrecord.h"
-#include "ui/featdialogdock.h"
-#include "ui/mainwindow.h"
 #include "ui/matrixwindow.h"
 #include "windowfixture.h"
 
-#include <QApplication>
 #include <QKeyEvent>
-#include <QListWidget>
-#include <QProcess>
-#include <QPushButton>
-#include <gtest/gtest.h>
 
 using namespace tf;
 
 namespace {
 
-struct PolyWindowTest : WindowFixture {
-    void SetUp() override
-    {
-        WindowFixture::SetUp();
-        start();
-    }
-    QListWidget *typeList() { return window->findChild<QListWidget *>(QStringLiteral("ListBoxType")); }
-    QPushButton *paintButton() { return window->findChild<QPushButton *>(QStringLiteral("BtnPaint")); }
-    ui::FeatDialogDock *options() { return window->findChild<ui::FeatDialogDock *>(); }
-    void choose(const char *key)
-    {
-        const auto where = findType(QString::fromUtf8(key));
-        ASSERT_TRUE(where);
-        mn_Grafmodes(window->session(), where->group);
-        QApplication::processEvents();
-        typeList()->setCurrentRow(where->listIndex);
-        QApplication::processEvents();
-    }
-    void screenshot(QWidget *w, const char *name)
-    {
-        const QString dir = qEnvironmentVariable("TF_SCREENSHOTS");
-        if (dir.isEmpty()) return;
-        QApplication::processEvents();
-        w->grab().save(dir + QLatin1Char('/') + QLatin1String(name) + QStringLiteral(".png"));
-    }
+struct PolyWindowTest : StartedWindow {
     ui::MatrixWindow *matrixWindow()
     {
         for (QWidget *w : QApplication::topLevelWidgets())
@@ -78,22 +45,16 @@ TEST_F(PolyWindowTest, ARoseWithChosenOptionsIsRepeatedByItsCommandLine)
     s.controls().set({QStringLiteral("txtRose"), 1}, QStringLiteral("3"));
     s.controls().set({QStringLiteral("XAAlias")}, QStringLiteral("1"));
     paintButton()->click();
-    screenshot(window.get(), "poly-rose");
+    screenshot(*window, "poly-rose");
     ASSERT_TRUE(s.paint().lastPaint.has_value());
 
     s.workspace().Bild.setPicture(QImage());
     s.paint().nextSeed = s.paint().lastPaint->seed;
     paintButton()->click();
     const QImage painted = s.workspace().Bild.Image().convertToFormat(QImage::Format_RGB32);
-    const QString out = dir.filePath(QStringLiteral("again.png"));
-    QStringList args = paintCommandArguments(*s.paint().lastPaint);
+    const QStringList args = paintCommandArguments(*s.paint().lastPaint);
     EXPECT_TRUE(args.contains(QStringLiteral("txtRose(0)=5"))) << args.join(' ').toStdString();
-    args << QStringLiteral("-o") << out;
-    QProcess cli;
-    cli.start(QStringLiteral(TF_EXE), args);
-    ASSERT_TRUE(cli.waitForFinished(60000));
-    ASSERT_EQ(cli.exitCode(), 0) << cli.readAllStandardError().toStdString();
-    EXPECT_EQ(QImage(out).convertToFormat(QImage::Format_RGB32), painted);
+    EXPECT_EQ(writtenBy(args + QStringList{QStringLiteral("-o"), outFile()}), painted);
 }
 
 TEST_F(PolyWindowTest, TheMatrixOpensItsOwnWindowAndLeavesThePicture)
@@ -117,7 +78,7 @@ TEST_F(PolyWindowTest, TheMatrixOpensItsOwnWindowAndLeavesThePicture)
             green += qGreen(p) > 60 && qGreen(p) > qRed(p) && qGreen(p) > qBlue(p);
         }
     EXPECT_GT(green, 20);
-    screenshot(matrix, "poly-matrix");
+    screenshot(*matrix, "poly-matrix");
     QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
     QApplication::sendEvent(matrix, &escape);
     QApplication::processEvents();

@@ -2,53 +2,34 @@
 // panel; what is typed into the dialog is the text that paints; the placing buttons make the
 // next click on the picture the text's place. With TF_SCREENSHOTS set to a folder the window
 // and the dialog are saved there.
+#include "support/files.h"
 #include "core/picturebox.h"
-#include "paint/catalogue.h"
 #include "paint/controls.h"
-#include "paint/grafmenu.h"
 #include "paint/session.h"
 #include "paint/textstate.h"
 #include "ui/colourfield.h"
-#include "ui/featdialogdock.h"
 #include "ui/pictureview.h"
 #include "ui/textdialog.h"
 #include "windowfixture.h"
 
-#include <QApplication>
 #include <QComboBox>
 #include <QFile>
-#include <QTemporaryDir>
-#include <QListWidget>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QMouseEvent>
-#include <gtest/gtest.h>
 
 using namespace tf;
 
 namespace {
 
-struct TextWindowTest : WindowFixture {
+struct TextWindowTest : StartedWindow {
     void SetUp() override
     {
-        WindowFixture::SetUp();
-        start();
+        StartedWindow::SetUp();
         Session &s = window->session();
         s.colours().RandomColors = false;
         s.colours().RandomValues = false;
     }
-    QListWidget *typeList() { return window->findChild<QListWidget *>(QStringLiteral("ListBoxType")); }
     ui::TextDialog *dialog() { return window->findChild<ui::TextDialog *>(QStringLiteral("frmTextDialog")); }
-    void choose(const char *key)
-    {
-        const auto where = findType(QString::fromUtf8(key));
-        ASSERT_TRUE(where);
-        mn_Grafmodes(window->session(), where->group);
-        QApplication::processEvents();
-        // The type list's click, as the list gives it (also for the row already current).
-        ListBoxType_Click(window->session(), where->listIndex);
-        QApplication::processEvents();
-    }
     // A press of the left button on the picture at `at`, as the mouse gives it.
     void pressOnPicture(QPoint at)
     {
@@ -82,7 +63,7 @@ TEST_F(TextWindowTest, ATextTypeBringsTheTextDialogAndItsTextPaints)
     EXPECT_FALSE(dialog()->isVisible());
     choose("TEXT-Textblock");
     EXPECT_TRUE(dialog()->isVisible());
-    EXPECT_EQ(window->findChild<ui::FeatDialogDock *>()->currentPanel(),
+    EXPECT_EQ(options()->currentPanel(),
               QStringLiteral("feat_13TextBlock"));
     // The alignments as a list: the option button's "&&" is one "&" there.
     auto *align = window->findChild<QComboBox *>(QStringLiteral("optTextBlockAlign"));
@@ -101,7 +82,7 @@ TEST_F(TextWindowTest, ATextTypeBringsTheTextDialogAndItsTextPaints)
     EXPECT_EQ(edit->toPlainText(), QStringLiteral("Neu"));
     edit->setPlainText(QStringLiteral("Größe, Übermaß,\nÄpfel und Öl"));
 
-    window->findChild<QPushButton *>(QStringLiteral("BtnPaint"))->click();
+    paintButton()->click();
     QApplication::processEvents();
     EXPECT_FALSE(ink().isEmpty());
     screenshot(*window, "text-window");
@@ -114,7 +95,7 @@ TEST_F(TextWindowTest, ThePlacingButtonMakesTheNextClickTheTextsPlace)
     ASSERT_EQ(window->session().paint().GrafKey, QStringLiteral("TEXT-Dialog"));
     window->session().controls().set(ControlKey{QStringLiteral("txtOrthoIn")}, QStringLiteral("Hier"));
     window->session().controls().set(ControlKey{QStringLiteral("cmbShadeThickness")}, QStringLiteral("0"));
-    auto *centre = window->findChild<QPushButton *>(QStringLiteral("BtnSet_TextPosC"));
+    auto *centre = button("BtnSet_TextPosC");
     ASSERT_NE(centre, nullptr);
     centre->click();
     EXPECT_EQ(window->session().text().placing, TextPlacing::Centre);
@@ -125,7 +106,7 @@ TEST_F(TextWindowTest, ThePlacingButtonMakesTheNextClickTheTextsPlace)
     ASSERT_FALSE(box.isEmpty());
     EXPECT_NEAR(box.center().x(), 300, 2);
     EXPECT_NEAR(box.center().y(), 200, 2);
-    window->findChild<ui::FeatDialogDock *>()->raise();
+    options()->raise();
     screenshot(*window, "text-placed");
 
     // A second click places nothing.
@@ -138,10 +119,7 @@ TEST_F(TextWindowTest, ATextFileLoadsIntoTheDialogInItsEncoding)
 {
     QTemporaryDir files;
     const QString western = files.filePath(QStringLiteral("westen.txt"));
-    QFile file(western);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("Gr\xF6\xDF" "e \x80 5\r\n\xC4pfel");
-    file.close();
+    writeBytes(western, "Gr\xF6\xDF" "e \x80 5\r\n\xC4pfel");
     ASSERT_TRUE(dialog()->loadTextFile(western));
     EXPECT_EQ(window->session().controls().text(QStringLiteral("txtOrthoIn")),
               QStringLiteral("Größe € 5\r\nÄpfel"));
@@ -161,7 +139,7 @@ TEST_F(TextWindowTest, TheRasterTextsShowTheirPanelAndPaintTheDialogsText)
 {
     choose("TEXT-Mondrian-Raster");
     EXPECT_TRUE(dialog()->isVisible());
-    EXPECT_EQ(window->findChild<ui::FeatDialogDock *>()->currentPanel(),
+    EXPECT_EQ(options()->currentPanel(),
               QStringLiteral("feat_02OrthoText1"));
     auto *split = window->findChild<QComboBox *>(QStringLiteral("cmbOrthoT1_Split"));
     ASSERT_NE(split, nullptr);
@@ -169,13 +147,13 @@ TEST_F(TextWindowTest, TheRasterTextsShowTheirPanelAndPaintTheDialogsText)
     EXPECT_EQ(split->itemText(2), QStringLiteral("Wörter"));
     dialog()->findChild<QPlainTextEdit *>(QStringLiteral("txtOrthoIn"))
         ->setPlainText(QStringLiteral("Größe Übermaß Äpfel Öl Füße"));
-    window->findChild<QPushButton *>(QStringLiteral("BtnPaint"))->click();
+    paintButton()->click();
     QApplication::processEvents();
     EXPECT_FALSE(ink().isEmpty());
-    window->findChild<ui::FeatDialogDock *>()->raise();
+    options()->raise();
     screenshot(*window, "text-mondrian-raster");
     // The panel's repaint paints the same frames again.
-    auto *repaint = window->findChild<QPushButton *>(QStringLiteral("BtnOrthoText_Repaint"));
+    auto *repaint = button("BtnOrthoText_Repaint");
     ASSERT_NE(repaint, nullptr);
     const QImage before = window->session().workspace().Bild.Image();
     repaint->click();
@@ -183,9 +161,9 @@ TEST_F(TextWindowTest, TheRasterTextsShowTheirPanelAndPaintTheDialogsText)
     EXPECT_NE(window->session().workspace().Bild.Image(), before);
 
     choose("TEXT-Spiral-Raster");
-    EXPECT_EQ(window->findChild<ui::FeatDialogDock *>()->currentPanel(),
+    EXPECT_EQ(options()->currentPanel(),
               QStringLiteral("feat_02OrthoText1"));
-    window->findChild<QPushButton *>(QStringLiteral("BtnPaint"))->click();
+    paintButton()->click();
     QApplication::processEvents();
     EXPECT_FALSE(ink().isEmpty());
     screenshot(*window, "text-spiral-raster");

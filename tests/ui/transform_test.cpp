@@ -14,7 +14,6 @@
 #include "ui/transformmenu.h"
 #include "windowfixture.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QMenuBar>
 #include <QSlider>
@@ -24,12 +23,11 @@ using namespace tf;
 
 namespace {
 
-struct TransformCommands : WindowFixture {
+struct TransformCommands : StartedWindow {
     QImage startPicture;
     void SetUp() override
     {
-        WindowFixture::SetUp();
-        start();
+        StartedWindow::SetUp();
         Workspace &ws = window->session().workspace();
         ws.New_BildSize(320, 200);
         startPicture = photoLike(320, 200);

@@ -1,7 +1,5 @@
 // The plasma tunnel in the window: it runs from the timer while the window stays live, the
 // other commands wait, Stop ends it after a frame.
-#include "paint/catalogue.h"
-#include "paint/grafmenu.h"
 #include "windowfixture.h"
 
 #include <QAction>
@@ -13,26 +11,17 @@
 #include <QSpinBox>
 #include <QTimer>
 #include <QMenuBar>
-#include <QPushButton>
 #include <QStackedWidget>
 
 using namespace tf;
 
 namespace {
 
-struct TunnelGui : WindowFixture {
+struct TunnelGui : StartedWindow {
     void SetUp() override
     {
-        WindowFixture::SetUp();
-        start();
-        const TypeLocation where = *findType(QStringLiteral("Plasma"));
-        mn_Grafmodes(window->session(), where.group);
-        ListBoxType_Click(window->session(), where.listIndex);
-        QApplication::processEvents();
-    }
-    template <typename T> T *child(const char *name)
-    {
-        return window->findChild<T *>(QLatin1String(name));
+        StartedWindow::SetUp();
+        choose("Plasma");
     }
     // Runs the event loop for `ms` milliseconds.
     static void wait(int ms)

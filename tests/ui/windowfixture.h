@@ -3,10 +3,16 @@
 // answers to its questions.
 #include "core/prompter.h"
 #include "core/settings.h"
+#include "paint/catalogue.h"
+#include "paint/grafmenu.h"
+#include "ui/featdialogdock.h"
 #include "ui/mainwindow.h"
 
 #include <QApplication>
 #include <QImage>
+#include <QListWidget>
+#include <QProcess>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <memory>
@@ -34,6 +40,43 @@ struct WindowFixture : ::testing::Test {
         window->session().setPrompter(&prompter);
         window->startUp(*store);
         window->show();
+    }
+    template <typename T> T *child(const char *name) { return window->findChild<T *>(QLatin1String(name)); }
+    QListWidget *typeList() { return child<QListWidget>("ListBoxType"); }
+    QPushButton *button(const char *name) { return child<QPushButton>(name); }
+    QPushButton *paintButton() { return button("BtnPaint"); }
+    tf::ui::FeatDialogDock *options() { return window->findChild<tf::ui::FeatDialogDock *>(); }
+    // Chooses the type of `key` as a user would: its group from the menu, then its row in the
+    // type list. The group remembers its last row, and a row that is current already gives no
+    // change of row, so the list's click follows as the list gives it.
+    void choose(const char *key)
+    {
+        const auto where = tf::findType(QString::fromUtf8(key));
+        ASSERT_TRUE(where) << key;
+        tf::mn_Grafmodes(window->session(), where->group);
+        QApplication::processEvents();
+        typeList()->setCurrentRow(where->listIndex);
+        tf::ListBoxType_Click(window->session(), where->listIndex);
+        QApplication::processEvents();
+    }
+    QString outFile() const { return dir.filePath(QStringLiteral("out.png")); }
+    // Runs the program with `args` and answers the picture it wrote to outFile().
+    QImage writtenBy(const QStringList &args)
+    {
+        QProcess cli;
+        cli.start(QStringLiteral(TF_EXE), args);
+        EXPECT_TRUE(cli.waitForFinished(60000));
+        EXPECT_EQ(cli.exitCode(), 0) << cli.readAllStandardError().toStdString();
+        return QImage(outFile()).convertToFormat(QImage::Format_RGB32);
+    }
+};
+
+// A window started before each test.
+struct StartedWindow : WindowFixture {
+    void SetUp() override
+    {
+        WindowFixture::SetUp();
+        start();
     }
 };
 
