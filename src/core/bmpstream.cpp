@@ -1,5 +1,6 @@
 #include "core/bmpstream.h"
 
+#include "core/largeimage.h"
 #include "core/parallel.h"
 
 #include <QIODevice>
@@ -47,8 +48,9 @@ bool writeBmp24(const EncodeRows &rows, QIODevice &out, int dotsPerMetre)
         }
         return true;
     }
-    // Larger batches here: their rows are converted on every core.
-    const int convertRows = batchRows * 8;
+    // Larger batches here: their rows are converted on every core. A small picture takes a
+    // batch of its own size, not one of a large picture's.
+    const int convertRows = int(std::min<qint64>(qint64(batchRows) * 8, h));
     std::vector<uchar> batch(size_t(rowSize) * size_t(convertRows), 0);
     for (int top = h - 1; top >= 0; top -= convertRows) {
         const int n = std::min(convertRows, top + 1);
@@ -134,7 +136,7 @@ QImage readPlainBmp(QByteArrayView bytes)
     PlainBmp bmp;
     if (!plainBmp(bytes, bytes.size(), bmp))
         return {};
-    QImage image(bmp.width, bmp.height, QImage::Format_RGB32);
+    QImage image = largeImage(bmp.width, bmp.height, QImage::Format_RGB32);
     if (image.isNull())
         return {};
     const auto *pixels = reinterpret_cast<const uchar *>(bytes.data()) + bmp.offBits;
@@ -151,7 +153,7 @@ QImage readPlainBmp(QIODevice &in)
     const QByteArray head = in.peek(54);
     if (!plainBmp(head, in.size(), bmp) || !in.seek(bmp.offBits))
         return {};
-    QImage image(bmp.width, bmp.height, QImage::Format_RGB32);
+    QImage image = largeImage(bmp.width, bmp.height, QImage::Format_RGB32);
     if (image.isNull())
         return {};
     // Rows come in batches of about a megabyte straight into the picture.
