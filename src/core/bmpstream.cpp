@@ -2,6 +2,7 @@
 
 #include "core/largeimage.h"
 #include "core/parallel.h"
+#include "core/vectorloops.h"
 
 #include <QIODevice>
 #include <QtEndian>
@@ -11,6 +12,34 @@
 #include <vector>
 
 namespace tf {
+
+namespace {
+
+// A picture's row of `bytesPerPixel`-byte pixels (blue, green, red first) as a file's row of
+// three bytes a pixel. The loops over whole 4-byte and 3-byte pixels are vector code.
+TF_VECTOR_LOOP void fileRowOf32(const uchar *__restrict src, uchar *__restrict dst, int w)
+{
+    for (int x = 0; x < w; ++x) {
+        dst[3 * x] = src[4 * x];
+        dst[3 * x + 1] = src[4 * x + 1];
+        dst[3 * x + 2] = src[4 * x + 2];
+    }
+}
+
+void fileRowOf(const uchar *src, int bytesPerPixel, uchar *dst, int w)
+{
+    if (bytesPerPixel == 4) {
+        fileRowOf32(src, dst, w);
+        return;
+    }
+    for (int x = 0; x < w; ++x, src += bytesPerPixel, dst += 3) {
+        dst[0] = src[0];
+        dst[1] = src[1];
+        dst[2] = src[2];
+    }
+}
+
+} // namespace
 
 bool writeBmp24(const EncodeRows &rows, QIODevice &out, int dotsPerMetre)
 {
@@ -55,15 +84,9 @@ bool writeBmp24(const EncodeRows &rows, QIODevice &out, int dotsPerMetre)
     for (int top = h - 1; top >= 0; top -= convertRows) {
         const int n = std::min(convertRows, top + 1);
         parallelRows(n, w, [&](int first, int last) {
-            for (int k = first; k < last; ++k) {
-                const uchar *src = rows.row(top - k);
-                uchar *dst = batch.data() + size_t(k) * size_t(rowSize);
-                for (int x = 0; x < w; ++x, src += rows.bytesPerPixel, dst += 3) {
-                    dst[0] = src[0];
-                    dst[1] = src[1];
-                    dst[2] = src[2];
-                }
-            }
+            for (int k = first; k < last; ++k)
+                fileRowOf(rows.row(top - k), rows.bytesPerPixel,
+                          batch.data() + size_t(k) * size_t(rowSize), w);
         });
         const qint64 bytes = rowSize * n;
         if (out.write(reinterpret_cast<const char *>(batch.data()), bytes) != bytes)
@@ -114,13 +137,33 @@ bool plainBmp(QByteArrayView b, qint64 fileSize, PlainBmp &bmp)
     return offBits >= 14 + headerSize && qint64(offBits) + bmp.rowSize * bmp.height <= fileSize;
 }
 
-// One row of the file into picture row y.
-void convertRow(const PlainBmp &bmp, const uchar *src, QImage &image, int fileRow)
+// A file's row of 3-byte and of 4-byte pixels as a picture's row (the unused byte 0xFF), in
+// vector code.
+TF_VECTOR_LOOP void pictureRowOf24(const uchar *__restrict src, quint32 *__restrict dst, int w)
+{
+    for (int x = 0; x < w; ++x)
+        dst[x] = 0xFF000000u | quint32(src[3 * x + 2]) << 16 | quint32(src[3 * x + 1]) << 8 |
+                 src[3 * x];
+}
+
+TF_VECTOR_LOOP void pictureRowOf32(const uchar *__restrict src, quint32 *__restrict dst, int w)
+{
+    for (int x = 0; x < w; ++x)
+        dst[x] = 0xFF000000u | quint32(src[4 * x + 2]) << 16 | quint32(src[4 * x + 1]) << 8 |
+                 src[4 * x];
+}
+
+// One row of the file into picture row y of the picture's bytes `bits` (bytesPerLine apart;
+// taken once, as a row pointer of a QImage would be on every thread).
+void convertRow(const PlainBmp &bmp, const uchar *src, uchar *bits, qsizetype bytesPerLine,
+                int fileRow)
 {
     const int y = bmp.topDown ? fileRow : bmp.height - 1 - fileRow;
-    auto *dst = reinterpret_cast<QRgb *>(image.scanLine(y));
-    for (int x = 0; x < bmp.width; ++x, src += bmp.bytesPerPixel)
-        dst[x] = 0xFF000000u | uint(src[2]) << 16 | uint(src[1]) << 8 | src[0];
+    auto *dst = reinterpret_cast<quint32 *>(bits + bytesPerLine * y);
+    if (bmp.bytesPerPixel == 3)
+        pictureRowOf24(src, dst, bmp.width);
+    else
+        pictureRowOf32(src, dst, bmp.width);
 }
 
 } // namespace
@@ -140,9 +183,11 @@ QImage readPlainBmp(QByteArrayView bytes)
     if (image.isNull())
         return {};
     const auto *pixels = reinterpret_cast<const uchar *>(bytes.data()) + bmp.offBits;
+    uchar *bits = image.bits();
+    const qsizetype bytesPerLine = image.bytesPerLine();
     parallelRows(bmp.height, bmp.width, [&](int first, int last) {
         for (int r = first; r < last; ++r)
-            convertRow(bmp, pixels + bmp.rowSize * r, image, r);
+            convertRow(bmp, pixels + bmp.rowSize * r, bits, bytesPerLine, r);
     });
     return image;
 }
@@ -166,7 +211,7 @@ QImage readPlainBmp(QIODevice &in)
             return {};
         for (int k = 0; k < n; ++k)
             convertRow(bmp, reinterpret_cast<const uchar *>(batch.data()) + bmp.rowSize * k,
-                       image, r + k);
+                       image.bits(), image.bytesPerLine(), r + k);
     }
     return image;
 }

@@ -75,27 +75,6 @@ std::array<uint8_t, 766> averageTable()
     return lut;
 }
 
-// The sum of the average greys of all pixels of S, with the bar going from 0 to `span`.
-int64_t sumOfGreys(FilterRun &run, const std::array<uint8_t, 766> &lut, int span)
-{
-    const int w = run.width(), h = run.height();
-    std::vector<int64_t> perRow(size_t(h), 0);
-    run.rows([&](int first, int last) {
-        const int width = w;
-        for (int y = first; y < last; ++y) {
-            const uint8_t *in = run.S.row(y);
-            int64_t sum = 0;
-            for (int x = 0; x < width * 4; x += 4)
-                sum += lut[size_t(in[x] + in[x + 1] + in[x + 2])];
-            perRow[size_t(y)] = sum;
-        }
-    }, 0, span);
-    int64_t sum = 0;
-    for (int64_t s : perRow)
-        sum += s;
-    return sum;
-}
-
 } // namespace
 
 // 255 - v of each channel is the channel's bits inverted: one exclusive or a pixel, which
@@ -215,49 +194,98 @@ void filterSwapBank(FilterRun &run)
     });
 }
 
+namespace {
+
+// The sum over a row of the average greys (b+g+r)\3, the division done as in greyRow; in
+// vector code, 32-bit lanes summed over stretches short enough not to overflow.
+TF_VECTOR_CLONES int64_t greySumRow(const uint32_t *in, int n)
+{
+    constexpr int Stretch = 1 << 16; // 65536 * 255 fits 32 bits
+    int64_t total = 0;
+    for (int x0 = 0; x0 < n; x0 += Stretch) {
+        const int x1 = std::min(n, x0 + Stretch);
+        uint32_t sum = 0;
+        for (int x = x0; x < x1; ++x) {
+            const uint32_t p = in[x];
+            sum += (((p & 255) + ((p >> 8) & 255) + ((p >> 16) & 255)) * 43691u) >> 17;
+        }
+        total += sum;
+    }
+    return total;
+}
+
+// Flags in the unused byte of the widened contrast tables: the value of that channel falls
+// outside 0..255.
+constexpr uint32_t BlueOver = 1u << 24, GreenOver = 1u << 25, RedOver = 1u << 26;
+
+// One pixel whose channels the table drives out of range, blue, green, red in `v`: the
+// overflow of the first channel out of range goes half to each of the other two, which keeps
+// the hue of over-driven pixels, unless all three went out on the same side.
+void overDriven(int v[3], uint8_t *out)
+{
+    const auto inRange = [](int c) { return c >= 0 && c <= 255; };
+    const bool allLow = v[0] < 0 && v[1] < 0 && v[2] < 0;
+    const bool allHigh = v[0] > 255 && v[1] > 255 && v[2] > 255;
+    if (!allLow && !allHigh) {
+        const int c = !inRange(v[0]) ? 0 : !inRange(v[1]) ? 1 : 2;
+        const int share = v[c] < 0 ? v[c] / 2 : (v[c] - 255) / 2;
+        v[c] = v[c] < 0 ? 0 : 255;
+        for (int o = 0; o < 3; ++o)
+            if (o != c) v[o] += share;
+    }
+    out[0] = clampByte(v[0]);
+    out[1] = clampByte(v[1]);
+    out[2] = clampByte(v[2]);
+}
+
+} // namespace
+
 void filterContrast(FilterRun &run)
 {
-    const auto lut = averageTable();
     const int w = run.width(), h = run.height();
     // First pass: the mean grey, counting 5 of the bar.
-    const int64_t sum = sumOfGreys(run, lut, 5);
+    std::vector<int64_t> perRow(size_t(h), 0);
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y)
+            perRow[size_t(y)] = greySumRow(reinterpret_cast<const uint32_t *>(run.S.row(y)), w);
+    }, 0, 5);
+    int64_t sum = 0;
+    for (int64_t r : perRow)
+        sum += r;
     const int m = int(roundHalfEven(double(sum) / (double(w) * h)));
     run.FilterStart = 5;
     run.DoEvents();
     const double f = (run.args.argument + 100) / 100.0;
     std::array<int, 256> t{};
-    for (int i = 0; i < 256; ++i)
-        t[size_t(i)] = roundInt(f * (i - m) + m);
+    // The table widened to whole pixels, as applyTables has it, with a flag for a value out
+    // of range: a pixel whose three channels stay in range (the usual case) is three
+    // look-ups, two ors and one test.
+    std::array<uint32_t, 256> wb{}, wg{}, wr{};
+    for (size_t i = 0; i < 256; ++i) {
+        const int v = roundInt(f * (int(i) - m) + m);
+        t[i] = v;
+        const bool over = v < 0 || v > 255;
+        const uint32_t byte = over ? 0 : uint32_t(v);
+        wb[i] = over ? BlueOver : byte;
+        wg[i] = over ? GreenOver : byte << 8;
+        wr[i] = over ? RedOver : byte << 16;
+    }
     run.rows([&](int first, int last) {
         const int width = w;
         for (int y = first; y < last; ++y) {
-            const uint8_t *in = run.S.row(y);
-            uint8_t *out = run.D.row(y);
-            for (int x = 0; x < width * 4; x += 4) {
-                int v[3] = {t[in[x]], t[in[x + 1]], t[in[x + 2]]}; // blue, green, red
-                // All three in 0..255 (the usual case) is one test: no bit above the lowest
-                // eight in any of them, a negative value having all of them.
-                if (((v[0] | v[1] | v[2]) & ~0xFF) == 0) {
-                    out[x] = uint8_t(v[0]);
-                    out[x + 1] = uint8_t(v[1]);
-                    out[x + 2] = uint8_t(v[2]);
-                    continue;
+            const auto *in = reinterpret_cast<const uint32_t *>(run.S.row(y));
+            auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
+            for (int x = 0; x < width; ++x) {
+                const uint32_t p = in[x];
+                const uint32_t b = p & 255, g = (p >> 8) & 255, r = (p >> 16) & 255;
+                const uint32_t mapped = wb[b] | wg[g] | wr[r];
+                // The unused byte stays as the destination has it.
+                if (mapped < BlueOver) {
+                    out[x] = mapped | (out[x] & 0xFF000000u);
+                } else {
+                    int v[3] = {t[b], t[g], t[r]};
+                    overDriven(v, reinterpret_cast<uint8_t *>(out + x));
                 }
-                const auto inRange = [](int c) { return c >= 0 && c <= 255; };
-                const bool allLow = v[0] < 0 && v[1] < 0 && v[2] < 0;
-                const bool allHigh = v[0] > 255 && v[1] > 255 && v[2] > 255;
-                if (!allLow && !allHigh) {
-                    // The overflow of the first channel out of range goes half to each of
-                    // the other two, which keeps the hue of over-driven pixels.
-                    const int c = !inRange(v[0]) ? 0 : !inRange(v[1]) ? 1 : 2;
-                    const int share = v[c] < 0 ? v[c] / 2 : (v[c] - 255) / 2;
-                    v[c] = v[c] < 0 ? 0 : 255;
-                    for (int o = 0; o < 3; ++o)
-                        if (o != c) v[o] += share;
-                }
-                out[x] = clampByte(v[0]);
-                out[x + 1] = clampByte(v[1]);
-                out[x + 2] = clampByte(v[2]);
             }
         }
     }, 5, 95);

@@ -1,10 +1,12 @@
 // The exact rules of the pixel filters on small pictures with known pixels.
+#include "core/numeric.h"
 #include "filters/dografic.h"
 #include "filters/filtertable.h"
 #include "paint/session.h"
 #include "filterpictures.h"
 
 #include <gtest/gtest.h>
+#include <algorithm>
 
 using namespace tf;
 using namespace filtertest;
