@@ -2,6 +2,7 @@
 
 #include "core/largeimage.h"
 #include "core/parallel.h"
+#include "core/pixelrows.h"
 #include "core/vectorloops.h"
 
 #include <QIODevice>
@@ -16,20 +17,11 @@ namespace tf {
 namespace {
 
 // A picture's row of `bytesPerPixel`-byte pixels (blue, green, red first) as a file's row of
-// three bytes a pixel. The loops over whole 4-byte and 3-byte pixels are vector code.
-TF_VECTOR_LOOP void fileRowOf32(const uchar *__restrict src, uchar *__restrict dst, int w)
-{
-    for (int x = 0; x < w; ++x) {
-        dst[3 * x] = src[4 * x];
-        dst[3 * x + 1] = src[4 * x + 1];
-        dst[3 * x + 2] = src[4 * x + 2];
-    }
-}
-
+// three bytes a pixel.
 void fileRowOf(const uchar *src, int bytesPerPixel, uchar *dst, int w)
 {
     if (bytesPerPixel == 4) {
-        fileRowOf32(src, dst, w);
+        rowOf32To24(src, dst, w);
         return;
     }
     for (int x = 0; x < w; ++x, src += bytesPerPixel, dst += 3) {
@@ -137,15 +129,7 @@ bool plainBmp(QByteArrayView b, qint64 fileSize, PlainBmp &bmp)
     return offBits >= 14 + headerSize && qint64(offBits) + bmp.rowSize * bmp.height <= fileSize;
 }
 
-// A file's row of 3-byte and of 4-byte pixels as a picture's row (the unused byte 0xFF), in
-// vector code.
-TF_VECTOR_LOOP void pictureRowOf24(const uchar *__restrict src, quint32 *__restrict dst, int w)
-{
-    for (int x = 0; x < w; ++x)
-        dst[x] = 0xFF000000u | quint32(src[3 * x + 2]) << 16 | quint32(src[3 * x + 1]) << 8 |
-                 src[3 * x];
-}
-
+// A file's row of 4-byte pixels as a picture's row (the unused byte 0xFF), in vector code.
 TF_VECTOR_LOOP void pictureRowOf32(const uchar *__restrict src, quint32 *__restrict dst, int w)
 {
     for (int x = 0; x < w; ++x)
@@ -161,7 +145,7 @@ void convertRow(const PlainBmp &bmp, const uchar *src, uchar *bits, qsizetype by
     const int y = bmp.topDown ? fileRow : bmp.height - 1 - fileRow;
     auto *dst = reinterpret_cast<quint32 *>(bits + bytesPerLine * y);
     if (bmp.bytesPerPixel == 3)
-        pictureRowOf24(src, dst, bmp.width);
+        rowOf24To32(src, dst, bmp.width);
     else
         pictureRowOf32(src, dst, bmp.width);
 }
