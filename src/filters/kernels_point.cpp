@@ -238,6 +238,34 @@ void overDriven(int v[3], uint8_t *out)
     out[2] = clampByte(v[2]);
 }
 
+// The tables of one contrast: blue, green and red widened and flagged, and the values.
+struct ContrastTables {
+    const uint32_t *b, *g, *r;
+    const int *values;
+};
+
+// One row of contrast. The tables are read through pointers no store can reach, so they stay
+// in registers for the whole row.
+void contrastRow(const uint32_t *__restrict in, uint32_t *__restrict out, int n,
+                 ContrastTables tables)
+{
+    const uint32_t *__restrict wb = tables.b;
+    const uint32_t *__restrict wg = tables.g;
+    const uint32_t *__restrict wr = tables.r;
+    for (int x = 0; x < n; ++x) {
+        const uint32_t p = in[x];
+        const uint32_t b = p & 255, g = (p >> 8) & 255, r = (p >> 16) & 255;
+        const uint32_t mapped = wb[b] | wg[g] | wr[r];
+        // The unused byte is the picture's (the destination starts as its copy).
+        if (mapped < BlueOver) {
+            out[x] = mapped | (p & 0xFF000000u);
+        } else {
+            int v[3] = {tables.values[b], tables.values[g], tables.values[r]};
+            overDriven(v, reinterpret_cast<uint8_t *>(out + x));
+        }
+    }
+}
+
 } // namespace
 
 void filterContrast(FilterRun &run)
@@ -271,23 +299,10 @@ void filterContrast(FilterRun &run)
         wr[i] = over ? RedOver : byte << 16;
     }
     run.rows([&](int first, int last) {
-        const int width = w;
-        for (int y = first; y < last; ++y) {
-            const auto *in = reinterpret_cast<const uint32_t *>(run.S.row(y));
-            auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
-            for (int x = 0; x < width; ++x) {
-                const uint32_t p = in[x];
-                const uint32_t b = p & 255, g = (p >> 8) & 255, r = (p >> 16) & 255;
-                const uint32_t mapped = wb[b] | wg[g] | wr[r];
-                // The unused byte stays as the destination has it.
-                if (mapped < BlueOver) {
-                    out[x] = mapped | (out[x] & 0xFF000000u);
-                } else {
-                    int v[3] = {t[b], t[g], t[r]};
-                    overDriven(v, reinterpret_cast<uint8_t *>(out + x));
-                }
-            }
-        }
+        for (int y = first; y < last; ++y)
+            contrastRow(reinterpret_cast<const uint32_t *>(run.S.row(y)),
+                        reinterpret_cast<uint32_t *>(run.D.row(y)), w,
+                        {wb.data(), wg.data(), wr.data(), t.data()});
     }, 5, 95);
 }
 
