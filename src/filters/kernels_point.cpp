@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <memory>
 #include <vector>
@@ -215,54 +216,49 @@ TF_VECTOR_CLONES int64_t greySumRow(const uint32_t *in, int n)
 }
 
 // Flags in the unused byte of the widened contrast tables: the value of that channel falls
-// outside 0..255.
+// outside 0..255, and below 0.
 constexpr uint32_t BlueOver = 1u << 24, GreenOver = 1u << 25, RedOver = 1u << 26;
+constexpr uint32_t BlueLow = 1u << 27, GreenLow = 1u << 28, RedLow = 1u << 29;
 
-// One pixel whose channels the table drives out of range, blue, green, red in `v`: the
-// overflow of the first channel out of range goes half to each of the other two, which keeps
-// the hue of over-driven pixels, unless all three went out on the same side.
-void overDriven(int v[3], uint8_t *out)
-{
-    const auto inRange = [](int c) { return c >= 0 && c <= 255; };
-    const bool allLow = v[0] < 0 && v[1] < 0 && v[2] < 0;
-    const bool allHigh = v[0] > 255 && v[1] > 255 && v[2] > 255;
-    if (!allLow && !allHigh) {
-        const int c = !inRange(v[0]) ? 0 : !inRange(v[1]) ? 1 : 2;
-        const int share = v[c] < 0 ? v[c] / 2 : (v[c] - 255) / 2;
-        v[c] = v[c] < 0 ? 0 : 255;
-        for (int o = 0; o < 3; ++o)
-            if (o != c) v[o] += share;
-    }
-    out[0] = clampByte(v[0]);
-    out[1] = clampByte(v[1]);
-    out[2] = clampByte(v[2]);
-}
-
-// The tables of one contrast: blue, green and red widened and flagged, and the values.
+// The tables of one contrast, each indexed by a channel value: blue, green and red widened to
+// their place in the pixel and flagged; the value the table gives; the share of its overflow
+// (half of it, towards zero) that a value out of range passes to the other two channels.
 struct ContrastTables {
     const uint32_t *b, *g, *r;
     const int *values;
+    const int *shares;
 };
+
+// A pixel whose channels the table drives out of range: the overflow of the first channel out
+// of range (blue, green, red) goes half to each of the other two, which keeps the hue of
+// over-driven pixels, unless all three went out on the same side; then every channel is
+// clamped. `flags` is the pixel's ors of the widened tables.
+uint32_t overDriven(uint32_t p, uint32_t flags, const ContrastTables &t)
+{
+    const uint32_t channel[3] = {p & 255, (p >> 8) & 255, (p >> 16) & 255};
+    const uint32_t over = (flags >> 24) & 7, low = (flags >> 27) & 7;
+    const bool oneSide = over == 7 && (low == 7 || low == 0);
+    const int first = std::countr_zero(over);
+    const int share = oneSide ? 0 : t.shares[channel[first]];
+    uint32_t out = p & 0xFF000000u;
+    for (int k = 0; k < 3; ++k)
+        out |= uint32_t(clampByte(t.values[channel[k]] + (k == first ? 0 : share))) << (8 * k);
+    return out;
+}
 
 // One row of contrast. The tables are read through pointers no store can reach, so they stay
 // in registers for the whole row.
 void contrastRow(const uint32_t *__restrict in, uint32_t *__restrict out, int n,
-                 ContrastTables tables)
+                 const ContrastTables &tables)
 {
     const uint32_t *__restrict wb = tables.b;
     const uint32_t *__restrict wg = tables.g;
     const uint32_t *__restrict wr = tables.r;
     for (int x = 0; x < n; ++x) {
         const uint32_t p = in[x];
-        const uint32_t b = p & 255, g = (p >> 8) & 255, r = (p >> 16) & 255;
-        const uint32_t mapped = wb[b] | wg[g] | wr[r];
+        const uint32_t mapped = wb[p & 255] | wg[(p >> 8) & 255] | wr[(p >> 16) & 255];
         // The unused byte is the picture's (the destination starts as its copy).
-        if (mapped < BlueOver) {
-            out[x] = mapped | (p & 0xFF000000u);
-        } else {
-            int v[3] = {tables.values[b], tables.values[g], tables.values[r]};
-            overDriven(v, reinterpret_cast<uint8_t *>(out + x));
-        }
+        out[x] = mapped < BlueOver ? mapped | (p & 0xFF000000u) : overDriven(p, mapped, tables);
     }
 }
 
@@ -284,25 +280,26 @@ void filterContrast(FilterRun &run)
     run.FilterStart = 5;
     run.DoEvents();
     const double f = (run.args.argument + 100) / 100.0;
-    std::array<int, 256> t{};
-    // The table widened to whole pixels, as applyTables has it, with a flag for a value out
-    // of range: a pixel whose three channels stay in range (the usual case) is three
-    // look-ups, two ors and one test.
+    // The table widened to whole pixels, as applyTables has it, with flags for a value out of
+    // range: a pixel whose three channels stay in range (the usual case) is three look-ups,
+    // two ors and one test.
+    std::array<int, 256> values{}, shares{};
     std::array<uint32_t, 256> wb{}, wg{}, wr{};
     for (size_t i = 0; i < 256; ++i) {
         const int v = roundInt(f * (int(i) - m) + m);
-        t[i] = v;
-        const bool over = v < 0 || v > 255;
+        values[i] = v;
+        shares[i] = v < 0 ? v / 2 : v > 255 ? (v - 255) / 2 : 0;
+        const bool low = v < 0, over = low || v > 255;
         const uint32_t byte = over ? 0 : uint32_t(v);
-        wb[i] = over ? BlueOver : byte;
-        wg[i] = over ? GreenOver : byte << 8;
-        wr[i] = over ? RedOver : byte << 16;
+        wb[i] = over ? BlueOver | (low ? BlueLow : 0) : byte;
+        wg[i] = over ? GreenOver | (low ? GreenLow : 0) : byte << 8;
+        wr[i] = over ? RedOver | (low ? RedLow : 0) : byte << 16;
     }
+    const ContrastTables tables{wb.data(), wg.data(), wr.data(), values.data(), shares.data()};
     run.rows([&](int first, int last) {
         for (int y = first; y < last; ++y)
             contrastRow(reinterpret_cast<const uint32_t *>(run.S.row(y)),
-                        reinterpret_cast<uint32_t *>(run.D.row(y)), w,
-                        {wb.data(), wg.data(), wr.data(), t.data()});
+                        reinterpret_cast<uint32_t *>(run.D.row(y)), w, tables);
     }, 5, 95);
 }
 
