@@ -34,7 +34,13 @@ runs=${RUNS:-9}
 # The wall time of one run in seconds, from the shell's own clock (no process started to read
 # it, so both programs are timed alike).
 elapsed=0
-timeOnce() { local t0=$EPOCHREALTIME; "$@" >/dev/null 2>&1; local t1=$EPOCHREALTIME; elapsed=$(echo "$t1 - $t0" | bc -l); }
+# A run that fails ends the comparison with its command: its time would say nothing.
+timeOnce() {
+  local t0=$EPOCHREALTIME
+  if ! "$@" >/dev/null 2>&1; then echo "compare-peers.sh: failed: $*" >&2; exit 1; fi
+  local t1=$EPOCHREALTIME
+  elapsed=$(echo "$t1 - $t0" | bc -l)
+}
 median() { printf '%s\n' "$@" | sort -g | awk '{v[NR] = $1} END {print NR % 2 ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2}'; }
 seconds() { timeOnce "$@"; echo "$elapsed"; }
 # The median of five runs: the machine may be shared, and one slow run says little.
