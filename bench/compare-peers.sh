@@ -95,6 +95,9 @@ with open(sys.argv[1], "wb") as f:
         f.write(r)
 PY
 fi
+# The picture on disk before the clocks start: the system writing it out in the background
+# would fall on whichever program runs first.
+sync "$work/in.bmp"
 
 names=(negate greyscale sharpen dilate floyd-steinberg)
 ours_cmd=(negative greyscale sharpen dilate floyd-steinberg)
