@@ -11,6 +11,10 @@
 #include <memory>
 #include <vector>
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 namespace tf {
 
 namespace {
@@ -306,21 +310,27 @@ void filterContrast(FilterRun &run)
 namespace {
 
 // The smallest and the largest value of blue, green and red in a row of n pixels, in that
-// order. Four pixels at a time byte by byte, which is vector code; their lanes are joined at
+// order. Four pixels at a time byte by byte in vector registers; their lanes are joined at
 // the end.
-TF_VECTOR_LOOP std::array<uint8_t, 6> channelRange(const uint8_t *__restrict in, int n)
+std::array<uint8_t, 6> channelRange(const uint8_t *in, int n)
 {
     uint8_t lo[16], hi[16];
+    int x = 0;
+#ifdef __SSE2__
+    __m128i low = _mm_set1_epi8(-1), high = _mm_setzero_si128();
+    for (; x + 4 <= n; x += 4, in += 16) {
+        const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i *>(in));
+        low = _mm_min_epu8(low, v);
+        high = _mm_max_epu8(high, v);
+    }
+    _mm_storeu_si128(reinterpret_cast<__m128i *>(lo), low);
+    _mm_storeu_si128(reinterpret_cast<__m128i *>(hi), high);
+#else
     for (int j = 0; j < 16; ++j) {
         lo[j] = 255;
         hi[j] = 0;
     }
-    int x = 0;
-    for (; x + 4 <= n; x += 4, in += 16)
-        for (int j = 0; j < 16; ++j) {
-            lo[j] = std::min(lo[j], in[j]);
-            hi[j] = std::max(hi[j], in[j]);
-        }
+#endif
     for (; x < n; ++x, in += 4)
         for (int c = 0; c < 3; ++c) {
             lo[c] = std::min(lo[c], in[c]);

@@ -287,6 +287,25 @@ TEST_F(PixelFilters, StretchSpreadsEachChannelOverTheWholeRange)
     EXPECT_EQ(rgb(out, 2, 0), (std::array<int, 3>{255, 255, 255}));
 }
 
+TEST_F(PixelFilters, StretchFindsEachChannelsRangeAnywhereInTheRow)
+{
+    // Nine pixels: the first eight are searched four at a time, the ninth alone. Red's range
+    // is 40..90 (pixels 8 and 1), green's 60..110 (pixels 6 and 8), blue's 20..220 (pixels 3
+    // and 0).
+    QImage img = flat(9, 1, RGB(70, 80, 120));
+    img.setPixel(0, 0, qRgb(70, 80, 220));
+    img.setPixel(1, 0, qRgb(90, 80, 120));
+    img.setPixel(3, 0, qRgb(70, 80, 20));
+    img.setPixel(6, 0, qRgb(70, 60, 120));
+    img.setPixel(8, 0, qRgb(40, 110, 120));
+    const QImage out = run(28, img);
+    EXPECT_EQ(rgb(out, 8, 0), (std::array<int, 3>{0, 255, 128})); // blue (120-20)*255/200 = 127.5
+    EXPECT_EQ(rgb(out, 1, 0), (std::array<int, 3>{255, 102, 128}));
+    EXPECT_EQ(rgb(out, 0, 0)[2], 255);
+    EXPECT_EQ(rgb(out, 3, 0)[2], 0);
+    EXPECT_EQ(rgb(out, 6, 0)[1], 0);
+}
+
 namespace {
 
 // The in-place 3 x 3 loop as written: y outer, x inner, neighbours clamped, reading D as it
