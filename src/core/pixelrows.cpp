@@ -67,6 +67,34 @@ __attribute__((target("ssse3"))) void shuffle32To24(const uchar *src, uchar *dst
     loop32To24(src + 4 * x, dst, w - x);
 }
 
+// Four pixels at a time: one byte shuffle, an xor and an and.
+__attribute__((target("ssse3"))) int shufflePermute(const uchar *src, uchar *dst, int w,
+                                                     const int source[3], const uchar flip[3],
+                                                     const uchar keep[3])
+{
+    alignas(16) uchar from[16], flips[16], keeps[16];
+    for (int p = 0; p < 4; ++p) {
+        for (int k = 0; k < 3; ++k) {
+            from[4 * p + k] = uchar(4 * p + source[k]);
+            flips[4 * p + k] = flip[k];
+            keeps[4 * p + k] = keep[k];
+        }
+        from[4 * p + 3] = uchar(4 * p + 3);
+        flips[4 * p + 3] = 0;
+        keeps[4 * p + 3] = 0xFF;
+    }
+    const __m128i order = _mm_load_si128(reinterpret_cast<const __m128i *>(from));
+    const __m128i flipBits = _mm_load_si128(reinterpret_cast<const __m128i *>(flips));
+    const __m128i keepBits = _mm_load_si128(reinterpret_cast<const __m128i *>(keeps));
+    int x = 0;
+    for (; x + 4 <= w; x += 4) {
+        const __m128i v = _mm_loadu_si128(reinterpret_cast<const __m128i *>(src + 4 * x));
+        const __m128i r = _mm_and_si128(_mm_xor_si128(_mm_shuffle_epi8(v, order), flipBits), keepBits);
+        _mm_storeu_si128(reinterpret_cast<__m128i *>(dst + 4 * x), r);
+    }
+    return x;
+}
+
 bool haveShuffles()
 {
     static const bool have = [] {
@@ -78,6 +106,26 @@ bool haveShuffles()
 #endif
 
 } // namespace
+
+void permuteChannels(const uchar *src, uchar *dst, int w, const int source[3], const uchar flip[3],
+                     const uchar keep[3])
+{
+    int x = 0;
+#ifdef TF_PIXEL_SHUFFLES
+    if (haveShuffles()) x = shufflePermute(src, dst, w, source, flip, keep);
+#endif
+    for (; x < w; ++x) {
+        const uchar *in = src + 4 * x;
+        uchar *out = dst + 4 * x;
+        const uchar b = uchar((in[source[0]] ^ flip[0]) & keep[0]);
+        const uchar g = uchar((in[source[1]] ^ flip[1]) & keep[1]);
+        const uchar r = uchar((in[source[2]] ^ flip[2]) & keep[2]);
+        out[0] = b;
+        out[1] = g;
+        out[2] = r;
+        out[3] = in[3];
+    }
+}
 
 void rowOf24To32(const uchar *src, quint32 *dst, int w)
 {

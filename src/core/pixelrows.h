@@ -13,4 +13,10 @@ void rowOf24To32(const uchar *src, quint32 *dst, int w);
 // `w` RGB32 pixels at `src` as three bytes each at `dst`.
 void rowOf32To24(const uchar *src, uchar *dst, int w);
 
+// `w` RGB32 pixels from `src` to `dst` with their channels rearranged: byte k (0 blue,
+// 1 green, 2 red) of a result pixel is byte source[k] of the same pixel (0 to 2), xor-ed with
+// flip[k] and then and-ed with keep[k]. The unused byte is copied. `src` may be `dst`.
+void permuteChannels(const uchar *src, uchar *dst, int w, const int source[3], const uchar flip[3],
+                     const uchar keep[3]);
+
 } // namespace tf

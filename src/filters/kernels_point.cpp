@@ -2,6 +2,7 @@
 // result depends on the value alone, so no pixel repeats a multiplication or a power.
 #include "filters/kernels.h"
 
+#include "core/pixelrows.h"
 #include "filters/filterrun.h"
 
 #include <algorithm>
@@ -168,6 +169,21 @@ void filterMosaic(FilterRun &run)
     run.progress(100);
 }
 
+namespace {
+
+// D takes S with its channels rearranged (pixelrows.h): a byte shuffle of four pixels at a
+// time, where the result's byte of each channel comes from one byte of the same pixel.
+void permuteRows(FilterRun &run, const int source[3], const uint8_t flip[3], const uint8_t keep[3])
+{
+    const int w = run.width();
+    run.rows([&](int first, int last) {
+        for (int y = first; y < last; ++y)
+            permuteChannels(run.S.row(y), run.D.row(y), w, source, flip, keep);
+    });
+}
+
+} // namespace
+
 void filterSwapBank(FilterRun &run)
 {
     // For each entry, the source of the output red, green and blue (0 red, 1 green, 2 blue).
@@ -182,21 +198,9 @@ void filterSwapBank(FilterRun &run)
     const int a = run.args.argument;
     const int *f = from[a >= 1 && a <= 5 ? a : 0];
     // Byte of a channel index: red 2, green 1, blue 0.
-    const int rByte = 2 - f[0], gByte = 2 - f[1], bByte = 2 - f[2];
-    const int w = run.width();
-    run.rows([&](int first, int last) {
-        const int width = w;
-        for (int y = first; y < last; ++y) {
-            const uint8_t *in = run.S.row(y);
-            uint8_t *out = run.D.row(y);
-            for (int x = 0; x < width * 4; x += 4) {
-                const uint8_t b = in[x + bByte], g = in[x + gByte], r = in[x + rByte];
-                out[x] = b;
-                out[x + 1] = g;
-                out[x + 2] = r;
-            }
-        }
-    });
+    const int source[3] = {2 - f[2], 2 - f[1], 2 - f[0]}; // for blue, green, red
+    static constexpr uint8_t flip[3] = {0, 0, 0}, keep[3] = {255, 255, 255};
+    permuteRows(run, source, flip, keep);
 }
 
 namespace {
@@ -471,28 +475,16 @@ void filterChannelMixer(FilterRun &run)
 {
     const FilterArgs &a = run.args;
     // Output channel o (0 red, 1 green, 2 blue) lies in byte 2 - o.
-    int srcByte[3];
-    Table t[3];
+    // Inverted is 255 - v, every bit flipped; cleared is 0, no bit kept.
+    int source[3];
+    uint8_t flip[3], keep[3];
     for (int o = 0; o < 3; ++o) {
-        srcByte[o] = 2 - std::clamp(a.mixSource[size_t(o)], 0, 2);
-        const bool kill = a.kill[size_t(o)], invert = a.invert[size_t(o)];
-        t[o] = tableOf([&](int v) { return kill ? 0 : invert ? 255 - v : v; });
+        const size_t byte = size_t(2 - o);
+        source[byte] = 2 - std::clamp(a.mixSource[size_t(o)], 0, 2);
+        flip[byte] = a.invert[size_t(o)] ? 255 : 0;
+        keep[byte] = a.kill[size_t(o)] ? 0 : 255;
     }
-    const int w = run.width();
-    run.rows([&](int first, int last) {
-        const int width = w;
-        for (int y = first; y < last; ++y) {
-            const uint8_t *in = run.S.row(y);
-            uint8_t *out = run.D.row(y);
-            for (int x = 0; x < width * 4; x += 4) {
-                const uint8_t r = t[0][in[x + srcByte[0]]], g = t[1][in[x + srcByte[1]]],
-                              b = t[2][in[x + srcByte[2]]];
-                out[x] = b;
-                out[x + 1] = g;
-                out[x + 2] = r;
-            }
-        }
-    });
+    permuteRows(run, source, flip, keep);
 }
 
 void filterShiftRGB(FilterRun &run)

@@ -29,3 +29,27 @@ TEST(PixelRows, ThreeBytesSpreadToFourAndPackBackAtEveryWidth)
         EXPECT_EQ(back, file) << "width " << w;
     }
 }
+
+TEST(PixelRows, ChannelsRearrangeFlipAndClearInEveryPixel)
+{
+    // Blue takes red inverted, green is cleared, red takes blue; the unused byte stays.
+    const int source[3] = {2, 1, 0};
+    const uchar flip[3] = {255, 0, 0}, keep[3] = {255, 0, 255};
+    for (int w : {1, 3, 4, 5, 9, 18}) {
+        std::vector<uchar> in(size_t(w) * 4), out(in.size(), 0x5A);
+        for (size_t i = 0; i < in.size(); ++i)
+            in[i] = uchar(i * 53 + 7);
+        permuteChannels(in.data(), out.data(), w, source, flip, keep);
+        for (int x = 0; x < w; ++x) {
+            const uchar *p = in.data() + 4 * x, *q = out.data() + 4 * x;
+            EXPECT_EQ(q[0], 255 - p[2]) << "width " << w << " pixel " << x;
+            EXPECT_EQ(q[1], 0) << w << " " << x;
+            EXPECT_EQ(q[2], p[0]) << w << " " << x;
+            EXPECT_EQ(q[3], p[3]) << w << " " << x;
+        }
+        // In place, as a routine that reads only its destination would run it.
+        std::vector<uchar> same = in;
+        permuteChannels(same.data(), same.data(), w, source, flip, keep);
+        EXPECT_EQ(same, out) << w;
+    }
+}
