@@ -2,6 +2,7 @@
 // result depends on the value alone, so no pixel repeats a multiplication or a power.
 #include "filters/kernels.h"
 
+#include "core/bytetables.h"
 #include "core/pixelrows.h"
 #include "filters/filterrun.h"
 
@@ -9,6 +10,7 @@
 #include <array>
 #include <bit>
 #include <cmath>
+#include <cstring>
 #include <memory>
 #include <vector>
 
@@ -52,10 +54,14 @@ void applyTables(FilterRun &run, const Table &b, const Table &g, const Table &r,
     }
     const int w = run.width();
     run.rows([&](int first, int last) {
-        for (int y = first; y < last; ++y)
+        for (int y = first; y < last; ++y) {
+            if (mapChannelsWide(run.S.row(y), run.D.row(y), w, b.data(), g.data(), r.data(),
+                                UnusedByte::Opaque) == w)
+                continue;
             tableRow(reinterpret_cast<const uint32_t *>(run.S.row(y)),
                      reinterpret_cast<uint32_t *>(run.D.row(y)), w, wb.data(), wg.data(),
                      wr.data());
+        }
     }, start, span);
 }
 
@@ -304,10 +310,37 @@ void filterContrast(FilterRun &run)
         wr[i] = over ? RedOver | (low ? RedLow : 0) : byte << 16;
     }
     const ContrastTables tables{wb.data(), wg.data(), wr.data(), values.data(), shares.data()};
+    // Where the processor maps 64 bytes at a time (bytetables.h), a row goes through the
+    // clamped table, and only the blocks of sixteen pixels with a value out of range are
+    // worked out again. S is never D here, so the pixels are still there to be read.
+    Table clamped{}, outOfRange{};
+    for (size_t i = 0; i < 256; ++i) {
+        clamped[i] = clampByte(values[i]);
+        outOfRange[i] = values[i] < 0 || values[i] > 255 ? 1 : 0;
+    }
+    const bool wide = haveWideByteTables();
     run.rows([&](int first, int last) {
-        for (int y = first; y < last; ++y)
-            contrastRow(reinterpret_cast<const uint32_t *>(run.S.row(y)),
-                        reinterpret_cast<uint32_t *>(run.D.row(y)), w, tables);
+        std::vector<quint64> flagged(wide ? size_t(w + 1023) / 1024 : 0);
+        for (int y = first; y < last; ++y) {
+            const auto *in = reinterpret_cast<const uint32_t *>(run.S.row(y));
+            auto *out = reinterpret_cast<uint32_t *>(run.D.row(y));
+            if (!wide) {
+                contrastRow(in, out, w, tables);
+                continue;
+            }
+            std::fill(flagged.begin(), flagged.end(), 0);
+            mapChannelsWideFlagged(run.S.row(y), run.D.row(y), w, clamped.data(),
+                                   outOfRange.data(), UnusedByte::Keep, flagged.data());
+            for (size_t word = 0; word < flagged.size(); ++word)
+                for (quint64 bits = flagged[word]; bits != 0; bits &= bits - 1) {
+                    const int x0 = int(word * 64 + size_t(std::countr_zero(bits))) * 16;
+                    for (int x = x0; x < std::min(w, x0 + 16); ++x) {
+                        const uint32_t p = in[x];
+                        const uint32_t mapped = wb[p & 255] | wg[(p >> 8) & 255] | wr[(p >> 16) & 255];
+                        if (mapped >= BlueOver) out[x] = overDriven(p, mapped, tables);
+                    }
+                }
+        }
     }, 5, 95);
 }
 
