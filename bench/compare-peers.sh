@@ -2,9 +2,12 @@
 # Times five filters side by side with ImageMagick's `convert` (whole process: load, filter,
 # save BMP) and Python's Pillow (the filter alone, in the process), on the same 4096 x 4096
 # picture, and prints the ratios (theirs / ours: above 1 means we are faster); then the plasma
-# against `convert -size 4096x4096 plasma:fractal` (`compare-peers.sh plasma`: that alone).
+# against `convert -size 4096x4096 plasma:fractal` (`compare-peers.sh plasma`: that alone;
+# `compare-peers.sh filters`: the filters alone).
 # Needs a build (default build/; BUILD=folder to change) and, for the columns, `convert`
 # (package imagemagick) and Pillow (package python3-pil); a missing peer is left out.
+# The whole processes run in turns, RUNS rounds (default 9); PICTURE=file.bmp takes that
+# 4096 x 4096 picture instead of making one.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 build=${BUILD:-build}
@@ -25,14 +28,53 @@ have_convert=0
 have_pillow=0
 if "$py" -c 'import PIL' 2>/dev/null; then have_pillow=1; fi
 
-now() { date +%s.%N; }
-seconds() { local t0; t0=$(now); "$@" >/dev/null 2>&1; echo "$(now) - $t0" | bc -l; }
+# Rounds of the side-by-side runs (RUNS=n to change).
+runs=${RUNS:-9}
+
+# The wall time of one run in seconds, from the shell's own clock (no process started to read
+# it, so both programs are timed alike).
+elapsed=0
+# A run that fails ends the comparison with its command: its time would say nothing.
+timeOnce() {
+  local t0=$EPOCHREALTIME
+  if ! "$@" >/dev/null 2>&1; then echo "compare-peers.sh: failed: $*" >&2; exit 1; fi
+  local t1=$EPOCHREALTIME
+  elapsed=$(echo "$t1 - $t0" | bc -l)
+}
+median() { printf '%s\n' "$@" | sort -g | awk '{v[NR] = $1} END {print NR % 2 ? v[(NR + 1) / 2] : (v[NR / 2] + v[NR / 2 + 1]) / 2}'; }
+seconds() { timeOnce "$@"; echo "$elapsed"; }
 # The median of five runs: the machine may be shared, and one slow run says little.
-best() { local ts=(); for _ in 1 2 3 4 5; do ts+=("$(seconds "$@")"); done; printf '%s\n' "${ts[@]}" | sort -g | sed -n 3p; }
+best() { local ts=(); for _ in 1 2 3 4 5; do ts+=("$(seconds "$@")"); done; median "${ts[@]}"; }
+
+# Two programs timed in turns on a machine others share: each round runs both, the one that
+# went second in the last round first, so a load that comes and goes falls on both alike.
+# `side A... -- B...` sets ours and theirs (the medians of A and B) and pairs (the median of
+# the rounds' ratios B / A).
+ours=0 theirs=0 pairs=0
+side() {
+  local a=() b=() ta=() tb=() rs=()
+  while [ "$1" != -- ]; do a+=("$1"); shift; done
+  shift
+  b=("$@")
+  timeOnce "${a[@]}"; timeOnce "${b[@]}" # the files into the page cache, the programs too
+  local k
+  for ((k = 0; k < runs; ++k)); do
+    if ((k % 2 == 0)); then
+      timeOnce "${a[@]}"; ta+=("$elapsed"); timeOnce "${b[@]}"; tb+=("$elapsed")
+    else
+      timeOnce "${b[@]}"; tb+=("$elapsed"); timeOnce "${a[@]}"; ta+=("$elapsed")
+    fi
+    rs+=("$(echo "${tb[$k]} / ${ta[$k]}" | bc -l)")
+  done
+  ours=$(median "${ta[@]}"); theirs=$(median "${tb[@]}"); pairs=$(median "${rs[@]}")
+}
 
 only=${1:-all}
 if [ "$only" != plasma ]; then
 # The test picture: a photo-like 4096 x 4096 from our own filters (a gradient paint blurred).
+if [ -n "${PICTURE:-}" ]; then
+cp "$PICTURE" "$work/in.bmp"
+else
 "$exe" paint Backgroundcolor --size 4096x4096 --seed 1 --back '#808080' -o "$work/flat.bmp" >/dev/null
 "$py" - "$work/in.bmp" <<'PY' 2>/dev/null || cp "$work/flat.bmp" "$work/in.bmp"
 import sys, struct, math
@@ -52,9 +94,13 @@ with open(sys.argv[1], "wb") as f:
     for r in reversed(rows):
         f.write(r)
 PY
+fi
+# The picture on disk before the clocks start: the system writing it out in the background
+# would fall on whichever program runs first.
+sync "$work/in.bmp"
 
 names=(negate greyscale sharpen dilate floyd-steinberg)
-ours=(negative greyscale sharpen dilate floyd-steinberg)
+ours_cmd=(negative greyscale sharpen dilate floyd-steinberg)
 numbers=(2 12 1 25 21)
 magick=("-negate" "-grayscale Average" "-morphology Convolve 3x3:-1,-1,-1,-1,9,-1,-1,-1,-1"
         "-morphology Dilate Square:1" "-dither FloydSteinberg -monochrome")
@@ -75,16 +121,21 @@ if [ -x "$bench" ]; then
 fi
 
 # "files" is the share of our whole process that is not the filter: reading, converting and
-# writing the picture.
-printf '%-16s %10s %10s %7s %6s | %10s %10s %10s %7s %7s\n' filter "ours s" convert ratio files "ours ms" "1 thread" Pillow ratio "ratio 1"
+# writing the picture. "ratio" compares the medians, "rounds" is the median of the rounds'
+# own ratios.
+printf '%-16s %10s %10s %7s %7s %6s | %10s %10s %10s %7s %7s\n' filter "ours s" convert ratio rounds files "ours ms" "1 thread" Pillow ratio "ratio 1"
 for i in "${!names[@]}"; do
-  o=$(best "$exe" filter "${ours[$i]}" "$work/in.bmp" -o "$work/ours.bmp")
-  c=-; cr=-
+  c=-; cr=-; rr=-
   if [ $have_convert = 1 ]; then
     # shellcheck disable=SC2086
-    c=$(best "$convert" "$work/in.bmp" ${magick[$i]} "$work/theirs.bmp")
-    cr=$(printf '%.1f' "$(echo "$c / $o" | bc -l)")
-    c=$(printf '%.3f' "$c")
+    side "$exe" filter "${ours_cmd[$i]}" "$work/in.bmp" -o "$work/ours.bmp" -- \
+         "$convert" "$work/in.bmp" ${magick[$i]} "$work/theirs.bmp"
+    o=$ours
+    cr=$(printf '%.1f' "$(echo "$theirs / $ours" | bc -l)")
+    rr=$(printf '%.1f' "$pairs")
+    c=$(printf '%.3f' "$theirs")
+  else
+    o=$(best "$exe" filter "${ours_cmd[$i]}" "$work/in.bmp" -o "$work/ours.bmp")
   fi
   k=${kernel[${numbers[$i]}]:--}
   k1=${single[${numbers[$i]}]:--}
@@ -108,13 +159,14 @@ PY
   [ "$k1" != - ] && k1=$(printf '%.1f' "$k1")
   files=-
   [ "$k" != - ] && files=$(printf '%.0f%%' "$(echo "100 * ($o - $k / 1000) / $o" | bc -l)")
-  printf '%-16s %10.3f %10s %7s %6s | %10s %10s %10s %7s %7s\n' "${names[$i]}" "$o" "$c" "$cr" "$files" "$k" "$k1" "$p" "$pr" "$pr1"
+  printf '%-16s %10.3f %10s %7s %7s %6s | %10s %10s %10s %7s %7s\n' "${names[$i]}" "$o" "$c" "$cr" "$rr" "$files" "$k" "$k1" "$p" "$pr" "$pr1"
 done
 fi
 
 # The plasma at 4096 x 4096 beside ImageMagick's `convert -size 4096x4096 plasma:fractal`:
 # whole processes writing a BMP each (median of five), and our fill with its colours in the
 # process (the benchmark's median).
+[ "$only" = filters ] && exit 0
 echo
 if [ $have_convert = 1 ]; then
   o=$(best "$exe" paint Plasma --size 4096x4096 --seed 1 -o "$work/plasma.bmp")

@@ -66,6 +66,25 @@ void kernel(benchmark::State &state, const FilterRow *row)
     }
 }
 
+// Contrast at factor 50 (1.5 times the distance from the mean grey): on the photo most
+// pixels have a channel driven out of range and take the hue-keeping rule, the slow path that
+// the default factor never reaches.
+void contrastDriven(benchmark::State &state)
+{
+    Session s;
+    s.filters().threads = int(state.range(0));
+    const FilterRow *row = findFilter(17);
+    FilterWorkspace ws(photo(), row->reads);
+    FilterArgs args = argumentsFor(*row);
+    args.argument = args.sliders[0] = 50;
+    for (auto _ : state) {
+        FilterRun run(ws.D(), ws.S(), args, s);
+        row->kernel(run);
+        benchmark::DoNotOptimize(ws.result().constBits());
+    }
+}
+BENCHMARK(contrastDriven)->ArgName("threads")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond)->UseRealTime();
+
 void whole(benchmark::State &state, const FilterRow *row)
 {
     Session s;

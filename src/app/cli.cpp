@@ -9,8 +9,8 @@
 #include <QString>
 #include <QStringList>
 #include <cstdio>
-#include <functional>
-#include <map>
+#include <cstring>
+#include <memory>
 
 namespace tf::cli {
 
@@ -145,20 +145,52 @@ bool wantsCommandLine(int argc, char **argv)
 
 int run(int argc, char **argv)
 {
-    // The engine draws text and pictures through Qt's painter, which needs a GUI application;
-    // the command line needs no screen.
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The commands and the application each needs. Only what lays out text (the text types
+    // of paint, and so animate and gallery) needs Qt's GUI application with its platform and
+    // fonts; the others start a core application, which spares every filter and transform
+    // the platform plugin and the font configuration that the GUI application reads even to
+    // close it.
+    struct Command {
+        const char *name;
+        int (*run)(const QStringList &);
+        bool needsFonts;
+    };
+    static constexpr Command commands[] = {
+        {"paint", runPaint, true},
+        {"animate", runAnimate, true},
+        {"gallery", runGallery, true},
+        {"types", runTypes, false},
+        {"controls", runControls, false},
+        {"filters", runFilters, false},
+        {"filter", runFilter, false},
+        {"recipe", runRecipe, false},
+        {"transform", runTransform, false},
+        {"passepartouts", runPassepartouts, false},
+        {"passepartout", runPassepartout, false},
+    };
+    const Command *chosen = nullptr;
+    for (const Command &c : commands)
+        if (argc > 1 && std::strcmp(argv[1], c.name) == 0) chosen = &c;
+
     // Stderr carries the command's own messages; Qt's notes about the desktop it runs without
     // (no runtime folder, no screen) are no news to a script.
     qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &msg) {
         if (type == QtCriticalMsg || type == QtFatalMsg)
             std::fprintf(stderr, "%s\n", msg.toLocal8Bit().constData());
     });
-    QGuiApplication app(argc, argv);
-    QGuiApplication::setApplicationName(QStringLiteral("tarvelle-forge"));
-    QGuiApplication::setApplicationVersion(QStringLiteral(TF_VERSION));
+    std::unique_ptr<QCoreApplication> app;
+    if (chosen && chosen->needsFonts) {
+        // Text is drawn through Qt's painter and font database, which need a GUI application;
+        // the command line needs no screen.
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+        app = std::make_unique<QGuiApplication>(argc, argv);
+    } else {
+        app = std::make_unique<QCoreApplication>(argc, argv);
+    }
+    QCoreApplication::setApplicationName(QStringLiteral("tarvelle-forge"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(TF_VERSION));
 
-    const QStringList all = app.arguments().mid(1);
+    const QStringList all = QCoreApplication::arguments().mid(1);
     const QString command = all.value(0);
     if (command == QLatin1String("-h") || command == QLatin1String("--help") ||
         command == QLatin1String("help")) {
@@ -169,28 +201,13 @@ int run(int argc, char **argv)
         print(stdout, QStringLiteral("tarvelle-forge %1\n").arg(QStringLiteral(TF_VERSION)));
         return ExitOk;
     }
-
-    static const std::map<QString, std::function<int(const QStringList &)>> commands = {
-        {QStringLiteral("paint"), runPaint},
-        {QStringLiteral("animate"), runAnimate},
-        {QStringLiteral("types"), runTypes},
-        {QStringLiteral("controls"), runControls},
-        {QStringLiteral("filters"), runFilters},
-        {QStringLiteral("filter"), runFilter},
-        {QStringLiteral("recipe"), runRecipe},
-        {QStringLiteral("gallery"), runGallery},
-        {QStringLiteral("transform"), runTransform},
-        {QStringLiteral("passepartouts"), runPassepartouts},
-        {QStringLiteral("passepartout"), runPassepartout},
-    };
-    const auto it = commands.find(command);
-    if (it == commands.end()) {
+    if (!chosen) {
         print(stderr, QStringLiteral("tarvelle-forge: unknown command \"%1\"\n\n").arg(command));
         print(stderr, QString::fromLatin1(usage));
         return ExitUsage;
     }
     try {
-        return it->second(takeLanguage(all.mid(1)));
+        return chosen->run(takeLanguage(all.mid(1)));
     } catch (const UsageError &e) {
         printError(e.message);
         return ExitUsage;

@@ -1,6 +1,9 @@
 #include "core/bmpstream.h"
 
+#include "core/largeimage.h"
 #include "core/parallel.h"
+#include "core/pixelrows.h"
+#include "core/vectorloops.h"
 
 #include <QIODevice>
 #include <QtEndian>
@@ -10,6 +13,25 @@
 #include <vector>
 
 namespace tf {
+
+namespace {
+
+// A picture's row of `bytesPerPixel`-byte pixels (blue, green, red first) as a file's row of
+// three bytes a pixel.
+void fileRowOf(const uchar *src, int bytesPerPixel, uchar *dst, int w)
+{
+    if (bytesPerPixel == 4) {
+        rowOf32To24(src, dst, w);
+        return;
+    }
+    for (int x = 0; x < w; ++x, src += bytesPerPixel, dst += 3) {
+        dst[0] = src[0];
+        dst[1] = src[1];
+        dst[2] = src[2];
+    }
+}
+
+} // namespace
 
 bool writeBmp24(const EncodeRows &rows, QIODevice &out, int dotsPerMetre)
 {
@@ -47,21 +69,16 @@ bool writeBmp24(const EncodeRows &rows, QIODevice &out, int dotsPerMetre)
         }
         return true;
     }
-    // Larger batches here: their rows are converted on every core.
-    const int convertRows = batchRows * 8;
+    // Larger batches here: their rows are converted on every core. A small picture takes a
+    // batch of its own size, not one of a large picture's.
+    const int convertRows = int(std::min<qint64>(qint64(batchRows) * 8, h));
     std::vector<uchar> batch(size_t(rowSize) * size_t(convertRows), 0);
     for (int top = h - 1; top >= 0; top -= convertRows) {
         const int n = std::min(convertRows, top + 1);
         parallelRows(n, w, [&](int first, int last) {
-            for (int k = first; k < last; ++k) {
-                const uchar *src = rows.row(top - k);
-                uchar *dst = batch.data() + size_t(k) * size_t(rowSize);
-                for (int x = 0; x < w; ++x, src += rows.bytesPerPixel, dst += 3) {
-                    dst[0] = src[0];
-                    dst[1] = src[1];
-                    dst[2] = src[2];
-                }
-            }
+            for (int k = first; k < last; ++k)
+                fileRowOf(rows.row(top - k), rows.bytesPerPixel,
+                          batch.data() + size_t(k) * size_t(rowSize), w);
         });
         const qint64 bytes = rowSize * n;
         if (out.write(reinterpret_cast<const char *>(batch.data()), bytes) != bytes)
@@ -112,13 +129,25 @@ bool plainBmp(QByteArrayView b, qint64 fileSize, PlainBmp &bmp)
     return offBits >= 14 + headerSize && qint64(offBits) + bmp.rowSize * bmp.height <= fileSize;
 }
 
-// One row of the file into picture row y.
-void convertRow(const PlainBmp &bmp, const uchar *src, QImage &image, int fileRow)
+// A file's row of 4-byte pixels as a picture's row (the unused byte 0xFF), in vector code.
+TF_VECTOR_LOOP void pictureRowOf32(const uchar *__restrict src, quint32 *__restrict dst, int w)
+{
+    for (int x = 0; x < w; ++x)
+        dst[x] = 0xFF000000u | quint32(src[4 * x + 2]) << 16 | quint32(src[4 * x + 1]) << 8 |
+                 src[4 * x];
+}
+
+// One row of the file into picture row y of the picture's bytes `bits` (bytesPerLine apart;
+// taken once, as a row pointer of a QImage would be on every thread).
+void convertRow(const PlainBmp &bmp, const uchar *src, uchar *bits, qsizetype bytesPerLine,
+                int fileRow)
 {
     const int y = bmp.topDown ? fileRow : bmp.height - 1 - fileRow;
-    auto *dst = reinterpret_cast<QRgb *>(image.scanLine(y));
-    for (int x = 0; x < bmp.width; ++x, src += bmp.bytesPerPixel)
-        dst[x] = 0xFF000000u | uint(src[2]) << 16 | uint(src[1]) << 8 | src[0];
+    auto *dst = reinterpret_cast<quint32 *>(bits + bytesPerLine * y);
+    if (bmp.bytesPerPixel == 3)
+        rowOf24To32(src, dst, bmp.width);
+    else
+        pictureRowOf32(src, dst, bmp.width);
 }
 
 } // namespace
@@ -134,13 +163,15 @@ QImage readPlainBmp(QByteArrayView bytes)
     PlainBmp bmp;
     if (!plainBmp(bytes, bytes.size(), bmp))
         return {};
-    QImage image(bmp.width, bmp.height, QImage::Format_RGB32);
+    QImage image = largeImage(bmp.width, bmp.height, QImage::Format_RGB32);
     if (image.isNull())
         return {};
     const auto *pixels = reinterpret_cast<const uchar *>(bytes.data()) + bmp.offBits;
+    uchar *bits = image.bits();
+    const qsizetype bytesPerLine = image.bytesPerLine();
     parallelRows(bmp.height, bmp.width, [&](int first, int last) {
         for (int r = first; r < last; ++r)
-            convertRow(bmp, pixels + bmp.rowSize * r, image, r);
+            convertRow(bmp, pixels + bmp.rowSize * r, bits, bytesPerLine, r);
     });
     return image;
 }
@@ -151,7 +182,7 @@ QImage readPlainBmp(QIODevice &in)
     const QByteArray head = in.peek(54);
     if (!plainBmp(head, in.size(), bmp) || !in.seek(bmp.offBits))
         return {};
-    QImage image(bmp.width, bmp.height, QImage::Format_RGB32);
+    QImage image = largeImage(bmp.width, bmp.height, QImage::Format_RGB32);
     if (image.isNull())
         return {};
     // Rows come in batches of about a megabyte straight into the picture.
@@ -164,7 +195,7 @@ QImage readPlainBmp(QIODevice &in)
             return {};
         for (int k = 0; k < n; ++k)
             convertRow(bmp, reinterpret_cast<const uchar *>(batch.data()) + bmp.rowSize * k,
-                       image, r + k);
+                       image.bits(), image.bytesPerLine(), r + k);
     }
     return image;
 }

@@ -1,5 +1,8 @@
 #include "filters/filterrun.h"
 
+#include "core/fault.h"
+#include "core/largeimage.h"
+
 #include "paint/session.h"
 
 #include <cstring>
@@ -44,13 +47,27 @@ void FilterRun::step(void (*kernel)(FilterRun &), int32_t argument)
     kernel(sub);
 }
 
+namespace {
+
+// Gives `image` bytes of its own when it shares them, on memory for large pictures
+// (largeimage.h): a filter's copy of a large picture is filled once, row after row.
+void ownBytes(QImage &image)
+{
+    if (image.isDetached()) return;
+    QImage own = largeCopy(image);
+    if (own.isNull()) throw Fault(Fault::OutOfMemory);
+    image = std::move(own);
+}
+
+} // namespace
+
 FilterWorkspace::FilterWorkspace(const QImage &picture, Reads reads)
     : m_dst(picture.convertToFormat(QImage::Format_RGB32)), m_reads(reads)
 {
     if (reads != Reads::Dst) m_src = m_dst; // a share of the picture's bytes
     // D is a deep copy: the picture stays as it is until the result is written back.
-    m_dst.detach();
-    if (reads == Reads::Steps) m_src.detach();
+    ownBytes(m_dst);
+    if (reads == Reads::Steps) ownBytes(m_src);
 }
 
 FilterWorkspace::FilterWorkspace(QImage &&picture, Reads reads) : m_reads(reads)
@@ -60,7 +77,7 @@ FilterWorkspace::FilterWorkspace(QImage &&picture, Reads reads) : m_reads(reads)
         return;
     }
     m_dst = std::move(picture);
-    m_dst.detach(); // a copy only when someone else still holds the bytes
+    ownBytes(m_dst); // a copy only when someone else still holds the bytes
 }
 
 PixelPlane FilterWorkspace::S()

@@ -15,6 +15,7 @@
 #include "core/numeric.h"
 #include "core/parallel.h"
 #include "filters/filterargs.h"
+#include "core/vectorloops.h"
 #include "filters/filtertable.h"
 
 #include <QImage>
@@ -22,13 +23,6 @@
 #include <array>
 #include <cstdint>
 
-// Marks a pixel loop for a second copy in the wider vector instructions of the processors
-// that have them; the program picks the copy once at start.
-#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__) && defined(__linux__)
-#define TF_VECTOR_CLONES __attribute__((target_clones("avx2", "default")))
-#else
-#define TF_VECTOR_CLONES
-#endif
 
 namespace tf {
 

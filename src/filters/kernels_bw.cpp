@@ -182,19 +182,33 @@ template <const auto &matrix, int divisor> void diffuseError(FilterRun &run)
 
 } // namespace
 
+namespace {
+
+// One row of black and white by value: white where any channel reaches its part of the colour,
+// without a branch, eight pixels at a time in vector code; the unused byte is the picture's
+// (the destination starts as its copy).
+TF_VECTOR_LOOP void bwValueRow(const uint32_t *__restrict in, uint32_t *__restrict out, int n,
+                               int kr, int kg, int kb)
+{
+    for (int x = 0; x < n; ++x) {
+        const uint32_t p = in[x];
+        const bool white = (int((p >> 16) & 255) >= kr) | (int((p >> 8) & 255) >= kg) |
+                           (int(p & 255) >= kb);
+        out[x] = (p & 0xFF000000u) | (white ? 0xFFFFFFu : 0u);
+    }
+}
+
+} // namespace
+
 void filterBWValue(FilterRun &run)
 {
     const ColorLong k = run.args.argument;
     const int kr = RedOf(k), kg = GreenOf(k), kb = BlueOf(k);
     const int w = run.width();
     run.rows([&](int first, int last) {
-        const int width = w;
-        for (int y = first; y < last; ++y) {
-            const uint8_t *in = run.S.row(y);
-            uint8_t *out = run.D.row(y);
-            for (int x = 0; x < width * 4; x += 4)
-                setBW(out + x, in[x + 2] >= kr || in[x + 1] >= kg || in[x] >= kb);
-        }
+        for (int y = first; y < last; ++y)
+            bwValueRow(reinterpret_cast<const uint32_t *>(run.S.row(y)),
+                       reinterpret_cast<uint32_t *>(run.D.row(y)), w, kr, kg, kb);
     });
 }
 

@@ -1,7 +1,11 @@
 // The exact rules of the pixel filters on small pictures with known pixels.
 #include "filters/dografic.h"
+#include "filters/filterrun.h"
 #include "filters/filtertable.h"
 #include "filterpictures.h"
+
+#include <gtest/gtest.h>
+#include <algorithm>
 
 using namespace tf;
 using namespace filtertest;
@@ -140,6 +144,54 @@ TEST_F(PixelFilters, ContrastSharesTheOverflowOfTheFirstChannelOutOfRange)
     EXPECT_EQ(rgb(out, 1, 0), (std::array<int, 3>{0, 0, 0}));
 }
 
+TEST_F(PixelFilters, ContrastTablesGiveTheRuleOnEveryPixel)
+{
+    // Varied colours over- and under-drive every channel in every order; each pixel is
+    // compared with the rule worked out pixel by pixel: the mean grey m of (b+g+r)\3 over the
+    // picture, t(v) = Round(f * (v - m) + m), and the overflow of the first channel out of
+    // range (blue, green, red) shared half and half by the other two.
+    const QImage img = noisy(61, 37);
+    int64_t greys = 0;
+    for (int y = 0; y < img.height(); ++y)
+        for (int x = 0; x < img.width(); ++x) {
+            const auto c = rgb(img, x, y);
+            greys += (c[0] + c[1] + c[2]) / 3;
+        }
+    const int m = int(roundHalfEven(double(greys) / (img.width() * img.height())));
+    for (int factor : {-100, -40, 35, 100, 300}) {
+        const double f = (factor + 100) / 100.0;
+        const QImage out = run(17, img, factor);
+        int overDriven = 0;
+        for (int y = 0; y < img.height(); ++y)
+            for (int x = 0; x < img.width(); ++x) {
+                const auto c = rgb(img, x, y);
+                int v[3] = {c[2], c[1], c[0]}; // blue, green, red
+                for (int &ch : v)
+                    ch = roundInt(f * (ch - m) + m);
+                const auto in = [](int ch) { return ch >= 0 && ch <= 255; };
+                if (!in(v[0]) || !in(v[1]) || !in(v[2])) {
+                    ++overDriven;
+                    const bool low = v[0] < 0 && v[1] < 0 && v[2] < 0;
+                    const bool high = v[0] > 255 && v[1] > 255 && v[2] > 255;
+                    if (!low && !high) {
+                        const int k = !in(v[0]) ? 0 : !in(v[1]) ? 1 : 2;
+                        const int share = v[k] < 0 ? v[k] / 2 : (v[k] - 255) / 2;
+                        v[k] = v[k] < 0 ? 0 : 255;
+                        for (int o = 0; o < 3; ++o)
+                            if (o != k) v[o] += share;
+                    }
+                }
+                const std::array<int, 3> expected = {std::clamp(v[2], 0, 255), std::clamp(v[1], 0, 255),
+                                                     std::clamp(v[0], 0, 255)};
+                ASSERT_EQ(rgb(out, x, y), expected) << "factor " << factor << " at " << x << "," << y;
+                ASSERT_EQ(qAlpha(out.pixel(x, y)), 255);
+            }
+        if (factor > 0) {
+            EXPECT_GT(overDriven, 100) << factor;
+        }
+    }
+}
+
 TEST_F(PixelFilters, MosaicDilateErodeAndDespeckle)
 {
     const QImage img = picture(3, 1, {RGB(10, 0, 0), RGB(20, 0, 0), RGB(90, 0, 0)});
@@ -228,6 +280,25 @@ TEST_F(PixelFilters, StretchSpreadsEachChannelOverTheWholeRange)
     EXPECT_EQ(rgb(out, 0, 0), (std::array<int, 3>{0, 0, 0}));
     EXPECT_EQ(rgb(out, 1, 0), (std::array<int, 3>{128, 128, 128})); // 127.5 -> 128
     EXPECT_EQ(rgb(out, 2, 0), (std::array<int, 3>{255, 255, 255}));
+}
+
+TEST_F(PixelFilters, StretchFindsEachChannelsRangeAnywhereInTheRow)
+{
+    // Nine pixels: the first eight are searched four at a time, the ninth alone. Red's range
+    // is 40..90 (pixels 8 and 1), green's 60..110 (pixels 6 and 8), blue's 20..220 (pixels 3
+    // and 0).
+    QImage img = flat(9, 1, RGB(70, 80, 120));
+    img.setPixel(0, 0, qRgb(70, 80, 220));
+    img.setPixel(1, 0, qRgb(90, 80, 120));
+    img.setPixel(3, 0, qRgb(70, 80, 20));
+    img.setPixel(6, 0, qRgb(70, 60, 120));
+    img.setPixel(8, 0, qRgb(40, 110, 120));
+    const QImage out = run(28, img);
+    EXPECT_EQ(rgb(out, 8, 0), (std::array<int, 3>{0, 255, 128})); // blue (120-20)*255/200 = 127.5
+    EXPECT_EQ(rgb(out, 1, 0), (std::array<int, 3>{255, 102, 128}));
+    EXPECT_EQ(rgb(out, 0, 0)[2], 255);
+    EXPECT_EQ(rgb(out, 3, 0)[2], 0);
+    EXPECT_EQ(rgb(out, 6, 0)[1], 0);
 }
 
 namespace {
