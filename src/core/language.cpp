@@ -1,6 +1,7 @@
 #include "core/language.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 #include <memory>
@@ -10,6 +11,24 @@ namespace tf {
 namespace {
 Language g_language = Language::German;
 std::unique_ptr<QTranslator> g_translator;
+// Qt's own texts (the buttons and labels of its file and colour dialogs, its message box
+// buttons) in German; English needs none.
+std::unique_ptr<QTranslator> g_qtTranslator;
+
+void setQtLanguage(Language lang)
+{
+    if (g_qtTranslator) {
+        QCoreApplication::removeTranslator(g_qtTranslator.get());
+        g_qtTranslator.reset();
+    }
+    if (lang != Language::German) return;
+    auto translator = std::make_unique<QTranslator>();
+    if (!translator->load(QStringLiteral("qtbase_de"),
+                          QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        return; // without the catalogue Qt's dialogs speak English; nothing else changes
+    g_qtTranslator = std::move(translator);
+    QCoreApplication::installTranslator(g_qtTranslator.get());
+}
 } // namespace
 
 Language currentLanguage() { return g_language; }
@@ -25,6 +44,7 @@ bool setLanguage(Language lang)
         QCoreApplication::removeTranslator(g_translator.get());
     g_translator = std::move(translator);
     QCoreApplication::installTranslator(g_translator.get());
+    setQtLanguage(lang);
     g_language = lang;
     return true;
 }

@@ -78,10 +78,14 @@ TEST(Translations, EveryTextOfTheCodeIsTranslatedInBothCatalogues)
     }
 }
 
-TEST(Translations, BothCataloguesLoad)
+// Qt's own dialogs (file, colour, message box buttons) follow the program's language.
+TEST(Translations, BothCataloguesLoadAndQtsOwnTextsFollow)
 {
+    const auto lookIn = [] { return QCoreApplication::translate("QFileDialog", "Look in:"); };
     EXPECT_TRUE(tf::setLanguage(tf::Language::English));
     EXPECT_EQ(tf::currentLanguage(), tf::Language::English);
+    EXPECT_EQ(lookIn(), QStringLiteral("Look in:"));
     EXPECT_TRUE(tf::setLanguage(tf::Language::German));
     EXPECT_EQ(tf::currentLanguage(), tf::Language::German);
+    EXPECT_EQ(lookIn(), QStringLiteral("Suchen in:"));
 }
