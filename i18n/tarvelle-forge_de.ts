@@ -225,6 +225,10 @@
         <source>Zu wenig Speicher für die Animation.</source>
         <translation>Zu wenig Speicher für die Animation.</translation>
     </message>
+    <message>
+        <source>Die Option --source gilt nur für Typen mit Fotos, nicht für %1.</source>
+        <translation>Die Option --source gilt nur für Typen mit Fotos, nicht für %1.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>

@@ -226,6 +226,10 @@
         <source>Zu wenig Speicher für die Animation.</source>
         <translation>Not enough memory for the animation.</translation>
     </message>
+    <message>
+        <source>Die Option --source gilt nur für Typen mit Fotos, nicht für %1.</source>
+        <translation>The option --source is only for types with photos, not for %1.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>

@@ -67,6 +67,41 @@ int32_t rounded(double x)
     return CLng(x);
 }
 
+// Makes sure the list holds the directory of `o` (scanned once per change) and says why not.
+bool scanDirectory(Session &s, const PicMosaikOptions &o)
+{
+    PicSourceList &l = s.picSources();
+    l.FromFile = false;
+    const QString dir = o.source;
+    if (dir.isEmpty() || !QFileInfo(dir).isDir()) {
+        s.ask(mosaiktext::chooseADirectoryFirst(), Buttons::Ok, Icon::Exclamation);
+        return false;
+    }
+    if (!l.holds(dir, o.subDirs)) {
+        l.clear();
+        s.status().setPanelText(sbrState, mosaiktext::scanning(dir));
+        int32_t count = 0;
+        SessionYield yield(s);
+        xLib_DirRekurs(l.ListPicDir, dir, QStringLiteral("*.*"), o.subDirs, true, count, &yield);
+        if (s.paint().StopPaint) {
+            l.clear();
+            return false;
+        }
+        l.PicCount = count;
+        l.LastSource = dir;
+        l.LastRecurse = o.subDirs;
+        l.ListValid = count > 0;
+    }
+    if (l.PicCount <= 0) {
+        l.clear();
+        s.ask(mosaiktext::noValidPictures(dir), Buttons::Ok, Icon::Exclamation);
+        return false;
+    }
+    s.status().setPanelText(sbrState, mosaiktext::pictureCount(l.PicCount));
+    l.resetUsed();
+    return true;
+}
+
 } // namespace
 
 struct PicMosaikRun::Impl {
@@ -131,35 +166,9 @@ struct PicMosaikRun::Impl {
             wholeStored = r.stored;
             return true;
         }
-        const QString dir = o.source;
-        if (dir.isEmpty() || !QFileInfo(dir).isDir()) {
-            s.ask(mosaiktext::chooseADirectoryFirst(), Buttons::Ok, Icon::Exclamation);
+        if (!scanDirectory(s, o))
             return false;
-        }
-        if (!l.holds(dir, o.subDirs)) {
-            l.clear();
-            s.status().setPanelText(sbrState, mosaiktext::scanning(dir));
-            int32_t count = 0;
-            SessionYield yield(s);
-            xLib_DirRekurs(l.ListPicDir, dir, QStringLiteral("*.*"), o.subDirs, true, count,
-                           &yield);
-            if (s.paint().StopPaint) {
-                l.clear();
-                return false;
-            }
-            l.PicCount = count;
-            l.LastSource = dir;
-            l.LastRecurse = o.subDirs;
-            l.ListValid = count > 0;
-            sizes.clear();
-        }
-        if (l.PicCount <= 0) {
-            l.clear();
-            s.ask(mosaiktext::noValidPictures(dir), Buttons::Ok, Icon::Exclamation);
-            return false;
-        }
-        s.status().setPanelText(sbrState, mosaiktext::pictureCount(l.PicCount));
-        l.resetUsed();
+        sizes.clear();
         return true;
     }
 
@@ -887,6 +896,22 @@ QSize PicMosaikRun::maxHitSize() const
 QString PicMosaikRun::maxSizesText() const
 {
     return mosaiktext::maxSizes(d->maxSplit, d->maxHit);
+}
+
+bool picSourceReady(Session &s)
+{
+    const PicMosaikOptions o = readPicMosaikOptions(s, false);
+    if (!o.fromFile)
+        return scanDirectory(s, o);
+    s.picSources().FromFile = true;
+    const QSize size = o.source.isEmpty() ? QSize() : photoFileSize(o.source);
+    if (!size.isValid() || size.isEmpty()) {
+        if (!o.source.isEmpty())
+            s.status().setPanelText(sbrState, invalidPictureText(o.source));
+        s.ask(mosaiktext::chooseAPictureFirst(), Buttons::Ok, Icon::Exclamation);
+        return false;
+    }
+    return true;
 }
 
 } // namespace tf
