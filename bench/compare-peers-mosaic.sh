@@ -52,7 +52,7 @@ first=$(find "$photos" -name '*.jpg' | sort | head -1)
 "$exe" transform size 2000x1250 "$first" -o "$work/in.png" >/dev/null 2>&1 ||
   "$exe" paint Backgroundcolor --size 2000x1250 --seed 1 -o "$work/in.png" >/dev/null
 theirs_prepare() { rm -rf "$work/lib"; mkdir -p "$work/lib"; metapixel-prepare -r --width=50 --height=50 "$photos" "$work/lib"; }
-theirs_mosaic() { metapixel --width=50 --height=50 --library "$work/lib" --metapixel "$work/in.png" "$work/theirs.png"; }
+theirs_mosaic() { metapixel --width=50 --height=50 --distance=0 --library "$work/lib" --metapixel "$work/in.png" "$work/theirs.png"; }
 prepare=$(median3 theirs_prepare)
 theirs_prepare >/dev/null 2>&1
 mosaic=$(median3 theirs_mosaic)
