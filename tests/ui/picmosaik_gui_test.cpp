@@ -70,6 +70,7 @@ TEST_F(PicMosaikWindowTest, PaintsAMosaicOfThePhotosAndRepaintsItsFrames)
     const QImage first = s.workspace().Bild.Image();
     auto *options = window->findChild<ui::FeatDialogDock *>();
     options->raise();
+    window->resize(1550, 1000);
     screenshot(*window, "picmosaik-window");
 
     auto *repaint = window->findChild<QPushButton *>(QStringLiteral("BtnPicMosaik_Repaint"));
