@@ -359,3 +359,27 @@ TEST_F(PicMosaikTest, TheSuperformatAsksAboutLargeFramesAndLargeSizesAndHoldsThe
     EXPECT_EQ(lastPrompt(), QStringLiteral("Memory problem creating Superimage!"));
     s.superformat().setAllocator(nullptr);
 }
+
+TEST_F(PicMosaikTest, OnlyBorderPicturesLeaveTheInnerFrameAndOnlyCentrePicturesTheOthers)
+{
+    photo("a.png", 120, 120, QColor(200, 0, 0));
+    set("XPicMosaik_Duplikate", "1");
+    set("txtPMKachel", "3", 0);
+    set("txtPMKachel", "3", 1);
+    set("cmbPicMosaik_Options", "8");
+    ASSERT_EQ(paint("PIC-Mosaik"), PaintOutcome::Painted);
+    std::vector<MondrianFrame> fs = frames();
+    ASSERT_EQ(fs.size(), 9u);
+    for (const MondrianFrame &f : fs) {
+        const bool inner = f.left > 0 && f.top > 0 && f.right < 200 && f.bottom < 200;
+        EXPECT_EQ(at(centre(f).x(), centre(f).y()), inner ? Ground : rgbLong(200, 0, 0));
+    }
+    set("cmbPicMosaik_Options", "9");
+    ground(Ground); // the last paint became the picture a paint clears back to
+    ASSERT_EQ(paint("PIC-Mosaik"), PaintOutcome::Painted);
+    fs = frames();
+    for (const MondrianFrame &f : fs) {
+        const bool inner = f.left > 0 && f.top > 0 && f.right < 200 && f.bottom < 200;
+        EXPECT_EQ(at(centre(f).x(), centre(f).y()), inner ? rgbLong(200, 0, 0) : Ground);
+    }
+}
