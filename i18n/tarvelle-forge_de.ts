@@ -225,6 +225,10 @@
         <source>Zu wenig Speicher für die Animation.</source>
         <translation>Zu wenig Speicher für die Animation.</translation>
     </message>
+    <message>
+        <source>Die Option --source gilt nur für Typen mit Fotos, nicht für %1.</source>
+        <translation>Die Option --source gilt nur für Typen mit Fotos, nicht für %1.</translation>
+    </message>
 </context>
 <context>
     <name>ControlLinks</name>
@@ -1279,6 +1283,138 @@
         <source>Neue Werte</source>
         <translation>Neue Werte</translation>
     </message>
+    <message>
+        <source>Fotomosaik</source>
+        <translation>Fotomosaik</translation>
+    </message>
+    <message>
+        <source>H. symmetrisch</source>
+        <translation>H. symmetrisch</translation>
+    </message>
+    <message>
+        <source>V. symmetrisch</source>
+        <translation>V. symmetrisch</translation>
+    </message>
+    <message>
+        <source> Quelle </source>
+        <translation> Quelle </translation>
+    </message>
+    <message>
+        <source>Datei</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Dateiverzeichnis</source>
+        <translation>Dateiverzeichnis</translation>
+    </message>
+    <message>
+        <source>Dupl.</source>
+        <translation>Dupl.</translation>
+    </message>
+    <message>
+        <source>Unterverzeichnisse</source>
+        <translation>Unterverzeichnisse</translation>
+    </message>
+    <message>
+        <source>Bild-Mix</source>
+        <translation>Bild-Mix</translation>
+    </message>
+    <message>
+        <source>Kleine Bilder zulassen</source>
+        <translation>Kleine Bilder zulassen</translation>
+    </message>
+    <message>
+        <source>Kleine Bilder kacheln</source>
+        <translation>Kleine Bilder kacheln</translation>
+    </message>
+    <message>
+        <source>Bilder verkleinern</source>
+        <translation>Bilder verkleinern</translation>
+    </message>
+    <message>
+        <source>Bilder zentrieren</source>
+        <translation>Bilder zentrieren</translation>
+    </message>
+    <message>
+        <source>Kolorieren</source>
+        <translation>Kolorieren</translation>
+    </message>
+    <message>
+        <source>Farbton</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>Monochrome</source>
+        <translation>Monochrome</translation>
+    </message>
+    <message>
+        <source>Saturationstart</source>
+        <translation>Saturationstart</translation>
+    </message>
+    <message>
+        <source>Saturationrange</source>
+        <translation>Saturationrange</translation>
+    </message>
+    <message>
+        <source>Graustufen</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>Alle Rahmen füllen</source>
+        <translation>Alle Rahmen füllen</translation>
+    </message>
+    <message>
+        <source>Nur freie Rahmen füllen</source>
+        <translation>Nur freie Rahmen füllen</translation>
+    </message>
+    <message>
+        <source>Dateinamen anzeigen</source>
+        <translation>Dateinamen anzeigen</translation>
+    </message>
+    <message>
+        <source>Timer (s)</source>
+        <translation>Timer (s)</translation>
+    </message>
+    <message>
+        <source>Opt.</source>
+        <translation>Opt.</translation>
+    </message>
+    <message>
+        <source>Blur kleine</source>
+        <translation>Blur kleine</translation>
+    </message>
+    <message>
+        <source>Blur große</source>
+        <translation>Blur große</translation>
+    </message>
+    <message>
+        <source>Blur große (stark)</source>
+        <translation>Blur große (stark)</translation>
+    </message>
+    <message>
+        <source>Blur zufällig</source>
+        <translation>Blur zufällig</translation>
+    </message>
+    <message>
+        <source>Blur alle</source>
+        <translation>Blur alle</translation>
+    </message>
+    <message>
+        <source>Kolorieren zufällig</source>
+        <translation>Kolorieren zufällig</translation>
+    </message>
+    <message>
+        <source>Graustufen zufällig</source>
+        <translation>Graustufen zufällig</translation>
+    </message>
+    <message>
+        <source>Nur Randbilder</source>
+        <translation>Nur Randbilder</translation>
+    </message>
+    <message>
+        <source>Nur Innenbilder</source>
+        <translation>Nur Innenbilder</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -1468,6 +1604,101 @@
     <message>
         <source>Die Datei %1 kann nicht gelesen werden: %2</source>
         <translation>Die Datei %1 kann nicht gelesen werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PicMosaik</name>
+    <message>
+        <source>Ungültiges Bild </source>
+        <translation>Ungültiges Bild </translation>
+    </message>
+    <message>
+        <source>Verwenden Sie bitte den [...]-Befehl.</source>
+        <translation>Verwenden Sie bitte den [...]-Befehl.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie bitte zuerst ein Bild aus!</source>
+        <translation>Wählen Sie bitte zuerst ein Bild aus!</translation>
+    </message>
+    <message>
+        <source>Stellen Sie bitte zuerst ein Bildverzeichnis ein!</source>
+        <translation>Stellen Sie bitte zuerst ein Bildverzeichnis ein!</translation>
+    </message>
+    <message>
+        <source>Kann keine gültigen Bilder finden in </source>
+        <translation>Kann keine gültigen Bilder finden in </translation>
+    </message>
+    <message>
+        <source> pictures</source>
+        <translation> pictures</translation>
+    </message>
+    <message>
+        <source>Suche Bilder in </source>
+        <translation>Suche Bilder in </translation>
+    </message>
+    <message>
+        <source>Anzahl Bilder </source>
+        <translation>Anzahl Bilder </translation>
+    </message>
+    <message>
+        <source> in Verzeichnisauswahl kleiner als Anzahl Rahmen </source>
+        <translation> in Verzeichnisauswahl kleiner als Anzahl Rahmen </translation>
+    </message>
+    <message>
+        <source>. Reduzieren Sie die Splitanzahl oder verwenden Sie die Option [X] Duplikate zulassen!</source>
+        <translation>. Reduzieren Sie die Splitanzahl oder verwenden Sie die Option [X] Duplikate zulassen!</translation>
+    </message>
+    <message>
+        <source>Zu wenig Bilder in </source>
+        <translation>Zu wenig Bilder in </translation>
+    </message>
+    <message>
+        <source> um ohne Duplikate zu arbeiten. Reduzieren Sie bitte die Anzahl der Splits.</source>
+        <translation> um ohne Duplikate zu arbeiten. Reduzieren Sie bitte die Anzahl der Splits.</translation>
+    </message>
+    <message>
+        <source>Die Bilder in </source>
+        <translation>Die Bilder in </translation>
+    </message>
+    <message>
+        <source> sind zu klein für den aktuellen Ausschnitt! Verwenden Sie die Option: Kleine Bilder zulassen.</source>
+        <translation> sind zu klein für den aktuellen Ausschnitt! Verwenden Sie die Option: Kleine Bilder zulassen.</translation>
+    </message>
+    <message>
+        <source>Das geladene Bild ist zu klein für den aktuellen Ausschnitt! Verwenden Sie die Option: Kleine Bilder zulassen.</source>
+        <translation>Das geladene Bild ist zu klein für den aktuellen Ausschnitt! Verwenden Sie die Option: Kleine Bilder zulassen.</translation>
+    </message>
+    <message>
+        <source>Kein Dateiname für </source>
+        <translation>Kein Dateiname für </translation>
+    </message>
+    <message>
+        <source> von </source>
+        <translation> von </translation>
+    </message>
+    <message>
+        <source>Max. Splitgrößen B/H = </source>
+        <translation>Max. Splitgrößen B/H = </translation>
+    </message>
+    <message>
+        <source> --- Max. Treffer-Bildgröße B/H = </source>
+        <translation> --- Max. Treffer-Bildgröße B/H = </translation>
+    </message>
+    <message>
+        <source>Diese Aufteilung ergibt sehr große Einzelbildgrößen.</source>
+        <translation>Diese Aufteilung ergibt sehr große Einzelbildgrößen.</translation>
+    </message>
+    <message>
+        <source>Splitvorschlag: </source>
+        <translation>Splitvorschlag: </translation>
+    </message>
+    <message>
+        <source>Wollen Sie abbrechen?</source>
+        <translation>Wollen Sie abbrechen?</translation>
+    </message>
+    <message>
+        <source>Diese Bildgröße erfordert einige Berechnungszeit. Sorgen Sie bitte unbedingt dafür, daß die Quellbilder groß genug für dieses Mosaik sind, oder aktivieren Sie die Option [] Kleine Bilder zulassen!</source>
+        <translation>Diese Bildgröße erfordert einige Berechnungszeit. Sorgen Sie bitte unbedingt dafür, daß die Quellbilder groß genug für dieses Mosaik sind, oder aktivieren Sie die Option [] Kleine Bilder zulassen!</translation>
     </message>
 </context>
 <context>
@@ -2859,6 +3090,41 @@
     <message>
         <source>Anti-Aliasing</source>
         <translation>Anti-Aliasing</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::PicSourceDialog</name>
+    <message>
+        <source>Bildquelle</source>
+        <translation>Bildquelle</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Bild wählen</source>
+        <translation>Bild wählen</translation>
+    </message>
+    <message>
+        <source>Bilder</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Bildverzeichnis wählen</source>
+        <translation>Bildverzeichnis wählen</translation>
+    </message>
+    <message>
+        <source>Die Datei gibt es nicht.</source>
+        <translation>Die Datei gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis gibt es nicht.</source>
+        <translation>Das Verzeichnis gibt es nicht.</translation>
     </message>
 </context>
 <context>

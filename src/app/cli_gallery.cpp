@@ -3,6 +3,7 @@
 // it, saved as DIR/<key>.png, and shown on DIR/index.html with its two captions and the
 // command line that paints it again.
 #include "app/cli_common.h"
+#include "app/cli_paint.h"
 
 #include "files/picturefile.h"
 #include "files/picturemeta.h"
@@ -32,6 +33,7 @@ struct GalleryOptions {
     QSize size{256, 256};
     uint32_t seed = 1;
     std::optional<int> group;
+    QString source; // the photos of the types that read photos; without it they are left out
 };
 
 int number(const QString &option, const QString &text, long long min, long long max)
@@ -67,6 +69,8 @@ GalleryOptions parseGalleryOptions(const QStringList &words)
             o.seed = uint32_t(number(w, a.valueOf(w), 0, 0x7FFFFFFF));
         } else if (w == QLatin1String("--group")) {
             o.group = number(w, a.valueOf(w), 1, GroupCount);
+        } else if (w == QLatin1String("--source")) {
+            o.source = a.valueOf(w);
         } else {
             throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Option: %1").arg(w));
         }
@@ -125,6 +129,12 @@ QImage paintOne(const QString &key, const GalleryOptions &o, QTemporaryDir &temp
     if (entry && entry->overPicture) {
         if (!paintType(GalleryBase)) return QImage();
         base = s.paint().lastPaint;
+    }
+    if (!o.source.isEmpty()) {
+        PaintOptions paint;
+        paint.type = key;
+        paint.source = o.source;
+        if (applyPicSource(s, paint) != ExitOk) return QImage();
     }
     if (!paintType(key)) return QImage();
     record = s.paint().lastPaint;
@@ -208,6 +218,8 @@ int runGallery(const QStringList &args)
             const QString key = QString::fromUtf8(row.key);
             const PainterEntry *entry = findPainter(painterTable(), key);
             if (!entry || !entry->paint) continue;
+            // The types that paint photos need a source to paint from.
+            if (o.source.isEmpty() && readsPhotos(key)) continue;
             std::optional<PaintRecord> record, base;
             const QImage picture = paintOne(key, o, temp, record, base);
             const QString file = pictureFileName(key);

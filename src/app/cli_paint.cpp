@@ -148,6 +148,8 @@ PaintOptions parsePaintOptions(const QStringList &words)
             o.keepSize = true;
         } else if (w == QLatin1String("--recipe")) {
             o.recipe = a.valueOf(w);
+        } else if (w == QLatin1String("--source")) {
+            o.source = a.valueOf(w);
         } else if (w.startsWith(QLatin1Char('-')) && w != QLatin1String("-")) {
             throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Option: %1").arg(w));
         } else if (o.type.isEmpty()) {
@@ -279,6 +281,8 @@ int paintOnce(const PaintOptions &o, const QImage &over, QImage &result, PaintRe
     if (!over.isNull()) ws.Bild.setPicture(over);
     if (!applyColours(s, o))
         return ExitFailed;
+    if (const int code = applyPicSource(s, o); code != ExitOk)
+        return code;
 
     const TypeLocation where = *findType(o.type);
     mn_Grafmodes(s, where.group);
