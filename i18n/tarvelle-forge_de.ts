@@ -1522,6 +1522,17 @@
     </message>
 </context>
 <context>
+    <name>Presentation</name>
+    <message>
+        <source>Die Datei endet vor Zeile %1</source>
+        <translation>Die Datei endet vor Zeile %1</translation>
+    </message>
+    <message>
+        <source>Die Zahl %1 in Zeile %2 ist zu groß</source>
+        <translation>Die Zahl %1 in Zeile %2 ist zu groß</translation>
+    </message>
+</context>
+<context>
     <name>Recipe</name>
     <message>
         <source>Keine Malanweisung: %1</source>

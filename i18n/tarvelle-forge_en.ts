@@ -1523,6 +1523,17 @@
     </message>
 </context>
 <context>
+    <name>Presentation</name>
+    <message>
+        <source>Die Datei endet vor Zeile %1</source>
+        <translation>The file ends before line %1</translation>
+    </message>
+    <message>
+        <source>Die Zahl %1 in Zeile %2 ist zu groß</source>
+        <translation>The number %1 in line %2 is too large</translation>
+    </message>
+</context>
+<context>
     <name>Recipe</name>
     <message>
         <source>Keine Malanweisung: %1</source>
