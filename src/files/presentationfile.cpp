@@ -14,24 +14,24 @@ namespace {
 using PV = PresentationValue;
 
 constexpr PresentationLine Lines[] = {
-    {PV::SubDirs, false, 0, 1},          // 4
-    {PV::Stretch, false, 0, 1},          // 5
-    {PV::Aliasing, false, 0, 1},         // 6
-    {PV::Center, false, 0, 1},           // 7
-    {PV::Fore, true, 0, 0xFFFFFF},       // 8
-    {PV::Back, true, 0, 0xFFFFFF},       // 9
-    {PV::Border, true, 0, 0xFFFFFF},     // 10
-    {PV::H, false, 1, 20},               // 11
-    {PV::V, false, 1, 20},               // 12
-    {PV::SymH, false, 0, 1},             // 13
-    {PV::SymV, false, 0, 1},             // 14
-    {PV::DoSub, false, 0, 1},            // 15
-    {PV::Margin, true, 0, -1},           // 16
-    {PV::Timer, true, 0, 600},           // 17
-    {PV::Pen, false, 1, 50},             // 18
-    {PV::Borders, false, 0, 1},          // 19
-    {PV::EachFrame, false, 0, 1},        // 20
-    {PV::UseSmall, false, 0, 1},         // 21
+    {PV::SubDirs, false, 0, 1},      // 4
+    {PV::Stretch, false, 0, 1},      // 5
+    {PV::Aliasing, false, 0, 1},     // 6
+    {PV::Center, false, 0, 1},       // 7
+    {PV::Fore, true, 0, 0xFFFFFF},   // 8
+    {PV::Back, true, 0, 0xFFFFFF},   // 9
+    {PV::Border, true, 0, 0xFFFFFF}, // 10
+    {PV::H, false, 1, 20},           // 11
+    {PV::V, false, 1, 20},           // 12
+    {PV::SymH, false, 0, 1},         // 13
+    {PV::SymV, false, 0, 1},         // 14
+    {PV::DoSub, false, 0, 1},        // 15
+    {PV::Margin, true, 0, -1},       // 16
+    {PV::Timer, true, 0, 600},       // 17
+    {PV::Pen, false, 1, 50},         // 18
+    {PV::Borders, false, 0, 1},      // 19
+    {PV::EachFrame, false, 0, 1},    // 20
+    {PV::UseSmall, false, 0, 1},     // 21
 };
 static_assert(std::size(Lines) == size_t(PresentationValueCount));
 
@@ -51,8 +51,7 @@ public:
         requireMore();
         const qsizetype end = lineEnd();
         QByteArray text = m_bytes.mid(m_pos, end - m_pos);
-        if (text.endsWith('\r'))
-            text.chop(1);
+        if (text.endsWith('\r')) text.chop(1);
         nextLine(end);
         return text;
     }
@@ -64,8 +63,7 @@ public:
         const qsizetype end = lineEnd();
         qsizetype stop = m_bytes.indexOf(',', m_pos);
         const bool comma = stop >= 0 && stop < end;
-        if (!comma)
-            stop = end;
+        if (!comma) stop = end;
         const QString field = QString::fromLatin1(m_bytes.mid(m_pos, stop - m_pos)).trimmed();
         if (comma)
             m_pos = stop + 1;
@@ -89,8 +87,7 @@ private:
     {
         if (m_pos >= m_bytes.size())
             throw Fault(InputPastEndOfFile,
-                        QCoreApplication::translate("Presentation",
-                                                    "Die Datei endet vor Zeile %1")
+                        QCoreApplication::translate("Presentation", "Die Datei endet vor Zeile %1")
                             .arg(m_line));
     }
 
@@ -106,17 +103,22 @@ int32_t fieldValue(FieldReader &in, bool wide)
     try {
         return wide ? CLng(v) : int32_t(CInt(v));
     } catch (const Fault &) {
-        throw Fault(Fault::Overflow,
-                    QCoreApplication::translate("Presentation",
-                                                "Die Zahl %1 in Zeile %2 ist zu groß")
-                        .arg(v, 0, 'g', 12)
-                        .arg(line));
+        throw Fault(Fault::Overflow, QCoreApplication::translate(
+                                         "Presentation", "Die Zahl %1 in Zeile %2 ist zu groß")
+                                         .arg(v, 0, 'g', 12)
+                                         .arg(line));
     }
 }
 
-void appendNumber(QByteArray &out, int32_t v) { out.append(QByteArray::number(v)); }
+void appendNumber(QByteArray &out, int32_t v)
+{
+    out.append(QByteArray::number(v));
+}
 
-void appendLine(QByteArray &out, const QByteArray &text) { out.append(text).append("\r\n"); }
+void appendLine(QByteArray &out, const QByteArray &text)
+{
+    out.append(text).append("\r\n");
+}
 
 // The three tables of a block side by side, as the blocks lay them out.
 struct Block {
@@ -130,7 +132,10 @@ constexpr Block Blocks[] = {
 
 } // namespace
 
-std::span<const PresentationLine> presentationLines() { return Lines; }
+std::span<const PresentationLine> presentationLines()
+{
+    return Lines;
+}
 
 bool hasPresentationHeader(const QByteArray &firstBytes)
 {
@@ -174,8 +179,7 @@ PicPresentation parsePresentation(const QByteArray &bytes)
     p.screenH = fieldValue(in, false);
     for (const PresentationLine &l : Lines) {
         int32_t v = fieldValue(in, l.wide);
-        if (l.max >= l.min)
-            v = std::clamp(v, l.min, l.max);
+        if (l.max >= l.min) v = std::clamp(v, l.min, l.max);
         p[l.value] = v;
     }
     const int H = p[PV::H];

@@ -70,7 +70,7 @@ struct PresentationLine {
 std::span<const PresentationLine> presentationLines();
 
 struct PicPresentation {
-    QString source;                // line 2
+    QString source;                   // line 2
     int32_t screenW = 0, screenH = 0; // line 3
     std::array<int32_t, PresentationValueCount> values{};
     // The layout: the cell tables and the sub tables, as the blocks hold them.

@@ -35,16 +35,15 @@ PicPresentation sample(int H, int V)
 QList<QByteArray> linesOf(const QByteArray &bytes)
 {
     QList<QByteArray> lines = bytes.split('\n');
-    if (!lines.isEmpty() && lines.last().isEmpty())
-        lines.removeLast();
+    if (!lines.isEmpty() && lines.last().isEmpty()) lines.removeLast();
     return lines;
 }
 
 void expectSameTables(const PicPresentation &a, const PicPresentation &b)
 {
-    const Table3 PicPresentation::*tables[] = {&PicPresentation::ArrCellH, &PicPresentation::ArrSubH,
-                                              &PicPresentation::ArrSubVX, &PicPresentation::ArrCellV,
-                                              &PicPresentation::ArrSubHY, &PicPresentation::ArrSubV};
+    const Table3 PicPresentation::*tables[] = {
+        &PicPresentation::ArrCellH, &PicPresentation::ArrSubH,  &PicPresentation::ArrSubVX,
+        &PicPresentation::ArrCellV, &PicPresentation::ArrSubHY, &PicPresentation::ArrSubV};
     for (auto t : tables) {
         const Table3 &x = a.*t, &y = b.*t;
         ASSERT_EQ(x.upperF(), y.upperF());
@@ -62,8 +61,7 @@ int faultNumberOf(const QByteArray &bytes, QString *description = nullptr)
     try {
         parsePresentation(bytes);
     } catch (const Fault &f) {
-        if (description)
-            *description = f.description();
+        if (description) *description = f.description();
         return f.number();
     }
     return 0;
@@ -133,8 +131,8 @@ TEST(PresentationFile, ReadsPaddedNumbersAndLinesEndingInLineFeedAlone)
 TEST(PresentationFile, OutOfRangeOptionsAreClampedSilently)
 {
     QList<QByteArray> lines = linesOf(presentationBytes(sample(1, 1)));
-    const char *wild[] = {"7", "-3", "2", "1", "-5", "99999999", "0", "1", "1",
-                          "5", "-1", "3", "-250", "9000", "0", "4", "-4", "12"};
+    const char *wild[] = {"7", "-3", "2", "1",    "-5",   "99999999", "0", "1",  "1",
+                          "5", "-1", "3", "-250", "9000", "0",        "4", "-4", "12"};
     for (int n = 0; n < 18; ++n)
         lines[3 + n] = QByteArray(wild[n]) + '\r';
     const PicPresentation back = parsePresentation(lines.join('\n') + '\n');
