@@ -23,6 +23,8 @@ DiaShow::DiaShow(Session &session, QSize workingSize)
       m_work(QStringLiteral("picDiaShowWork"), m_size.width(), m_size.height())
 {
     // The margins of a layout show as the dark ground of a show.
+    for (PictureBox *p : {&m_picture, &m_undo, &m_work})
+        p->setAutoRedraw(true);
     m_picture.setBackColor(0x000000);
     m_repaintFirst = m_session.mondrian().RepaintAsked;
     m_ctx = std::make_unique<PaintContext>(
@@ -60,7 +62,7 @@ bool DiaShow::step()
         return true;
     }
     bool moved = false;
-    const bool ran = guarded(QStringLiteral("Draw_PicMosaik"), [&] { moved = paintStep(); });
+    const bool ran = guarded(QStringLiteral("Do_PicMosaik"), [&] { moved = paintStep(); });
     if (!ran || !moved) m_ended = true;
     return ran && moved;
 }

@@ -4,6 +4,7 @@
 
 #include "files/presentation.h"
 #include "ui/diashowwindow.h"
+#include "ui/idleguard.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -52,7 +53,8 @@ void MainWindow::createPresentationActions()
     for (int mode = 0; mode < 2; ++mode) {
         auto *a = new QAction(this);
         a->setObjectName(QStringLiteral("mn_PicPres%1").arg(mode));
-        onTriggered(a, [this, mode] { openPicPresentation(mode); });
+        connect(a, &QAction::triggered, this,
+                whenIdle(m_session, [this, mode] { openPicPresentation(mode); }));
         mn_PicPres[size_t(mode)] = a;
     }
 }

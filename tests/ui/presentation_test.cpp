@@ -173,7 +173,9 @@ TEST_F(PresentationTest, ARoundTripGivesBackTheOptionsColoursSourceAndTables)
             for (int j = 0; j <= 3; ++j) {
                 EXPECT_EQ(m.ArrCellH(k, i, j), s.mondrian().ArrCellH(k, i, j));
                 EXPECT_EQ(m.ArrSubVX(k, i, j), s.mondrian().ArrSubVX(k, i, j));
-                if (k < 3) EXPECT_EQ(m.ArrSubHY(k, i, j), s.mondrian().ArrSubHY(k, i, j));
+                if (k < 3) {
+                    EXPECT_EQ(m.ArrSubHY(k, i, j), s.mondrian().ArrSubHY(k, i, j));
+                }
             }
 
     // Saved again, the file is the same byte for byte.
