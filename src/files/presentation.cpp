@@ -85,6 +85,20 @@ void keepSubFramesInBounds(MondrianTables &m)
         }
 }
 
+// The size of the rectangle the layout divides, which the file does not hold: the farthest
+// right and bottom edges of its cells.
+void takeLayoutSize(MondrianTables &m)
+{
+    int32_t w = 0, h = 0;
+    for (int c = 0; c < m.MondrianHSplits; ++c)
+        for (int r = 0; r < m.MondrianVSplits; ++r) {
+            w = std::max(w, m.ArrCellH(1, c, r));
+            h = std::max(h, m.ArrCellV(1, c, r));
+        }
+    m.MondrianW = w;
+    m.MondrianH = h;
+}
+
 const QString &fileFilter()
 {
     static const QString filter = QStringLiteral("Tvl Pic.Presentation (*.tvp)");
@@ -212,6 +226,11 @@ bool picPresentation_Load(Session &s, const QString &Path, QSize screen)
         m.ArrSubHY = std::move(p.ArrSubHY);
         m.ArrSubV = std::move(p.ArrSubV);
         keepSubFramesInBounds(m);
+        takeLayoutSize(m);
+        // The file does not hold the layout's type: it is the panel's, so that the repaint
+        // keeps the frames.
+        m.MondrianLastType = int16_t(std::clamp(
+            s.controls().listIndex(ControlKey{QStringLiteral("cmbPicMosaik_Format"), 1}), 0, 1));
 
         for (const ValueHome &h : Homes) {
             if (h.colour)
