@@ -1593,6 +1593,94 @@
         <source>Ungültiges Bild </source>
         <translation>Ungültiges Bild </translation>
     </message>
+    <message>
+        <source>Verwenden Sie bitte den [...]-Befehl.</source>
+        <translation>Verwenden Sie bitte den [...]-Befehl.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie bitte zuerst ein Bild aus!</source>
+        <translation>Wählen Sie bitte zuerst ein Bild aus!</translation>
+    </message>
+    <message>
+        <source>Stellen Sie bitte zuerst ein Bildverzeichnis ein!</source>
+        <translation>Stellen Sie bitte zuerst ein Bildverzeichnis ein!</translation>
+    </message>
+    <message>
+        <source>Kann keine gültigen Bilder finden in </source>
+        <translation>Kann keine gültigen Bilder finden in </translation>
+    </message>
+    <message>
+        <source> pictures</source>
+        <translation> pictures</translation>
+    </message>
+    <message>
+        <source>Suche Bilder in </source>
+        <translation>Suche Bilder in </translation>
+    </message>
+    <message>
+        <source>Anzahl Bilder </source>
+        <translation>Anzahl Bilder </translation>
+    </message>
+    <message>
+        <source> in Verzeichnisauswahl kleiner als Anzahl Rahmen </source>
+        <translation> in Verzeichnisauswahl kleiner als Anzahl Rahmen </translation>
+    </message>
+    <message>
+        <source>. Reduzieren Sie die Splitanzahl oder verwenden Sie die Option [X] Duplikate zulassen!</source>
+        <translation>. Reduzieren Sie die Splitanzahl oder verwenden Sie die Option [X] Duplikate zulassen!</translation>
+    </message>
+    <message>
+        <source>Zu wenig Bilder in </source>
+        <translation>Zu wenig Bilder in </translation>
+    </message>
+    <message>
+        <source> um ohne Duplikate zu arbeiten. Reduzieren Sie bitte die Anzahl der Splits.</source>
+        <translation> um ohne Duplikate zu arbeiten. Reduzieren Sie bitte die Anzahl der Splits.</translation>
+    </message>
+    <message>
+        <source>Die Bilder in </source>
+        <translation>Die Bilder in </translation>
+    </message>
+    <message>
+        <source> sind zu klein für den aktuellen Ausschnitt! Verwenden Sie die Option: Kleine Bilder zulassen.</source>
+        <translation> sind zu klein für den aktuellen Ausschnitt! Verwenden Sie die Option: Kleine Bilder zulassen.</translation>
+    </message>
+    <message>
+        <source>Das geladene Bild ist zu klein für den aktuellen Ausschnitt! Verwenden Sie die Option: Kleine Bilder zulassen.</source>
+        <translation>Das geladene Bild ist zu klein für den aktuellen Ausschnitt! Verwenden Sie die Option: Kleine Bilder zulassen.</translation>
+    </message>
+    <message>
+        <source>Kein Dateiname für </source>
+        <translation>Kein Dateiname für </translation>
+    </message>
+    <message>
+        <source> von </source>
+        <translation> von </translation>
+    </message>
+    <message>
+        <source>Max. Splitgrößen B/H = </source>
+        <translation>Max. Splitgrößen B/H = </translation>
+    </message>
+    <message>
+        <source> --- Max. Treffer-Bildgröße B/H = </source>
+        <translation> --- Max. Treffer-Bildgröße B/H = </translation>
+    </message>
+    <message>
+        <source>Diese Aufteilung ergibt sehr große Einzelbildgrößen.</source>
+        <translation>Diese Aufteilung ergibt sehr große Einzelbildgrößen.</translation>
+    </message>
+    <message>
+        <source>Splitvorschlag: </source>
+        <translation>Splitvorschlag: </translation>
+    </message>
+    <message>
+        <source>Wollen Sie abbrechen?</source>
+        <translation>Wollen Sie abbrechen?</translation>
+    </message>
+    <message>
+        <source>Diese Bildgröße erfordert einige Berechnungszeit. Sorgen Sie bitte unbedingt dafür, daß die Quellbilder groß genug für dieses Mosaik sind, oder aktivieren Sie die Option [] Kleine Bilder zulassen!</source>
+        <translation>Diese Bildgröße erfordert einige Berechnungszeit. Sorgen Sie bitte unbedingt dafür, daß die Quellbilder groß genug für dieses Mosaik sind, oder aktivieren Sie die Option [] Kleine Bilder zulassen!</translation>
+    </message>
 </context>
 <context>
     <name>PictureFormats</name>
@@ -3085,6 +3173,41 @@
     <message>
         <source>Anti-Aliasing</source>
         <translation>Anti-Aliasing</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::PicSourceDialog</name>
+    <message>
+        <source>Bildquelle</source>
+        <translation>Bildquelle</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Bild wählen</source>
+        <translation>Bild wählen</translation>
+    </message>
+    <message>
+        <source>Bilder</source>
+        <translation>Bilder</translation>
+    </message>
+    <message>
+        <source>Bildverzeichnis wählen</source>
+        <translation>Bildverzeichnis wählen</translation>
+    </message>
+    <message>
+        <source>Die Datei gibt es nicht.</source>
+        <translation>Die Datei gibt es nicht.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis gibt es nicht.</source>
+        <translation>Das Verzeichnis gibt es nicht.</translation>
     </message>
 </context>
 <context>

@@ -1594,6 +1594,94 @@
         <source>Ungültiges Bild </source>
         <translation>No valid picture </translation>
     </message>
+    <message>
+        <source>Verwenden Sie bitte den [...]-Befehl.</source>
+        <translation>Please use the [...] command.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie bitte zuerst ein Bild aus!</source>
+        <translation>Please choose a picture first!</translation>
+    </message>
+    <message>
+        <source>Stellen Sie bitte zuerst ein Bildverzeichnis ein!</source>
+        <translation>Please set a picture directory first!</translation>
+    </message>
+    <message>
+        <source>Kann keine gültigen Bilder finden in </source>
+        <translation>No valid pictures in </translation>
+    </message>
+    <message>
+        <source> pictures</source>
+        <translation> pictures</translation>
+    </message>
+    <message>
+        <source>Suche Bilder in </source>
+        <translation>Searching pictures in </translation>
+    </message>
+    <message>
+        <source>Anzahl Bilder </source>
+        <translation>Number of pictures </translation>
+    </message>
+    <message>
+        <source> in Verzeichnisauswahl kleiner als Anzahl Rahmen </source>
+        <translation> in selected directory less than number of frames </translation>
+    </message>
+    <message>
+        <source>. Reduzieren Sie die Splitanzahl oder verwenden Sie die Option [X] Duplikate zulassen!</source>
+        <translation>. Reduce the splitsizes or activate the option [X] Allow duplicates!</translation>
+    </message>
+    <message>
+        <source>Zu wenig Bilder in </source>
+        <translation>Not enough pictures in </translation>
+    </message>
+    <message>
+        <source> um ohne Duplikate zu arbeiten. Reduzieren Sie bitte die Anzahl der Splits.</source>
+        <translation> to work without duplicates. Please reduce the number of splits.</translation>
+    </message>
+    <message>
+        <source>Die Bilder in </source>
+        <translation>The pictures in </translation>
+    </message>
+    <message>
+        <source> sind zu klein für den aktuellen Ausschnitt! Verwenden Sie die Option: Kleine Bilder zulassen.</source>
+        <translation> are too small for the current cut! Use the option: Allow small pictures.</translation>
+    </message>
+    <message>
+        <source>Das geladene Bild ist zu klein für den aktuellen Ausschnitt! Verwenden Sie die Option: Kleine Bilder zulassen.</source>
+        <translation>The loaded picture is too small for the current cut! Use the option: Allow small pictures.</translation>
+    </message>
+    <message>
+        <source>Kein Dateiname für </source>
+        <translation>No filename for </translation>
+    </message>
+    <message>
+        <source> von </source>
+        <translation> of </translation>
+    </message>
+    <message>
+        <source>Max. Splitgrößen B/H = </source>
+        <translation>Max. Splitsizes W/H = </translation>
+    </message>
+    <message>
+        <source> --- Max. Treffer-Bildgröße B/H = </source>
+        <translation> --- Max. hitted picturesize W/H = </translation>
+    </message>
+    <message>
+        <source>Diese Aufteilung ergibt sehr große Einzelbildgrößen.</source>
+        <translation>This splitting results to very large picture size frames.</translation>
+    </message>
+    <message>
+        <source>Splitvorschlag: </source>
+        <translation>Split suggestion: </translation>
+    </message>
+    <message>
+        <source>Wollen Sie abbrechen?</source>
+        <translation>Do you want to cancel?</translation>
+    </message>
+    <message>
+        <source>Diese Bildgröße erfordert einige Berechnungszeit. Sorgen Sie bitte unbedingt dafür, daß die Quellbilder groß genug für dieses Mosaik sind, oder aktivieren Sie die Option [] Kleine Bilder zulassen!</source>
+        <translation>This mosaic will take some time for calculations. Please make sure that the source pictures are not too small, or active the option [] Allow small pictures!</translation>
+    </message>
 </context>
 <context>
     <name>PictureFormats</name>
@@ -3086,6 +3174,41 @@
     <message>
         <source>Anti-Aliasing</source>
         <translation>Anti-Aliasing</translation>
+    </message>
+</context>
+<context>
+    <name>tf::ui::PicSourceDialog</name>
+    <message>
+        <source>Bildquelle</source>
+        <translation>Picture source</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Bild wählen</source>
+        <translation>Choose a picture</translation>
+    </message>
+    <message>
+        <source>Bilder</source>
+        <translation>Pictures</translation>
+    </message>
+    <message>
+        <source>Bildverzeichnis wählen</source>
+        <translation>Choose a picture directory</translation>
+    </message>
+    <message>
+        <source>Die Datei gibt es nicht.</source>
+        <translation>The file does not exist.</translation>
+    </message>
+    <message>
+        <source>Das Verzeichnis gibt es nicht.</source>
+        <translation>The directory does not exist.</translation>
     </message>
 </context>
 <context>

@@ -69,29 +69,44 @@ Options readOptions(Session &s)
     return o;
 }
 
-// The colour table of a paint: "DuoMondrian" or "DuoMLeadGlass" under a duotone table,
-// "RandomMondrian" or "RandomMLeadGlass" with random colours, else "MondrianColors".
-void chooseColours(Session &s, const Options &o)
-{
-    const bool first = Int(double(s.Rnd()) * 2) == 0;
-    QString name;
-    if (o.duoActive)
-        name = first ? QStringLiteral("DuoMondrian") : QStringLiteral("DuoMLeadGlass");
-    else if (s.colours().RandomColors)
-        name = first ? QStringLiteral("RandomMondrian") : QStringLiteral("RandomMLeadGlass");
-    else
-        name = QStringLiteral("MondrianColors");
-    Set_Duo_Colortable(s, 1, o.withWhite, name, 5, 5);
-}
-
 ColorLong cell(const ColourState &c, int i)
 {
     return duoCell(c, i).value_or(NoColour);
 }
 
+// The inner size by the selection and the picture's shape: a selection or a picture that is
+// not square takes the whole surface less the margins, and Format 0.
+bool sizeFromSurface(PaintContext &ctx, const FrameCanvas &canvas, int32_t &format, int32_t m2)
+{
+    MondrianTables &t = ctx.session.mondrian();
+    if (ctx.workspace().PicSelect.Visible() || canvas.width() != canvas.height()) {
+        format = 0;
+        t.MondrianW = canvas.width() - m2;
+        t.MondrianH = canvas.height() - m2;
+        return true;
+    }
+    return false;
+}
+
+} // namespace
+
+void chooseMondrianColours(Session &s, bool withWhite)
+{
+    const bool duoActive = s.colours().XDuotones[0] || s.colours().XDuotones[1];
+    const bool first = Int(double(s.Rnd()) * 2) == 0;
+    QString name;
+    if (duoActive)
+        name = first ? QStringLiteral("DuoMondrian") : QStringLiteral("DuoMLeadGlass");
+    else if (s.colours().RandomColors)
+        name = first ? QStringLiteral("RandomMondrian") : QStringLiteral("RandomMLeadGlass");
+    else
+        name = QStringLiteral("MondrianColors");
+    Set_Duo_Colortable(s, 1, withWhite, name, 5, 5);
+}
+
 // The colour of a frame: a sub-frame from the whole table, a whole cell from its first 18
 // entries; a large cell is never the near-black nor white, nor left unfilled.
-ColorLong frameColour(Session &s, const MondrianFrame &f, int picW, int picH)
+ColorLong mondrianFrameColour(Session &s, const MondrianFrame &f, int picW, int picH)
 {
     const ColourState &c = s.colours();
     const int upper = int(c.DuoColors.size()) - 1;
@@ -115,19 +130,7 @@ ColorLong frameColour(Session &s, const MondrianFrame &f, int picW, int picH)
     return colour;
 }
 
-// The inner size by the selection and the picture's shape: a selection or a picture that is
-// not square takes the whole surface less the margins, and Format 0.
-bool sizeFromSurface(PaintContext &ctx, const FrameCanvas &canvas, int32_t &format, int32_t m2)
-{
-    MondrianTables &t = ctx.session.mondrian();
-    if (ctx.workspace().PicSelect.Visible() || canvas.width() != canvas.height()) {
-        format = 0;
-        t.MondrianW = canvas.width() - m2;
-        t.MondrianH = canvas.height() - m2;
-        return true;
-    }
-    return false;
-}
+namespace {
 
 void drawMondrian(PaintContext &ctx, FrameCanvas &canvas, MondrianCall call)
 {
@@ -182,7 +185,7 @@ void drawMondrian(PaintContext &ctx, FrameCanvas &canvas, MondrianCall call)
     }
 
     if (o.fill)
-        chooseColours(s, o);
+        chooseMondrianColours(s, o.withWhite);
 
     if (!repaint) {
         int16_t h = o.panelH, v = o.panelV, subH = o.subH, subV = o.subV;
@@ -252,7 +255,7 @@ void drawMondrian(PaintContext &ctx, FrameCanvas &canvas, MondrianCall call)
     ColorLong lastFill = lineColour;
     int sinceYield = 0;
     for (const MondrianFrame &f : frames) {
-        const ColorLong colour = o.fill ? frameColour(s, f, picW, picH) : NoColour;
+        const ColorLong colour = o.fill ? mondrianFrameColour(s, f, picW, picH) : NoColour;
         const int l = f.left + offX, tp = f.top + offY, r = f.right + offX, b = f.bottom + offY;
         if (f.right <= f.left || f.bottom <= f.top)
             continue; // a frame of no width: nothing to fill or outline

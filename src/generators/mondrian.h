@@ -12,6 +12,7 @@
 // The option panel "feat_01Mondrian" (mondrian_panels.cpp) holds the controls of the family;
 // Draw_Mondrian reads the ones it needs at the moment it paints, as every painter does.
 
+#include "core/colour.h"
 #include "core/numeric.h"
 
 #include <QString>
@@ -66,6 +67,16 @@ std::optional<SuperSize> superSizeFromFields(Session &s);
 // "Repaint letztes Set": paints the chosen type of the family again, keeping the layout of
 // the last set when it still fits (the same H-Splits, V-Splits and type), else a new set.
 PaintOutcome BtnMondrian_Repaint(Session &s);
+
+// The colour table of a paint of the family: "DuoMondrian" or "DuoMLeadGlass" under a
+// duotone table, "RandomMondrian" or "RandomMLeadGlass" with random colours (on a toss),
+// else "MondrianColors"; `withWhite` false makes the white entries -1 (no fill).
+void chooseMondrianColours(Session &s, bool withWhite);
+// The colour of a frame from that table: a sub-frame from the whole table, a whole cell from
+// its first 18 entries; a large cell (over a quarter of picW or picH) is never the near-black
+// nor white. NoColour: the frame stays unfilled.
+struct MondrianFrame;
+ColorLong mondrianFrameColour(Session &s, const MondrianFrame &f, int picW, int picH);
 
 void registerMondrianPanels();
 

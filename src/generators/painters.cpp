@@ -13,6 +13,7 @@
 #include "generators/leadglass.h"
 #include "generators/mondrian.h"
 #include "generators/papers.h"
+#include "generators/picmosaik.h"
 #include "generators/plasmapaint.h"
 #include "generators/polygraphics.h"
 #include "generators/polypanels.h"
@@ -53,8 +54,8 @@ std::span<const PainterEntry> painterTable()
         {"Filled-Triangles", paintFilledTriangles, Prepare},
         {"ART-Mondrian", paintMondrian, Prepare},
         {"ART-MondrianSuper", paintMondrianSuper, NoUndo},
-        {"PIC-Mosaik", nullptr, Prepare},
-        {"PIC-MosaikSuper", nullptr, Prepare},
+        {"PIC-Mosaik", paintPicMosaik, Prepare},
+        {"PIC-MosaikSuper", paintPicMosaikSuper, NoUndo},
         {"PIC-DiaShow", paintPicDiaShow, NoUndo},
         {"ART-Mondrian-LeadGlass", paintLeadGlass, Prepare},
         {"ART-Cathedral-LeadGlass", paintCathedralWindow, Prepare},

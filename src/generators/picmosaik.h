@@ -44,7 +44,8 @@
 // still covers the frame), and pasted in order. The same seed, options and source give the
 // same bytes on any number of threads (setThreads).
 //
-// Faults are reported under "Draw_PicMosaik"; the frames painted so far stay.
+// Faults are reported under "Do_PicMosaik" (an overflow, which only a picture's sizes can
+// cause, as "Fehlerhaftes Bild - Siehe Statusbar!"); the frames painted so far stay.
 
 #include "core/numeric.h"
 
@@ -131,13 +132,17 @@ private:
     std::unique_ptr<Impl> d;
 };
 
-// Paints a whole layout on `canvas`, frame after frame, with Stop honoured between frames.
-// Faults go to the handler under "Draw_PicMosaik"; what was painted stays.
+// Paints a whole layout on `canvas`, frame after frame, with Stop honoured between frames
+// (the Paint button shows "STO&PP !" meanwhile). Faults are reported as said above; what was
+// painted stays.
 void Draw_PicMosaik(PaintContext &ctx, FrameCanvas &canvas, const PicMosaikCall &call);
 
 // The painter of "PIC-Mosaik" on the work picture.
 void paintPicMosaik(PaintContext &ctx);
-// The painter of "PIC-MosaikSuper" into the Superformat surface.
+// The painter of "PIC-MosaikSuper" into the Superformat surface: the size of the paint
+// dialog's Superformat fields ("0 - sizes not allowed" below 1), the question when the
+// splits give frames above 1000 pixels ("Splitvorschlag: ..."; Yes ends), the confirmation
+// above 4600 pixels a side (Cancel ends), then the size held to 128..14000.
 void paintPicMosaikSuper(PaintContext &ctx);
 
 // "Repaint letztes Set": the same layout again with pictures picked anew.
@@ -145,6 +150,11 @@ PaintOutcome BtnPicMosaik_Repaint(Session &s);
 // "...": lets the user choose a file or a directory as the source (frmDiaSetBildquelle,
 // through the session's view); the panel's source option follows the choice.
 PaintOutcome BtnPicMosaik_SetPics(Session &s);
+
+// Takes a chosen source: a picture file (`fromFile`) or a directory, scanned with its
+// subdirectories when `recurse`. The panel's "Datei"/"Dateiverzeichnis" and
+// "Unterverzeichnisse" follow; a different source makes the next paint scan anew.
+void setPicSource(Session &s, const QString &path, bool fromFile, bool recurse);
 
 void registerPicMosaikPanels();
 

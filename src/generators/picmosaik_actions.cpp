@@ -1,7 +1,6 @@
 // The buttons of the photo mosaic's panel, and the call of a run read from the panel.
 #include "generators/picmosaik.h"
 
-#include "generators/mondrian.h"
 #include "paint/controls.h"
 #include "paint/paintdriver.h"
 #include "paint/painter.h"
@@ -47,8 +46,6 @@ PaintOutcome BtnPicMosaik_Repaint(Session &s)
     // The panel serves the cube and the show too; from there the repaint paints the picture.
     if (p.GrafKey != MosaikSuperKey)
         p.GrafKey = MosaikKey;
-    if (p.GrafKey == MosaikSuperKey && !superSizeFromFields(s))
-        return PaintOutcome::Failed;
     MondrianTables &t = s.mondrian();
     t.RepaintAsked = true;
     const PaintOutcome outcome = paintAgain(s);
@@ -61,6 +58,19 @@ PaintOutcome BtnPicMosaik_SetPics(Session &s)
     if (s.runState().busy())
         return PaintOutcome::Busy;
     return s.view().choosePicSource() ? PaintOutcome::Painted : PaintOutcome::Failed;
+}
+
+void setPicSource(Session &s, const QString &path, bool fromFile, bool recurse)
+{
+    PicSourceList &l = s.picSources();
+    if (l.PicSource != path || l.FromFile != fromFile)
+        l.clear();
+    l.PicSource = path;
+    l.FromFile = fromFile;
+    Controls &k = s.controls();
+    k.set(key("optPicMosaikSource"), fromFile ? QStringLiteral("0") : QStringLiteral("1"));
+    if (!fromFile)
+        k.set(key("XPicMosaikSubDirs"), recurse ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
 } // namespace tf

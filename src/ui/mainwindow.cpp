@@ -12,6 +12,7 @@
 #include "ui/grafdialogdock.h"
 #include "ui/idleguard.h"
 #include "ui/matrixwindow.h"
+#include "ui/picsourcedialog.h"
 #include "ui/pictureview.h"
 #include "ui/previewcache.h"
 #include "ui/statusbar.h"
@@ -175,6 +176,12 @@ bool MainWindow::openMatrixWindow(int glyph, int speed)
     auto *window = new MatrixWindow(glyph, speed, uint32_t(m_session.Rnd() * 16777216.0f) + 1);
     window->showFullScreen();
     return true;
+}
+
+bool MainWindow::choosePicSource()
+{
+    PicSourceDialog dialog(m_session, this);
+    return dialog.exec() == QDialog::Accepted;
 }
 
 template <typename Handler> void MainWindow::onTriggered(QAction *action, Handler handler)

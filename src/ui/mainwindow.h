@@ -92,6 +92,7 @@ private:
     void controlChanged(const ControlKey &key) override;
     void Handle_Formobjects() override;
     bool openMatrixWindow(int glyph, int speed) override;
+    bool choosePicSource() override;
     // The slide show in its window (mainwindow_presentation.cpp).
     bool runDiaShow() override;
     // After a Superformat paint: the viewer shows the new picture (mainwindow_superformat.cpp).
