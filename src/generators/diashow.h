@@ -62,6 +62,8 @@ public:
     // Steps made so far (painted, not replayed) and layouts started.
     int steps() const { return m_steps; }
     int layouts() const { return m_layouts; }
+    // The layout on show is full and has its frame lines: the next step starts a new one.
+    bool layoutDone() const { return m_finished; }
 
     // The display time of one step: Val(txtPicMosaik_Timer) seconds, in milliseconds.
     int delayMs() const;

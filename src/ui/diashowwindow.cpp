@@ -271,7 +271,10 @@ void runDiaShowWindow(Session &session, const QString &savedList)
     window->raise();
     window->activateWindow();
     loop.exec();
-    if (!status.isEmpty()) session.status().setPanelText(sbrState, status);
+    // The paint ends by naming its seed in the same panel: the sizes follow once it has.
+    if (!status.isEmpty())
+        QTimer::singleShot(0,
+                           [&session, status] { session.status().setPanelText(sbrState, status); });
 }
 
 } // namespace tf::ui

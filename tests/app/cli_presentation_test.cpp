@@ -106,9 +106,10 @@ TEST(CliPresentation, RefusesAnotherTypeAndAFileOfAnotherKind)
     EXPECT_EQ(other.code, 2);
     EXPECT_TRUE(other.err.contains(QStringLiteral("--presentation"))) << other.err.toStdString();
     if (!mosaicPaints()) GTEST_SKIP() << "the mosaic's painter is not in the table yet";
-    const auto wrong = forge({QStringLiteral("paint"), QStringLiteral("PIC-Mosaik"),
-                              QStringLiteral("--presentation"), tvp, QStringLiteral("-o"),
-                              dir.filePath(QStringLiteral("x.png"))});
+    const auto wrong =
+        forge({QStringLiteral("paint"), QStringLiteral("PIC-Mosaik"), QStringLiteral("--lang"),
+               QStringLiteral("de"), QStringLiteral("--presentation"), tvp, QStringLiteral("-o"),
+               dir.filePath(QStringLiteral("x.png"))});
     EXPECT_EQ(wrong.code, 1);
     EXPECT_TRUE(wrong.err.contains(QStringLiteral("Falsches Dateiformat!")))
         << wrong.err.toStdString();
