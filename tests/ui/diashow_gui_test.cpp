@@ -1,7 +1,9 @@
 // "PIC-DiaShow" in the desktop program: Paint runs the show in its own full-screen window while
 // the Paint button stands as Stop; Stop ends it and the status bar tells the largest sizes.
 // With TF_SCREENSHOTS set to a folder two moments of the show are saved there.
+#include "files/presentation.h"
 #include "generators/diashow.h"
+#include "generators/mondrianlayout.h"
 #include "paint/catalogue.h"
 #include "paint/grafmenu.h"
 #include "support/testdata.h"
@@ -104,4 +106,57 @@ TEST_F(DiaShowWindowTest, PaintRunsTheShowInItsWindowUntilStop)
         panels << l->text();
     EXPECT_TRUE(panels.join(QLatin1Char('|')).contains(QStringLiteral("Max. Splitgrößen B/H = ")))
         << panels.join(QLatin1Char('|')).toStdString();
+}
+
+TEST_F(DiaShowWindowTest, RepaintWithTheShowChosenRepeatsALoadedPresentation)
+{
+    TF_REQUIRE_TESTDATA();
+    // A presentation of two columns split at 500 and two rows split at 300, over the photos.
+    Session maker;
+    MondrianTables &m = maker.mondrian();
+    m.MondrianHSplits = m.MondrianLastH = 2;
+    m.MondrianVSplits = m.MondrianLastV = 2;
+    for (Table3 *t : {&m.ArrCellH, &m.ArrSubH, &m.ArrSubVX})
+        t->redim(3, 3, 3);
+    for (Table3 *t : {&m.ArrCellV, &m.ArrSubHY, &m.ArrSubV})
+        t->redim(2, 3, 3);
+    const int xs[] = {0, 500, 800}, ys[] = {0, 300, 800};
+    for (int c = 0; c < 2; ++c)
+        for (int r = 0; r < 2; ++r) {
+            m.ArrCellH(0, c, r) = xs[c];
+            m.ArrCellH(1, c, r) = xs[c + 1];
+            m.ArrCellH(2, c, r) = 1;
+            m.ArrCellV(0, c, r) = ys[r];
+            m.ArrCellV(1, c, r) = ys[r + 1];
+            m.ArrCellV(2, c, r) = 1;
+        }
+    maker.picSources().PicSource = testdataPath(QStringLiteral("photos/kodak/landscape"));
+    maker.controls().set({QStringLiteral("txtPicMosaik_Timer")}, QStringLiteral("0.1"));
+    const QString file = dir.filePath(QStringLiteral("zwei.tvp"));
+    ASSERT_TRUE(picPresentation_Save(maker, file, QSize(800, 800)));
+
+    Session &s = window->session();
+    ASSERT_TRUE(picPresentation_Load(s, file, QSize()));
+    afterPresentationLoaded(s);
+    choose("PIC-DiaShow");
+    std::vector<MondrianFrame> shown;
+    QTimer probe;
+    probe.setInterval(50);
+    QObject::connect(&probe, &QTimer::timeout, [&] {
+        ui::DiaShowWindow *show = openShow();
+        if (show && show->diaShow() && show->diaShow()->steps() >= 1 && shown.empty()) {
+            shown = mondrianFrames(s.mondrian());
+            show->close();
+        }
+    });
+    probe.start();
+    window->findChild<QPushButton *>(QStringLiteral("BtnPicMosaik_Repaint"))->click();
+    probe.stop();
+    ASSERT_EQ(shown.size(), 4u);
+    EXPECT_EQ(shown[0].right, 500);
+    EXPECT_EQ(shown[0].bottom, 300);
+    EXPECT_EQ(shown[3].left, 500);
+    EXPECT_EQ(shown[3].top, 300);
+    EXPECT_EQ(s.paint().GrafKey, QStringLiteral("PIC-DiaShow"));
+    EXPECT_TRUE(prompter.asked().empty()) << prompter.lastText().toStdString();
 }
