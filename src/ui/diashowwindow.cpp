@@ -11,11 +11,13 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QPainter>
 #include <QPointer>
+#include <QScreen>
 
 namespace tf::ui {
 
@@ -156,8 +158,10 @@ void DiaShowWindow::toggleFullScreen()
 {
     if (isFullScreen())
         showNormal();
-    else
+    else {
+        if (const QScreen *screen = this->screen()) setGeometry(screen->geometry());
         showFullScreen();
+    }
 }
 
 bool DiaShowWindow::saveShownName()
@@ -267,6 +271,9 @@ void runDiaShowWindow(Session &session, const QString &savedList)
     QObject::connect(window, &DiaShowWindow::closed, window, [&status, w = window.data()] {
         if (w->diaShow()) status = w->diaShow()->statusText();
     });
+    // The whole screen, also where no window manager makes a full-screen window so.
+    if (const QScreen *screen = QGuiApplication::primaryScreen())
+        window->setGeometry(screen->geometry());
     window->showFullScreen();
     window->raise();
     window->activateWindow();
