@@ -190,9 +190,13 @@ bool picPresentation_Load(Session &s, const QString &Path, QSize screen)
         PicPresentation p = parsePresentation(bytes);
 
         if (looksLikeFullPath(p.source)) {
-            if (QFileInfo(p.source).isDir())
+            if (QFileInfo(p.source).isDir()) {
+                // A folder in line 2 is a folder source ("Dateiverzeichnis").
                 s.picSources().PicSource = p.source;
-            else
+                s.picSources().FromFile = false;
+                s.controls().set(ControlKey{QStringLiteral("optPicMosaikSource")},
+                                 QStringLiteral("1"));
+            } else
                 s.ask(QCoreApplication::translate(
                           "Presentation",
                           "Der Bildpfad %1 ist auf diesem PC nicht verfügbar. Stellen Sie bitte "

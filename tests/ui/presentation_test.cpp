@@ -243,8 +243,12 @@ TEST_F(PresentationTest, TheFolderOfLineTwoIsTakenOnlyAsAFullPathThatIsThere)
     }
 
     lines[1] = dir.path().toUtf8() + '\r';
+    s.picSources().FromFile = true;
+    s.controls().set({QStringLiteral("optPicMosaikSource")}, QStringLiteral("0"));
     EXPECT_TRUE(picPresentation_Load(s, withLines(lines, "here.tvp"), Screen));
     EXPECT_EQ(s.picSources().PicSource, dir.path());
+    EXPECT_FALSE(s.picSources().FromFile);
+    EXPECT_EQ(s.controls().listIndex({QStringLiteral("optPicMosaikSource")}), 1);
 }
 
 TEST_F(PresentationTest, AnotherScreenIsNamedAndTheReadGoesOn)
