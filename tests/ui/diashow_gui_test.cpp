@@ -11,6 +11,7 @@
 #include "windowfixture.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
@@ -73,8 +74,11 @@ TEST_F(DiaShowWindowTest, PaintRunsTheShowInItsWindowUntilStop)
     int firstLayoutSteps = 0;
     QTimer probe;
     probe.setInterval(50);
+    QElapsedTimer clock;
+    clock.start();
     QObject::connect(&probe, &QTimer::timeout, [&] {
         ui::DiaShowWindow *show = openShow();
+        if (show && clock.hasExpired(60000)) show->close(); // never hang the suite
         if (!show || !show->diaShow()) return;
         if (moments == 0 && show->diaShow()->layoutDone()) {
             fullScreen = show->isFullScreen();
@@ -142,8 +146,11 @@ TEST_F(DiaShowWindowTest, RepaintWithTheShowChosenRepeatsALoadedPresentation)
     std::vector<MondrianFrame> shown;
     QTimer probe;
     probe.setInterval(50);
+    QElapsedTimer clock;
+    clock.start();
     QObject::connect(&probe, &QTimer::timeout, [&] {
         ui::DiaShowWindow *show = openShow();
+        if (show && clock.hasExpired(60000)) show->close(); // never hang the suite
         if (show && show->diaShow() && show->diaShow()->steps() >= 1 && shown.empty()) {
             shown = mondrianFrames(s.mondrian());
             show->close();
