@@ -229,6 +229,10 @@
         <source>Eine Präsentation (--presentation) malt nur PIC-Mosaik oder PIC-MosaikSuper.</source>
         <translation>Eine Präsentation (--presentation) malt nur PIC-Mosaik oder PIC-MosaikSuper.</translation>
     </message>
+    <message>
+        <source>Die Option --source gilt nur für Typen mit Fotos, nicht für %1.</source>
+        <translation>Die Option --source gilt nur für Typen mit Fotos, nicht für %1.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>

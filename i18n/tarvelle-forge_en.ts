@@ -230,6 +230,10 @@
         <source>Eine Präsentation (--presentation) malt nur PIC-Mosaik oder PIC-MosaikSuper.</source>
         <translation>A presentation (--presentation) paints only PIC-Mosaik or PIC-MosaikSuper.</translation>
     </message>
+    <message>
+        <source>Die Option --source gilt nur für Typen mit Fotos, nicht für %1.</source>
+        <translation>The option --source is only for types with photos, not for %1.</translation>
+    </message>
 </context>
 <context>
     <name>Controls</name>

@@ -3,6 +3,7 @@
 // it, saved as DIR/<key>.png, and shown on DIR/index.html with its two captions and the
 // command line that paints it again.
 #include "app/cli_common.h"
+#include "app/cli_paint.h"
 
 #include "files/picturefile.h"
 #include "files/picturemeta.h"
@@ -30,6 +31,7 @@ struct GalleryOptions {
     QSize size{256, 256};
     uint32_t seed = 1;
     std::optional<int> group;
+    QString source; // the photos of the types that read photos; without it they are left out
 };
 
 int number(const QString &option, const QString &text, long long min, long long max)
@@ -65,6 +67,8 @@ GalleryOptions parseGalleryOptions(const QStringList &words)
             o.seed = uint32_t(number(w, a.valueOf(w), 0, 0x7FFFFFFF));
         } else if (w == QLatin1String("--group")) {
             o.group = number(w, a.valueOf(w), 1, GroupCount);
+        } else if (w == QLatin1String("--source")) {
+            o.source = a.valueOf(w);
         } else {
             throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Option: %1").arg(w));
         }
@@ -103,6 +107,12 @@ QImage paintOne(const QString &key, const GalleryOptions &o, QTemporaryDir &temp
     mn_Grafmodes(s, where.group);
     ListBoxType_Click(s, where.listIndex);
     s.paint().nextSeed = o.seed;
+    if (!o.source.isEmpty()) {
+        PaintOptions paint;
+        paint.type = key;
+        paint.source = o.source;
+        if (applyPicSource(s, paint) != ExitOk) return QImage();
+    }
     if (BtnPaint_Click(s) != PaintOutcome::Painted || prompter.faultSeen()) return QImage();
     record = s.paint().lastPaint;
     return s.workspace().Bild.Image();
@@ -183,6 +193,8 @@ int runGallery(const QStringList &args)
             const QString key = QString::fromUtf8(row.key);
             const PainterEntry *entry = findPainter(painterTable(), key);
             if (!entry || !entry->paint) continue;
+            // The types that paint photos need a source to paint from.
+            if (o.source.isEmpty() && readsPhotos(key)) continue;
             std::optional<PaintRecord> record;
             const QImage picture = paintOne(key, o, temp, record);
             const QString file = pictureFileName(key);

@@ -150,6 +150,8 @@ PaintOptions parsePaintOptions(const QStringList &words)
             o.keepSize = true;
         } else if (w == QLatin1String("--recipe")) {
             o.recipe = a.valueOf(w);
+        } else if (w == QLatin1String("--source")) {
+            o.source = a.valueOf(w);
         } else if (w == QLatin1String("--presentation")) {
             o.presentation = a.valueOf(w);
         } else if (w.startsWith(QLatin1Char('-')) && w != QLatin1String("-")) {
@@ -287,6 +289,18 @@ int paintOnce(const PaintOptions &o, const QImage &over, QImage &result, PaintRe
     if (!over.isNull()) ws.Bild.setPicture(over);
     if (!applyColours(s, o))
         return ExitFailed;
+    if (!o.presentation.isEmpty()) {
+        // The stored layout, options and source, then what the command line says over them
+        // (--source too); "Repaint letztes Set" paints it. No screen is compared here.
+        if (!picPresentation_Load(s, o.presentation, QSize()))
+            return ExitFailed;
+        afterPresentationLoaded(s);
+        applyControls(s, o);
+        if (o.randomValues)
+            s.colours().RandomValues = *o.randomValues;
+    }
+    if (const int code = applyPicSource(s, o); code != ExitOk)
+        return code;
 
     const TypeLocation where = *findType(o.type);
     mn_Grafmodes(s, where.group);
@@ -297,14 +311,6 @@ int paintOnce(const PaintOptions &o, const QImage &over, QImage &result, PaintRe
     if (o.presentation.isEmpty()) {
         outcome = BtnPaint_Click(s);
     } else {
-        // The stored layout, options and source, then what the command line says over them;
-        // "Repaint letztes Set" paints it. No screen is compared here.
-        if (!picPresentation_Load(s, o.presentation, QSize()))
-            return ExitFailed;
-        afterPresentationLoaded(s);
-        applyControls(s, o);
-        if (o.randomValues)
-            s.colours().RandomValues = *o.randomValues;
         outcome = BtnPicMosaik_Repaint(s);
     }
     s.setYieldHook(nullptr);

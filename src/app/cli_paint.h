@@ -35,6 +35,7 @@ struct PaintOptions {
     std::optional<int> systemPalette;
     bool keepSize = false;          // --over: a large picture at its own size
     QString recipe;                 // paint the recipe of this picture file
+    QString source;                 // --source: the photos of the mosaic types
     QString presentation;           // repaint the layout of this .tvp file (the photo mosaic)
 };
 
@@ -47,5 +48,12 @@ void applyControls(Session &s, const PaintOptions &o);
 // Sets the colours, the palette and the duotone table as the colour dialog would; answers
 // false after a message when the palette cannot be loaded.
 bool applyColours(Session &s, const PaintOptions &o);
+// The photo source of a type that reads one (--source, a directory or a picture file):
+// checked as a paint would check it, so that a missing or empty source ends the command with
+// the program's message and exit code 2 before anything is painted or written. A UsageError
+// for --source given to a type that reads no photos.
+int applyPicSource(Session &s, const PaintOptions &o);
+// The type paints photos (it shows the panel of the photo source).
+bool readsPhotos(const QString &type);
 
 } // namespace tf::cli

@@ -48,6 +48,7 @@
 // cause, as "Fehlerhaftes Bild - Siehe Statusbar!"); the frames painted so far stay.
 
 #include "core/numeric.h"
+#include "paint/picsourcelist.h"
 
 #include <QSize>
 #include <QString>
@@ -61,7 +62,7 @@ class Session;
 struct PaintContext;
 enum class PaintOutcome;
 
-constexpr const char *PicMosaikPanelName = "feat_15PicMosaik";
+constexpr const char *PicMosaikPanelName = PicSourcePanelName;
 
 // What the painters, the repaint button and the show hand a run (the arguments of
 // Draw_PicMosaik).
@@ -155,6 +156,10 @@ PaintOutcome BtnPicMosaik_SetPics(Session &s);
 // subdirectories when `recurse`. The panel's "Datei"/"Dateiverzeichnis" and
 // "Unterverzeichnisse" follow; a different source makes the next paint scan anew.
 void setPicSource(Session &s, const QString &path, bool fromFile, bool recurse);
+
+// The checks of a run's start on the source alone: a directory is scanned (once per change)
+// and must hold pictures, a file must be a picture. False after the message that says why.
+bool picSourceReady(Session &s);
 
 void registerPicMosaikPanels();
 

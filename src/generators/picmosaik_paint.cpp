@@ -82,11 +82,14 @@ void runLayout(PaintContext &ctx, FrameCanvas &canvas, const PicMosaikCall &call
     if (!run.start(canvas))
         return;
     StopRule stop(ctx);
+    StatusSink &status = ctx.session.status();
     while (run.paintNext(canvas)) {
+        status.setProgress(run.framesDone(), std::max(1, run.frameCount()));
         if (!stop.next())
             break;
     }
     run.finish(canvas);
+    status.setProgress(0, 0);
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include "core/parallel.h"
 #include "core/picturebox.h"
 #include "files/cdstdpicture.h"
+#include "files/jpegcodec.h"
 #include "generators/framecanvas.h"
 #include "generators/mondrian.h"
 #include "generators/mondrianlayout.h"
@@ -65,6 +66,41 @@ private:
 int32_t rounded(double x)
 {
     return CLng(x);
+}
+
+// Makes sure the list holds the directory of `o` (scanned once per change) and says why not.
+bool scanDirectory(Session &s, const PicMosaikOptions &o)
+{
+    PicSourceList &l = s.picSources();
+    l.FromFile = false;
+    const QString dir = o.source;
+    if (dir.isEmpty() || !QFileInfo(dir).isDir()) {
+        s.ask(mosaiktext::chooseADirectoryFirst(), Buttons::Ok, Icon::Exclamation);
+        return false;
+    }
+    if (!l.holds(dir, o.subDirs)) {
+        l.clear();
+        s.status().setPanelText(sbrState, mosaiktext::scanning(dir));
+        int32_t count = 0;
+        SessionYield yield(s);
+        xLib_DirRekurs(l.ListPicDir, dir, QStringLiteral("*.*"), o.subDirs, true, count, &yield);
+        if (s.paint().StopPaint) {
+            l.clear();
+            return false;
+        }
+        l.PicCount = count;
+        l.LastSource = dir;
+        l.LastRecurse = o.subDirs;
+        l.ListValid = count > 0;
+    }
+    if (l.PicCount <= 0) {
+        l.clear();
+        s.ask(mosaiktext::noValidPictures(dir), Buttons::Ok, Icon::Exclamation);
+        return false;
+    }
+    s.status().setPanelText(sbrState, mosaiktext::pictureCount(l.PicCount));
+    l.resetUsed();
+    return true;
 }
 
 } // namespace
@@ -131,35 +167,9 @@ struct PicMosaikRun::Impl {
             wholeStored = r.stored;
             return true;
         }
-        const QString dir = o.source;
-        if (dir.isEmpty() || !QFileInfo(dir).isDir()) {
-            s.ask(mosaiktext::chooseADirectoryFirst(), Buttons::Ok, Icon::Exclamation);
+        if (!scanDirectory(s, o))
             return false;
-        }
-        if (!l.holds(dir, o.subDirs)) {
-            l.clear();
-            s.status().setPanelText(sbrState, mosaiktext::scanning(dir));
-            int32_t count = 0;
-            SessionYield yield(s);
-            xLib_DirRekurs(l.ListPicDir, dir, QStringLiteral("*.*"), o.subDirs, true, count,
-                           &yield);
-            if (s.paint().StopPaint) {
-                l.clear();
-                return false;
-            }
-            l.PicCount = count;
-            l.LastSource = dir;
-            l.LastRecurse = o.subDirs;
-            l.ListValid = count > 0;
-            sizes.clear();
-        }
-        if (l.PicCount <= 0) {
-            l.clear();
-            s.ask(mosaiktext::noValidPictures(dir), Buttons::Ok, Icon::Exclamation);
-            return false;
-        }
-        s.status().setPanelText(sbrState, mosaiktext::pictureCount(l.PicCount));
-        l.resetUsed();
+        sizes.clear();
         return true;
     }
 
@@ -661,6 +671,55 @@ struct PicMosaikRun::Impl {
         s.random().setState(st.random);
     }
 
+    // Decoded photos kept from one stretch to the next, by file and JPEG scale: a picture
+    // decoded at a scale is the same whichever frame asked for it, so a photo used in many
+    // frames is decoded once. The store is emptied whole when it grows past its limit.
+    using DecodeKey = std::pair<QString, int>;
+    std::map<DecodeKey, QImage> decoded;
+    qint64 decodedBytes = 0;
+    static constexpr qint64 DecodedLimit = qint64(256) << 20;
+
+    static DecodeKey decodeKey(const PiecePlan &p)
+    {
+        const bool down = p.scaled.width() < p.stored.width() &&
+                          p.scaled.height() < p.stored.height();
+        return {p.path, down ? jpegScaleFor(p.stored, p.scaled) : 1};
+    }
+
+    // Decodes, on all cores, the photos the planned frames need that are not kept yet.
+    void decodeFor(const std::vector<FramePlan> &plans)
+    {
+        if (o.fromFile)
+            return;
+        if (decodedBytes > DecodedLimit) {
+            decoded.clear();
+            decodedBytes = 0;
+        }
+        std::vector<DecodeKey> keys;
+        std::vector<QSize> needs;
+        for (const FramePlan &p : plans) {
+            if (p.kind != FramePlan::Picture)
+                continue;
+            const DecodeKey k = decodeKey(p.piece);
+            if (decoded.count(k) || std::find(keys.begin(), keys.end(), k) != keys.end())
+                continue;
+            keys.push_back(k);
+            needs.push_back(k.second > 1 ? p.piece.scaled : QSize());
+        }
+        const int n = int(keys.size());
+        std::vector<LoadResult> results(keys.size());
+        parallelChunks(n, 1, threadsFor(n, 1, 1, threads), [&](int first, int last) {
+            for (int i = first; i < last; ++i)
+                results[size_t(i)] = loadPhoto(keys[size_t(i)].first, needs[size_t(i)]);
+        }, [](int) {});
+        for (int i = 0; i < n; ++i) {
+            if (!results[size_t(i)].loaded())
+                continue;
+            decodedBytes += results[size_t(i)].image.sizeInBytes();
+            decoded.emplace(keys[size_t(i)], std::move(results[size_t(i)].image));
+        }
+    }
+
     // Plans the next frames, prepares their pieces on all cores and queues them in order.
     // False when nothing is left to queue.
     bool fill()
@@ -676,13 +735,24 @@ struct PicMosaikRun::Impl {
                 plans.push_back(std::move(p));
                 ++next;
             }
-            std::vector<PreparedPiece> pieces(plans.size());
-            const QImage *one = o.fromFile ? &whole : nullptr;
             const int n = int(plans.size());
+            decodeFor(plans);
+            std::vector<PreparedPiece> pieces(plans.size());
             parallelChunks(n, 1, threadsFor(n, 1, 1, threads), [&](int first, int last) {
-                for (int j = first; j < last; ++j)
-                    if (plans[size_t(j)].kind == FramePlan::Picture)
-                        pieces[size_t(j)] = preparePiece(plans[size_t(j)].piece, one);
+                for (int j = first; j < last; ++j) {
+                    const FramePlan &p = plans[size_t(j)];
+                    if (p.kind != FramePlan::Picture)
+                        continue;
+                    if (o.fromFile) {
+                        pieces[size_t(j)] = preparePiece(p.piece, &whole);
+                        continue;
+                    }
+                    const auto it = decoded.find(decodeKey(p.piece));
+                    if (it == decoded.end())
+                        pieces[size_t(j)].failed = true;
+                    else
+                        pieces[size_t(j)] = preparePiece(p.piece, &it->second);
+                }
             }, [](int) {});
             for (int j = 0; j < n; ++j) {
                 if (pieces[size_t(j)].failed) {
@@ -887,6 +957,22 @@ QSize PicMosaikRun::maxHitSize() const
 QString PicMosaikRun::maxSizesText() const
 {
     return mosaiktext::maxSizes(d->maxSplit, d->maxHit);
+}
+
+bool picSourceReady(Session &s)
+{
+    const PicMosaikOptions o = readPicMosaikOptions(s, false);
+    if (!o.fromFile)
+        return scanDirectory(s, o);
+    s.picSources().FromFile = true;
+    const QSize size = o.source.isEmpty() ? QSize() : photoFileSize(o.source);
+    if (!size.isValid() || size.isEmpty()) {
+        if (!o.source.isEmpty())
+            s.status().setPanelText(sbrState, invalidPictureText(o.source));
+        s.ask(mosaiktext::chooseAPictureFirst(), Buttons::Ok, Icon::Exclamation);
+        return false;
+    }
+    return true;
 }
 
 } // namespace tf

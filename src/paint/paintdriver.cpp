@@ -1,4 +1,5 @@
 #include "paint/paintdriver.h"
+#include "paint/typepanels.h"
 
 #include "core/fault.h"
 #include "paint/catalogue.h"
@@ -78,6 +79,8 @@ PaintRecord recordOf(const Session &s, uint32_t seed)
     r.duotones = c.XDuotones[0] ? 0 : c.XDuotones[1] ? 1 : -1;
     r.paletteFile = c.paletteFile;
     r.systemPalette = c.systemPalette;
+    if (optionPanelOf(r.GrafKey) == QLatin1String(PicSourcePanelName))
+        r.photoSource = s.picSources().PicSource;
     for (auto &changed : s.controls().changed())
         if (changed.first.name != QLatin1String("ScrollTransparence"))
             r.controls.push_back(std::move(changed));

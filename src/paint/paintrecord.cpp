@@ -31,6 +31,7 @@ QStringList paintCommandArguments(const PaintRecord &r)
         args << QStringLiteral("--palette") << r.paletteFile;
     else if (r.systemPalette > 0)
         args << QStringLiteral("--system-palette") << QString::number(r.systemPalette);
+    if (!r.photoSource.isEmpty()) args << QStringLiteral("--source") << r.photoSource;
     if (r.duotones >= 0) args << QStringLiteral("--duotones") << QString::number(r.duotones);
     // The text dialog's colours only where they differ from the start's black on white.
     if (r.TextFore != 0x000000) args << QStringLiteral("--text-fore") << colourArgument(r.TextFore);

@@ -35,6 +35,8 @@ struct PaintRecord {
     int duotones = -1;
     QString paletteFile;
     int systemPalette = 0;
+    // The photos of a mosaic type: the directory or the picture file (empty for other types).
+    QString photoSource;
     // The controls that differ from their defaults, the transparency scroll bar excepted.
     std::vector<std::pair<ControlKey, QString>> controls;
     uint32_t seed = 0;

@@ -19,6 +19,9 @@ namespace tf {
 
 class YieldHook;
 
+// The option panel that chooses the photo source; the types that show it read the photos.
+constexpr const char *PicSourcePanelName = "feat_15PicMosaik";
+
 struct PicSourceList {
     static constexpr int32_t MaxPicCount = 32767;
 

@@ -57,9 +57,11 @@ PicSourceDialog::PicSourceDialog(Session &session, QWidget *parent)
     m_info->setWordWrap(true);
     layout->addWidget(m_info);
 
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Ok)->setText(tr("OK"));
-    buttons->button(QDialogButtonBox::Cancel)->setText(tr("Abbrechen"));
+    // Buttons of our own: a standard button takes its text back from the toolkit on a change
+    // of language.
+    auto *buttons = new QDialogButtonBox(this);
+    buttons->addButton(tr("OK"), QDialogButtonBox::AcceptRole)->setDefault(true);
+    buttons->addButton(tr("Abbrechen"), QDialogButtonBox::RejectRole);
     layout->addWidget(buttons);
 
     const PicSourceList &l = session.picSources();

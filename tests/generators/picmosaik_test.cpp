@@ -298,3 +298,64 @@ TEST_F(PicMosaikTest, TheSameSeedGivesTheSameBytesOnOneAndTwoThreads)
     EXPECT_TRUE(one == two);
     EXPECT_TRUE(one == stepwise);
 }
+
+namespace {
+
+struct RefusingMemory : SurfaceAllocator {
+    bool create(cDIBSection &, int, int, ColorLong) override { return false; }
+};
+
+} // namespace
+
+TEST_F(PicMosaikTest, TheSuperformatAsksAboutLargeFramesAndLargeSizesAndHoldsTheSize)
+{
+    photo("a.png", 120, 120, QColor(200, 0, 0));
+    set("XPicMosaik_Duplikate", "1");
+    set("XPicMosaik", "0", 0);
+    set("XPicMosaik", "0", 1);
+    set("XBorders", "0");
+    set("txtSuperSize", "0", 0);
+    set("txtSuperSize", "300", 1);
+    ASSERT_EQ(paint("PIC-MosaikSuper"), PaintOutcome::Painted);
+    EXPECT_EQ(lastPrompt(), QStringLiteral("0 - sizes not allowed"));
+
+    // 5000 x 3000 in 2 x 2 splits: frames of 2500 x 1500 pixels. Yes ends before a surface.
+    set("txtSuperSize", "5000", 0);
+    set("txtSuperSize", "3000", 1);
+    prompter.script({Answer::Yes});
+    ASSERT_EQ(paint("PIC-MosaikSuper"), PaintOutcome::Painted);
+    EXPECT_EQ(lastPrompt(), QStringLiteral("Diese Aufteilung ergibt sehr große Einzelbildgrößen."
+                                           "\r\nSplitvorschlag: H-Splits = 7 / V-Splits = 5\r\n"
+                                           "Wollen Sie abbrechen?"));
+    EXPECT_FALSE(s.superformat().hasPicture());
+    // No: then the confirmation of a side above 4600; Cancel ends.
+    prompter.script({Answer::No, Answer::Cancel});
+    const size_t before = prompter.asked().size();
+    ASSERT_EQ(paint("PIC-MosaikSuper"), PaintOutcome::Painted);
+    ASSERT_EQ(prompter.asked().size(), before + 2);
+    EXPECT_TRUE(lastPrompt().startsWith(QStringLiteral("Diese Bildgröße erfordert einige "
+                                                       "Berechnungszeit.")));
+    EXPECT_FALSE(s.superformat().hasPicture());
+
+    // A small size is held to 128 a side, and the frames are painted into the surface.
+    set("txtSuperSize", "40", 0);
+    set("txtSuperSize", "600", 1);
+    ASSERT_EQ(paint("PIC-MosaikSuper"), PaintOutcome::Painted);
+    ASSERT_TRUE(s.superformat().hasPicture());
+    const cDIBSection &dib = s.superformat().SuperDIB;
+    EXPECT_EQ(dib.dib_width(), 128);
+    EXPECT_EQ(dib.dib_height(), 600);
+    const ConstDibView v = dib.view();
+    const uint8_t *middle = v.row(150) + 30 * 3; // a point inside the bottom left frame
+    EXPECT_EQ(middle[2], 200);
+    EXPECT_EQ(middle[1], 0);
+    EXPECT_EQ(middle[0], 0);
+
+    // No memory for the surface: the Superformat's own message.
+    RefusingMemory refusing;
+    s.superformat().setAllocator(&refusing);
+    set("txtSuperSize", "300", 0);
+    ASSERT_EQ(paint("PIC-MosaikSuper"), PaintOutcome::Painted);
+    EXPECT_EQ(lastPrompt(), QStringLiteral("Memory problem creating Superimage!"));
+    s.superformat().setAllocator(nullptr);
+}
