@@ -226,6 +226,10 @@
         <translation>Zu wenig Speicher für die Animation.</translation>
     </message>
     <message>
+        <source>Eine Präsentation (--presentation) malt nur PIC-Mosaik oder PIC-MosaikSuper.</source>
+        <translation>Eine Präsentation (--presentation) malt nur PIC-Mosaik oder PIC-MosaikSuper.</translation>
+    </message>
+    <message>
         <source>Die Option --source gilt nur für Typen mit Fotos, nicht für %1.</source>
         <translation>Die Option --source gilt nur für Typen mit Fotos, nicht für %1.</translation>
     </message>
@@ -1772,6 +1776,49 @@
     </message>
 </context>
 <context>
+    <name>Presentation</name>
+    <message>
+        <source>Die Datei endet vor Zeile %1</source>
+        <translation>Die Datei endet vor Zeile %1</translation>
+    </message>
+    <message>
+        <source>Die Zahl %1 in Zeile %2 ist zu groß</source>
+        <translation>Die Zahl %1 in Zeile %2 ist zu groß</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 lässt sich nicht öffnen</source>
+        <translation>Die Datei %1 lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>Falsches Dateiformat!</source>
+        <translation>Falsches Dateiformat!</translation>
+    </message>
+    <message>
+        <source>Der Bildpfad %1 ist auf diesem PC nicht verfügbar. Stellen Sie bitte einen korrekten Pfad mit dem Befehl [...] ein.</source>
+        <translation>Der Bildpfad %1 ist auf diesem PC nicht verfügbar. Stellen Sie bitte einen korrekten Pfad mit dem Befehl [...] ein.</translation>
+    </message>
+    <message>
+        <source>Die Präsentation wurde mit der Bildschirmauflösung %1/%2 erstellt. Eine korrekte Darstellung mit der aktuellen Bildschirmauflösung von %3/%4 ist deshalb nicht möglich!</source>
+        <translation>Die Präsentation wurde mit der Bildschirmauflösung %1/%2 erstellt. Eine korrekte Darstellung mit der aktuellen Bildschirmauflösung von %3/%4 ist deshalb nicht möglich!</translation>
+    </message>
+    <message>
+        <source>Bildpräsentation laden</source>
+        <translation>Bildpräsentation laden</translation>
+    </message>
+    <message>
+        <source>Erzeugen Sie bitte zuerst mit dem Befehl [Paint &lt;F5&gt;] eine Bildpräsentation!</source>
+        <translation>Erzeugen Sie bitte zuerst mit dem Befehl [Paint &lt;F5&gt;] eine Bildpräsentation!</translation>
+    </message>
+    <message>
+        <source>Bildpräsentation speichern</source>
+        <translation>Bildpräsentation speichern</translation>
+    </message>
+    <message>
+        <source>Starten Sie die geladene Präsentation mit dem Befehlsknopf [Repaint letztes Set]. Verwenden Sie nicht den Befehl [Paint &lt;F5&gt;]!</source>
+        <translation>Starten Sie die geladene Präsentation mit dem Befehlsknopf [Repaint letztes Set]. Verwenden Sie nicht den Befehl [Paint &lt;F5&gt;]!</translation>
+    </message>
+</context>
+<context>
     <name>Recipe</name>
     <message>
         <source>Keine Malanweisung: %1</source>
@@ -2313,6 +2360,53 @@
     </message>
 </context>
 <context>
+    <name>tf::ui::DiaShowWindow</name>
+    <message>
+        <source>Dia-Show</source>
+        <translation>Dia-Show</translation>
+    </message>
+    <message>
+        <source>Bei Klick auf einen Dateinamen wird er gesichert</source>
+        <translation>Bei Klick auf einen Dateinamen wird er gesichert</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>%1 – nicht gesichert: %2</source>
+        <translation>%1 – nicht gesichert: %2</translation>
+    </message>
+    <message>
+        <source>%1 – gesichert</source>
+        <translation>%1 – gesichert</translation>
+    </message>
+    <message>
+        <source>Weiter</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Nächstes Bild</source>
+        <translation>Nächstes Bild</translation>
+    </message>
+    <message>
+        <source>Vorheriges Bild</source>
+        <translation>Vorheriges Bild</translation>
+    </message>
+    <message>
+        <source>Vollbild beenden</source>
+        <translation>Vollbild beenden</translation>
+    </message>
+    <message>
+        <source>Vollbild</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
     <name>tf::ui::FeatDialogDock</name>
     <message>
         <source>Optionen</source>
@@ -2720,6 +2814,18 @@
     <message>
         <source>Abbrechen</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Bild-Prä&amp;sentation</source>
+        <translation>Bild-Prä&amp;sentation</translation>
+    </message>
+    <message>
+        <source>Präsentation &amp;laden...</source>
+        <translation>Präsentation &amp;laden...</translation>
+    </message>
+    <message>
+        <source>Präsentation &amp;speichern...</source>
+        <translation>Präsentation &amp;speichern...</translation>
     </message>
 </context>
 <context>

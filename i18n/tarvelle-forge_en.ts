@@ -227,6 +227,10 @@
         <translation>Not enough memory for the animation.</translation>
     </message>
     <message>
+        <source>Eine Präsentation (--presentation) malt nur PIC-Mosaik oder PIC-MosaikSuper.</source>
+        <translation>A presentation (--presentation) paints only PIC-Mosaik or PIC-MosaikSuper.</translation>
+    </message>
+    <message>
         <source>Die Option --source gilt nur für Typen mit Fotos, nicht für %1.</source>
         <translation>The option --source is only for types with photos, not for %1.</translation>
     </message>
@@ -1773,6 +1777,49 @@
     </message>
 </context>
 <context>
+    <name>Presentation</name>
+    <message>
+        <source>Die Datei endet vor Zeile %1</source>
+        <translation>The file ends before line %1</translation>
+    </message>
+    <message>
+        <source>Die Zahl %1 in Zeile %2 ist zu groß</source>
+        <translation>The number %1 in line %2 is too large</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 lässt sich nicht öffnen</source>
+        <translation>The file %1 cannot be opened</translation>
+    </message>
+    <message>
+        <source>Falsches Dateiformat!</source>
+        <translation>Wrong filetype!</translation>
+    </message>
+    <message>
+        <source>Der Bildpfad %1 ist auf diesem PC nicht verfügbar. Stellen Sie bitte einen korrekten Pfad mit dem Befehl [...] ein.</source>
+        <translation>The directory %1 is not available on this PC. Please set a correct path with the command [...].</translation>
+    </message>
+    <message>
+        <source>Die Präsentation wurde mit der Bildschirmauflösung %1/%2 erstellt. Eine korrekte Darstellung mit der aktuellen Bildschirmauflösung von %3/%4 ist deshalb nicht möglich!</source>
+        <translation>The presentation was created with a screen resolution of %1/%2. A correct presentation with the actual screen resolution of %3/%4 is not possible!</translation>
+    </message>
+    <message>
+        <source>Bildpräsentation laden</source>
+        <translation>Load picture presentation</translation>
+    </message>
+    <message>
+        <source>Erzeugen Sie bitte zuerst mit dem Befehl [Paint &lt;F5&gt;] eine Bildpräsentation!</source>
+        <translation>Please create a picture presentation first with the command [Paint &lt;F5&gt;]!</translation>
+    </message>
+    <message>
+        <source>Bildpräsentation speichern</source>
+        <translation>Save picture presentation</translation>
+    </message>
+    <message>
+        <source>Starten Sie die geladene Präsentation mit dem Befehlsknopf [Repaint letztes Set]. Verwenden Sie nicht den Befehl [Paint &lt;F5&gt;]!</source>
+        <translation>Start the loaded presentation with the button [Repaint last set]. Do not use the command [Paint &lt;F5&gt;]!</translation>
+    </message>
+</context>
+<context>
     <name>Recipe</name>
     <message>
         <source>Keine Malanweisung: %1</source>
@@ -2314,6 +2361,53 @@
     </message>
 </context>
 <context>
+    <name>tf::ui::DiaShowWindow</name>
+    <message>
+        <source>Dia-Show</source>
+        <translation>Slide show</translation>
+    </message>
+    <message>
+        <source>Bei Klick auf einen Dateinamen wird er gesichert</source>
+        <translation>A click on a file name saves it</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>%1 – nicht gesichert: %2</source>
+        <translation>%1 – not saved: %2</translation>
+    </message>
+    <message>
+        <source>%1 – gesichert</source>
+        <translation>%1 – saved</translation>
+    </message>
+    <message>
+        <source>Weiter</source>
+        <translation>Go on</translation>
+    </message>
+    <message>
+        <source>Nächstes Bild</source>
+        <translation>Next picture</translation>
+    </message>
+    <message>
+        <source>Vorheriges Bild</source>
+        <translation>Previous picture</translation>
+    </message>
+    <message>
+        <source>Vollbild beenden</source>
+        <translation>Leave full screen</translation>
+    </message>
+    <message>
+        <source>Vollbild</source>
+        <translation>Full screen</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
     <name>tf::ui::FeatDialogDock</name>
     <message>
         <source>Optionen</source>
@@ -2721,6 +2815,18 @@
     <message>
         <source>Abbrechen</source>
         <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Bild-Prä&amp;sentation</source>
+        <translation>Picture pre&amp;sentation</translation>
+    </message>
+    <message>
+        <source>Präsentation &amp;laden...</source>
+        <translation>&amp;Load presentation...</translation>
+    </message>
+    <message>
+        <source>Präsentation &amp;speichern...</source>
+        <translation>&amp;Save presentation...</translation>
     </message>
 </context>
 <context>

@@ -5,10 +5,12 @@
 
 #include "core/language.h"
 #include "files/picturefile.h"
+#include "files/presentation.h"
 #include "files/recipe.h"
 #include "files/surfacesave.h"
 #include "files/textfile.h"
 #include "generators/painters.h"
+#include "generators/picmosaik.h"
 #include "paint/catalogue.h"
 #include "paint/grafmenu.h"
 #include "paint/colourdialog.h"
@@ -150,6 +152,8 @@ PaintOptions parsePaintOptions(const QStringList &words)
             o.recipe = a.valueOf(w);
         } else if (w == QLatin1String("--source")) {
             o.source = a.valueOf(w);
+        } else if (w == QLatin1String("--presentation")) {
+            o.presentation = a.valueOf(w);
         } else if (w.startsWith(QLatin1Char('-')) && w != QLatin1String("-")) {
             throw UsageError(QCoreApplication::translate("Cli", "Unbekannte Option: %1").arg(w));
         } else if (o.type.isEmpty()) {
@@ -170,6 +174,10 @@ PaintOptions parsePaintOptions(const QStringList &words)
     if (!findType(o.type))
         throw UsageError(
             QCoreApplication::translate("Cli", "Unbekannter Grafiktyp: %1").arg(o.type));
+    if (!o.presentation.isEmpty() && o.type != QLatin1String("PIC-Mosaik") &&
+        o.type != QLatin1String("PIC-MosaikSuper"))
+        throw UsageError(QCoreApplication::translate(
+            "Cli", "Eine Präsentation (--presentation) malt nur PIC-Mosaik oder PIC-MosaikSuper."));
     return o;
 }
 
@@ -281,6 +289,16 @@ int paintOnce(const PaintOptions &o, const QImage &over, QImage &result, PaintRe
     if (!over.isNull()) ws.Bild.setPicture(over);
     if (!applyColours(s, o))
         return ExitFailed;
+    if (!o.presentation.isEmpty()) {
+        // The stored layout, options and source, then what the command line says over them
+        // (--source too); "Repaint letztes Set" paints it. No screen is compared here.
+        if (!picPresentation_Load(s, o.presentation, QSize()))
+            return ExitFailed;
+        afterPresentationLoaded(s);
+        applyControls(s, o);
+        if (o.randomValues)
+            s.colours().RandomValues = *o.randomValues;
+    }
     if (const int code = applyPicSource(s, o); code != ExitOk)
         return code;
 
@@ -289,7 +307,12 @@ int paintOnce(const PaintOptions &o, const QImage &over, QImage &result, PaintRe
     ListBoxType_Click(s, where.listIndex);
     s.paint().nextSeed = o.seed;
 
-    const PaintOutcome outcome = BtnPaint_Click(s);
+    PaintOutcome outcome = PaintOutcome::Failed;
+    if (o.presentation.isEmpty()) {
+        outcome = BtnPaint_Click(s);
+    } else {
+        outcome = BtnPicMosaik_Repaint(s);
+    }
     s.setYieldHook(nullptr);
     if (outcome == PaintOutcome::NotPaintable) {
         printError(status.panelText(sbrState));
@@ -390,7 +413,8 @@ int runPaint(const QStringList &args)
             return code;
         // A paint without transparency makes the whole picture; one laid over a given picture
         // cannot be made again from its command alone.
-        if (over.isNull() || record.TranspPercent == 0)
+        // A presentation's layout is in its file, not in the command.
+        if (o.presentation.isEmpty() && (over.isNull() || record.TranspPercent == 0))
             meta.recipe = QStringList{paintCommandLine(record)};
     }
     // A Superformat paint has written its surface itself.

@@ -36,6 +36,7 @@ struct PaintOptions {
     bool keepSize = false;          // --over: a large picture at its own size
     QString recipe;                 // paint the recipe of this picture file
     QString source;                 // --source: the photos of the mosaic types
+    QString presentation;           // repaint the layout of this .tvp file (the photo mosaic)
 };
 
 // Reads the words of a paint command; a UsageError for a mistake.

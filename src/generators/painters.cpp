@@ -6,6 +6,7 @@
 #include "generators/centrepanels.h"
 #include "generators/circlegradients.h"
 #include "generators/curves.h"
+#include "generators/diashow.h"
 #include "generators/matrixrain.h"
 #include "generators/mountains.h"
 #include "generators/cathedral.h"
@@ -56,7 +57,7 @@ std::span<const PainterEntry> painterTable()
         {"ART-MondrianSuper", paintMondrianSuper, NoUndo},
         {"PIC-Mosaik", paintPicMosaik, Prepare},
         {"PIC-MosaikSuper", paintPicMosaikSuper, NoUndo},
-        {"PIC-DiaShow", nullptr, NoUndo},
+        {"PIC-DiaShow", paintPicDiaShow, NoUndo},
         {"ART-Mondrian-LeadGlass", paintLeadGlass, Prepare},
         {"ART-Cathedral-LeadGlass", paintCathedralWindow, Prepare},
         {"Photo-CUBE", nullptr, Prepare},

@@ -43,8 +43,9 @@ PaintOutcome BtnPicMosaik_Repaint(Session &s)
     if (s.runState().busy())
         return PaintOutcome::Busy;
     PaintState &p = s.paint();
-    // The panel serves the cube and the show too; from there the repaint paints the picture.
-    if (p.GrafKey != MosaikSuperKey)
+    // The panel serves the cube and the show too; from the cube the repaint paints the
+    // picture, the show repeats its last layout (a loaded presentation) in its window.
+    if (p.GrafKey != MosaikSuperKey && p.GrafKey != QLatin1String("PIC-DiaShow"))
         p.GrafKey = MosaikKey;
     MondrianTables &t = s.mondrian();
     t.RepaintAsked = true;

@@ -35,6 +35,9 @@ public:
         (void)speed;
         return false;
     }
+    // Runs the slide show of "PIC-DiaShow" in its window until it is closed or stopped;
+    // answers false when there is no window to run it in.
+    virtual bool runDiaShow() { return false; }
 };
 
 } // namespace tf

@@ -303,6 +303,7 @@ void MainWindow::createActions()
     onTriggered(mn_SuperShow, [this] { showSuperformat(); });
     mn_TextDialog = new QAction(this);
     onTriggered(mn_TextDialog, [this] { showTextDialog(); });
+    createPresentationActions();
 }
 
 void MainWindow::createMenus()
@@ -327,6 +328,7 @@ void MainWindow::createMenus()
     m_fileMenu->addAction(tbDrucken);
     m_fileMenu->addAction(mn_Passepartouts);
     m_fileMenu->addAction(mn_Kachelansicht);
+    addPresentationMenu(m_fileMenu);
     m_fileMenu->addSeparator();
     for (QAction *a : mn_File)
         m_fileMenu->addAction(a);
@@ -432,6 +434,7 @@ void MainWindow::retranslate()
     mn_Passepartouts->setText(tr("&Passepartouts..."));
     mn_Kachelansicht->setText(tr("Kachel&ansicht..."));
     mn_TextDialog->setText(tr("&Text und Schrift..."));
+    retranslatePresentation();
     const int group = m_session.paint().GrafGroup;
     m_toolBar->setToolTip(groupLabel(group));
     retranslateTools();

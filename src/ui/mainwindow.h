@@ -93,6 +93,8 @@ private:
     void Handle_Formobjects() override;
     bool openMatrixWindow(int glyph, int speed) override;
     bool choosePicSource() override;
+    // The slide show in its window (mainwindow_presentation.cpp).
+    bool runDiaShow() override;
     // After a Superformat paint: the viewer shows the new picture (mainwindow_superformat.cpp).
     void showSuperformat() override;
     void reset_imgButtons() override;
@@ -238,6 +240,17 @@ private:
     TunnelDriver *m_tunnel = nullptr;
     QAction *mn_AnimationSpeichern = nullptr;
     AnimationChoice m_animationChoice;
+    // mn_PicPres: load (0) and save (1) a picture presentation (mainwindow_presentation.cpp).
+    std::array<QAction *, 2> mn_PicPres{};
+    QMenu *m_picPresMenu = nullptr;
+    void createPresentationActions();
+    void addPresentationMenu(QMenu *fileMenu);
+    void retranslatePresentation();
+    void openPicPresentation(int mode);
+    // The program's picture folder: the last folder opened, else the user's pictures.
+    QString pictureDir() const;
+    // The mosaic panel's timer starts at the program's display time.
+    void applyDisplayTime();
 };
 
 } // namespace tf::ui

@@ -225,7 +225,11 @@ void MainWindow::copyCommandLine()
     m_status->setPanelText(sbrState, tr("Befehlszeile in die Zwischenablage kopiert."));
 }
 
-void MainWindow::resetDefaults() { m_session.controls().resetToDefaults(); }
+void MainWindow::resetDefaults()
+{
+    m_session.controls().resetToDefaults();
+    applyDisplayTime();
+}
 
 void MainWindow::printPicture()
 {

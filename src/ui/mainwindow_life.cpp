@@ -96,6 +96,7 @@ void MainWindow::startUp(SettingsStore &store)
         ws.New_BildSize(f->width, f->height);
         ws.Bild.Cls();
     }
+    applyDisplayTime();
     const int group = m_session.paint().GrafGroup;
     if (group >= 1 && group <= GroupCount)
         mn_Grafmodes[size_t(group - 1)]->setChecked(true);

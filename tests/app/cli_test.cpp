@@ -168,14 +168,20 @@ TEST_F(CliTest, BadTypeControlOrValueEndWithTheirMessageAndExitCodeTwo)
 
 TEST_F(CliTest, ATypeWithoutPainterOrAnUnreadablePictureFailWithExitCodeOne)
 {
-    const Result tunnel =
-        forge({QStringLiteral("paint"), QStringLiteral("PIC-DiaShow"), QStringLiteral("--lang"),
-               QStringLiteral("en"), QStringLiteral("-o"), file("t.png")});
-    EXPECT_EQ(tunnel.code, 1);
-    EXPECT_EQ(tunnel.err,
-              QStringLiteral("tarvelle-forge: \"PIC-DiaShow\" paints nothing yet: its painter is "
-                             "not built in.\n"));
-    EXPECT_FALSE(QFile::exists(file("t.png")));
+    // A type whose painter has not landed yet, while there is one.
+    QString unbuilt;
+    for (const tf::PainterEntry &e : tf::painterTable())
+        if (!e.paint && unbuilt.isEmpty()) unbuilt = QString::fromLatin1(e.key);
+    if (!unbuilt.isEmpty()) {
+        const Result none = forge({QStringLiteral("paint"), unbuilt, QStringLiteral("--lang"),
+                                   QStringLiteral("en"), QStringLiteral("-o"), file("t.png")});
+        EXPECT_EQ(none.code, 1);
+        EXPECT_EQ(none.err,
+                  QStringLiteral("tarvelle-forge: \"%1\" paints nothing yet: its painter is "
+                                 "not built in.\n")
+                      .arg(unbuilt));
+        EXPECT_FALSE(QFile::exists(file("t.png")));
+    }
     const Result over = paint({QStringLiteral("--over"), file("missing.png")});
     EXPECT_EQ(over.code, 1);
     EXPECT_EQ(over.err, QStringLiteral("tarvelle-forge: The file %1 does not exist.\n")
