@@ -14,6 +14,8 @@ constexpr double EyeDistance = 9.0;   // half edges from the cube's centre
 constexpr double LightDistance = 18.0; // half edges from the cube's centre
 constexpr double Ambient = 0.42;      // the share of light a face gets from the sky alone
 constexpr double MaxShade = 1.1;      // the top's corner nearest the light may be a little brighter
+constexpr double ShadowReach = 0.135; // the widest penumbra, in face sides
+constexpr double ContactReach = 0.2;  // the contact shadow's reach, in face sides (below 0.5/255 beyond)
 
 double rad(double degrees) { return degrees * PiValue / 180.0; }
 
@@ -120,6 +122,15 @@ void CubeScene::Polygon::build(std::vector<QPointF> points)
     if (!pts.empty()) centre /= double(pts.size());
     for (size_t i = 0; i < pts.size(); ++i)
         edge.push_back(edgeLine(pts[i], pts[(i + 1) % pts.size()], centre));
+}
+
+double CubeScene::Polygon::distanceAtLeast(double x, double y) const
+{
+    if (pts.size() < 3) return 1e9;
+    double inside = 1e18;
+    for (const auto &e : edge)
+        inside = std::min(inside, e[0] * x + e[1] * y + e[2]);
+    return -inside;
 }
 
 double CubeScene::Polygon::signedDistance(double x, double y) const
@@ -312,17 +323,23 @@ double CubeScene::shade(CubeFace face, double u, double v) const
 double CubeScene::groundLight(double x, double y) const
 {
     if (!m_look.shadow) return 1.0;
+    // Beyond the widest penumbra and where the contact shadow stays below half a level, the
+    // ground is plain: the farthest edge the point lies beyond bounds its distance from below.
+    if (m_shadow.distanceAtLeast(x, y) > ShadowReach * m_faceSide &&
+        m_base.distanceAtLeast(x, y) > ContactReach * m_faceSide)
+        return 1.0;
     const double far = std::clamp(std::hypot(x - m_baseCentre.x(), y - m_baseCentre.y()) /
                                       m_shadowReach, 0.0, 1.0);
     // The shadow's edge softens and its darkness fades with the distance from the cube.
-    const double penumbra = m_faceSide * (0.015 + 0.12 * far);
+    const double penumbra = m_faceSide * (0.015 + (ShadowReach - 0.015) * far);
     const double sd = m_shadow.signedDistance(x, y);
     double a = std::clamp(0.5 - sd / (2.0 * penumbra), 0.0, 1.0);
     a = a * a * (3.0 - 2.0 * a);
     const double cast = 0.45 * (1.0 - 0.6 * far) * a;
     // Where the cube stands on the ground, the ground gets less of the sky.
     const double nearBase = std::max(0.0, m_base.signedDistance(x, y));
-    const double contact = 0.3 * std::exp(-nearBase / (0.035 * m_faceSide));
+    const double contact =
+        nearBase > ContactReach * m_faceSide ? 0.0 : 0.3 * std::exp(-nearBase / (0.035 * m_faceSide));
     return (1.0 - cast) * (1.0 - contact);
 }
 
@@ -334,7 +351,8 @@ void CubeScene::uvAt(const Face &f, double x, double y, double &u, double &v, do
     v = (f.V[0] * x + f.V[1] * y + f.V[2]) / w;
     const double dudx = (f.U[0] - u * f.W[0]) / w, dudy = (f.U[1] - u * f.W[1]) / w;
     const double dvdx = (f.V[0] - v * f.W[0]) / w, dvdy = (f.V[1] - v * f.W[1]) / w;
-    footprint = std::max(std::hypot(dudx * texW, dvdx * texH), std::hypot(dudy * texW, dvdy * texH));
+    const double ax = dudx * texW, bx = dvdx * texH, ay = dudy * texW, by = dvdy * texH;
+    footprint = std::sqrt(std::max(ax * ax + bx * bx, ay * ay + by * by));
 }
 
 double CubeScene::coverage(const Face &f, double x, double y)
@@ -356,7 +374,7 @@ void CubeScene::paintRows(const std::array<const CubeTexture *, 3> &faces, const
     // The band round the shadow and the base where the ground is not plain.
     double gx0 = 1e18, gy0 = 1e18, gx1 = -1e18, gy1 = -1e18;
     if (m_look.shadow) {
-        const double reach = m_faceSide * 0.6;
+        const double reach = m_faceSide * std::max(ShadowReach, ContactReach);
         for (const Polygon *p : {&m_shadow, &m_base})
             for (const QPointF &q : p->pts) {
                 gx0 = std::min(gx0, q.x() - reach);

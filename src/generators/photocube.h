@@ -92,6 +92,7 @@ private:
         std::vector<QPointF> pts; // convex, counter-clockwise as seen (y down)
         std::vector<std::array<double, 3>> edge;
         double signedDistance(double x, double y) const; // positive outside
+        double distanceAtLeast(double x, double y) const; // a bound from below, cheaper
         void build(std::vector<QPointF> points);         // the convex hull
     };
 
