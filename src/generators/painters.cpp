@@ -12,6 +12,7 @@
 #include "generators/leadglass.h"
 #include "generators/mondrian.h"
 #include "generators/papers.h"
+#include "generators/photocubepanel.h"
 #include "generators/plasmapaint.h"
 #include "generators/polygraphics.h"
 #include "generators/polypanels.h"
@@ -175,6 +176,7 @@ void registerAllPanels()
         registerOrthoTextPanel();
         registerMondrianPanels();
         registerPlasmaPanels();
+        registerPhotoCubePanel();
         return true;
     }();
     (void)once;
