@@ -1260,6 +1260,138 @@
         <source>Neue Werte</source>
         <translation>Neue Werte</translation>
     </message>
+    <message>
+        <source>Fotomosaik</source>
+        <translation>Fotomosaik</translation>
+    </message>
+    <message>
+        <source>H. symmetrisch</source>
+        <translation>H. symmetrisch</translation>
+    </message>
+    <message>
+        <source>V. symmetrisch</source>
+        <translation>V. symmetrisch</translation>
+    </message>
+    <message>
+        <source> Quelle </source>
+        <translation> Quelle </translation>
+    </message>
+    <message>
+        <source>Datei</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>Dateiverzeichnis</source>
+        <translation>Dateiverzeichnis</translation>
+    </message>
+    <message>
+        <source>Dupl.</source>
+        <translation>Dupl.</translation>
+    </message>
+    <message>
+        <source>Unterverzeichnisse</source>
+        <translation>Unterverzeichnisse</translation>
+    </message>
+    <message>
+        <source>Bild-Mix</source>
+        <translation>Bild-Mix</translation>
+    </message>
+    <message>
+        <source>Kleine Bilder zulassen</source>
+        <translation>Kleine Bilder zulassen</translation>
+    </message>
+    <message>
+        <source>Kleine Bilder kacheln</source>
+        <translation>Kleine Bilder kacheln</translation>
+    </message>
+    <message>
+        <source>Bilder verkleinern</source>
+        <translation>Bilder verkleinern</translation>
+    </message>
+    <message>
+        <source>Bilder zentrieren</source>
+        <translation>Bilder zentrieren</translation>
+    </message>
+    <message>
+        <source>Kolorieren</source>
+        <translation>Kolorieren</translation>
+    </message>
+    <message>
+        <source>Farbton</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>Monochrome</source>
+        <translation>Monochrome</translation>
+    </message>
+    <message>
+        <source>Saturationstart</source>
+        <translation>Saturationstart</translation>
+    </message>
+    <message>
+        <source>Saturationrange</source>
+        <translation>Saturationrange</translation>
+    </message>
+    <message>
+        <source>Graustufen</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>Alle Rahmen füllen</source>
+        <translation>Alle Rahmen füllen</translation>
+    </message>
+    <message>
+        <source>Nur freie Rahmen füllen</source>
+        <translation>Nur freie Rahmen füllen</translation>
+    </message>
+    <message>
+        <source>Dateinamen anzeigen</source>
+        <translation>Dateinamen anzeigen</translation>
+    </message>
+    <message>
+        <source>Timer (s)</source>
+        <translation>Timer (s)</translation>
+    </message>
+    <message>
+        <source>Opt.</source>
+        <translation>Opt.</translation>
+    </message>
+    <message>
+        <source>Blur kleine</source>
+        <translation>Blur kleine</translation>
+    </message>
+    <message>
+        <source>Blur große</source>
+        <translation>Blur große</translation>
+    </message>
+    <message>
+        <source>Blur große (stark)</source>
+        <translation>Blur große (stark)</translation>
+    </message>
+    <message>
+        <source>Blur zufällig</source>
+        <translation>Blur zufällig</translation>
+    </message>
+    <message>
+        <source>Blur alle</source>
+        <translation>Blur alle</translation>
+    </message>
+    <message>
+        <source>Kolorieren zufällig</source>
+        <translation>Kolorieren zufällig</translation>
+    </message>
+    <message>
+        <source>Graustufen zufällig</source>
+        <translation>Graustufen zufällig</translation>
+    </message>
+    <message>
+        <source>Nur Randbilder</source>
+        <translation>Nur Randbilder</translation>
+    </message>
+    <message>
+        <source>Nur Innenbilder</source>
+        <translation>Nur Innenbilder</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -1449,6 +1581,13 @@
     <message>
         <source>Die Datei %1 kann nicht gelesen werden: %2</source>
         <translation>Die Datei %1 kann nicht gelesen werden: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PicMosaik</name>
+    <message>
+        <source>Ungültiges Bild </source>
+        <translation>Ungültiges Bild </translation>
     </message>
 </context>
 <context>

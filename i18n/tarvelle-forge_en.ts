@@ -1261,6 +1261,138 @@
         <source>Neue Werte</source>
         <translation>New values</translation>
     </message>
+    <message>
+        <source>Fotomosaik</source>
+        <translation>Photo mosaic</translation>
+    </message>
+    <message>
+        <source>H. symmetrisch</source>
+        <translation>H. symmetric</translation>
+    </message>
+    <message>
+        <source>V. symmetrisch</source>
+        <translation>V. symmetric</translation>
+    </message>
+    <message>
+        <source> Quelle </source>
+        <translation> Source </translation>
+    </message>
+    <message>
+        <source>Datei</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Dateiverzeichnis</source>
+        <translation>Directory</translation>
+    </message>
+    <message>
+        <source>Dupl.</source>
+        <translation>Dupl.</translation>
+    </message>
+    <message>
+        <source>Unterverzeichnisse</source>
+        <translation>Subdirectories</translation>
+    </message>
+    <message>
+        <source>Bild-Mix</source>
+        <translation>Picture mix</translation>
+    </message>
+    <message>
+        <source>Kleine Bilder zulassen</source>
+        <translation>Allow small pictures</translation>
+    </message>
+    <message>
+        <source>Kleine Bilder kacheln</source>
+        <translation>Tile small pictures</translation>
+    </message>
+    <message>
+        <source>Bilder verkleinern</source>
+        <translation>Shrink pictures</translation>
+    </message>
+    <message>
+        <source>Bilder zentrieren</source>
+        <translation>Center pictures</translation>
+    </message>
+    <message>
+        <source>Kolorieren</source>
+        <translation>Colorize</translation>
+    </message>
+    <message>
+        <source>Farbton</source>
+        <translation>Hue</translation>
+    </message>
+    <message>
+        <source>Monochrome</source>
+        <translation>Monochrome</translation>
+    </message>
+    <message>
+        <source>Saturationstart</source>
+        <translation>Saturation start</translation>
+    </message>
+    <message>
+        <source>Saturationrange</source>
+        <translation>Saturation range</translation>
+    </message>
+    <message>
+        <source>Graustufen</source>
+        <translation>Greyscale</translation>
+    </message>
+    <message>
+        <source>Alle Rahmen füllen</source>
+        <translation>Fill all frames</translation>
+    </message>
+    <message>
+        <source>Nur freie Rahmen füllen</source>
+        <translation>Fill only empty frames</translation>
+    </message>
+    <message>
+        <source>Dateinamen anzeigen</source>
+        <translation>Show filename</translation>
+    </message>
+    <message>
+        <source>Timer (s)</source>
+        <translation>Timer (s)</translation>
+    </message>
+    <message>
+        <source>Opt.</source>
+        <translation>Opt.</translation>
+    </message>
+    <message>
+        <source>Blur kleine</source>
+        <translation>Blur small</translation>
+    </message>
+    <message>
+        <source>Blur große</source>
+        <translation>Blur big</translation>
+    </message>
+    <message>
+        <source>Blur große (stark)</source>
+        <translation>Blur big (strong)</translation>
+    </message>
+    <message>
+        <source>Blur zufällig</source>
+        <translation>Blur randomized</translation>
+    </message>
+    <message>
+        <source>Blur alle</source>
+        <translation>Blur all</translation>
+    </message>
+    <message>
+        <source>Kolorieren zufällig</source>
+        <translation>Colorize randomly</translation>
+    </message>
+    <message>
+        <source>Graustufen zufällig</source>
+        <translation>Greyscale randomly</translation>
+    </message>
+    <message>
+        <source>Nur Randbilder</source>
+        <translation>Only borderpictures</translation>
+    </message>
+    <message>
+        <source>Nur Innenbilder</source>
+        <translation>Only centerpictures</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -1450,6 +1582,13 @@
     <message>
         <source>Die Datei %1 kann nicht gelesen werden: %2</source>
         <translation>The file %1 cannot be read: %2</translation>
+    </message>
+</context>
+<context>
+    <name>PicMosaik</name>
+    <message>
+        <source>Ungültiges Bild </source>
+        <translation>No valid picture </translation>
     </message>
 </context>
 <context>

@@ -23,16 +23,17 @@ struct KindEntry {
     const char *magic;
     size_t magicLength;
     Decoded (*decode)(QByteArrayView, const DecodeRequest &);
+    QSize (*headerSize)(QByteArrayView);
 };
 
 const std::array<KindEntry, 5> &kinds()
 {
     static const std::array<KindEntry, 5> table{{
-        {PictureKind::Png, "\x89PNG\r\n\x1a\n", 8, decodePng},
-        {PictureKind::Jpeg, "\xFF\xD8\xFF", 3, decodeJpeg},
-        {PictureKind::Bmp, "BM", 2, decodeBmp},
-        {PictureKind::Gif, "GIF87a", 6, decodeGif},
-        {PictureKind::Gif, "GIF89a", 6, decodeGif},
+        {PictureKind::Png, "\x89PNG\r\n\x1a\n", 8, decodePng, pngHeaderSize},
+        {PictureKind::Jpeg, "\xFF\xD8\xFF", 3, decodeJpeg, jpegHeaderSize},
+        {PictureKind::Bmp, "BM", 2, decodeBmp, bmpHeaderSize},
+        {PictureKind::Gif, "GIF87a", 6, decodeGif, gifHeaderSize},
+        {PictureKind::Gif, "GIF89a", 6, decodeGif, gifHeaderSize},
     }};
     return table;
 }
@@ -55,6 +56,15 @@ Decoded decodePicture(QByteArrayView bytes, const DecodeRequest &request)
             std::memcmp(bytes.data(), k.magic, k.magicLength) == 0)
             return k.decode(bytes, request);
     return Decoded::failure(decodetext::noPicture());
+}
+
+QSize pictureHeaderSize(QByteArrayView bytes)
+{
+    for (const KindEntry &k : kinds())
+        if (size_t(bytes.size()) >= k.magicLength &&
+            std::memcmp(bytes.data(), k.magic, k.magicLength) == 0)
+            return k.headerSize(bytes);
+    return QSize();
 }
 
 namespace decodetext {

@@ -26,6 +26,11 @@ struct DecodeRequest {
     // never decoded whole (JPEG at its smallest DCT scale, PNG row by row, keeping every n-th).
     bool preview = false;
     QSize box{1600, 1600};
+    // When valid (and neither `reduce` nor `preview` brings the picture into the box): the size
+    // the caller will bring the picture to itself, upright. A JPEG is then decoded at the
+    // smallest DCT scale 1/2, 1/4 or 1/8 that still covers it and comes back at that scale,
+    // not resampled; other kinds come back whole.
+    QSize atLeast;
 };
 
 struct Decoded {
@@ -43,10 +48,20 @@ PictureKind sniffPicture(QByteArrayView bytes);
 // Decodes a picture of any of the four kinds (one table from kind to decoder).
 Decoded decodePicture(QByteArrayView bytes, const DecodeRequest &request = {});
 
+// The size a picture of any of the four kinds decodes at whole, upright (a JPEG's EXIF
+// orientation applied), read from its header alone; invalid when the bytes declare none.
+QSize pictureHeaderSize(QByteArrayView bytes);
+
 Decoded decodePng(QByteArrayView bytes, const DecodeRequest &request = {});
 Decoded decodeJpeg(QByteArrayView bytes, const DecodeRequest &request = {});
 Decoded decodeBmp(QByteArrayView bytes, const DecodeRequest &request = {});
 Decoded decodeGif(QByteArrayView bytes, const DecodeRequest &request = {});
+
+// The header sizes of the kinds (see pictureHeaderSize).
+QSize pngHeaderSize(QByteArrayView bytes);
+QSize jpegHeaderSize(QByteArrayView bytes);
+QSize bmpHeaderSize(QByteArrayView bytes);
+QSize gifHeaderSize(QByteArrayView bytes);
 
 namespace decodetext {
 // The reasons shared by the decoders, in the user's language.

@@ -118,6 +118,7 @@ struct DecodeState {
     int orientation = 1;
     int refusedBySize = 0; // 1 when the declared size was refused
     bool scaled = false;
+    bool keepScale = false; // come back at the DCT scale, not resampled (DecodeRequest::atLeast)
 };
 
 // Makes the picture of the output size; false when it cannot be had.
@@ -165,7 +166,13 @@ int decodeJpegRows(ErrorState &err, const unsigned char *data, unsigned long siz
         cinfo.out_color_space = JCS_EXT_BGRX;
     }
     const QSize stored(st.storedW, st.storedH);
-    const QSize target = loadedSize(stored, request);
+    QSize target = loadedSize(stored, request);
+    if (target == stored && request.atLeast.isValid()) {
+        // The size asked for is upright; orientations 5 to 8 turn the picture by 90 degrees.
+        target = st.orientation >= 5 ? request.atLeast.transposed() : request.atLeast;
+        target = target.boundedTo(stored);
+        st.keepScale = true;
+    }
     if (target != stored) {
         // The smallest DCT scale that stays at or above the target.
         cinfo.scale_num = 1;
@@ -211,7 +218,41 @@ int decodeJpegRows(ErrorState &err, const unsigned char *data, unsigned long siz
     return 0;
 }
 
+// The header alone: 0 success, 1 a library fault.
+int readJpegHeader(ErrorState &err, const unsigned char *data, unsigned long size, int &w, int &h,
+                   int &orientation)
+{
+    jpeg_decompress_struct cinfo;
+    std::memset(&cinfo, 0, sizeof cinfo);
+    cinfo.err = &err.pub;
+    if (setjmp(err.jump)) {
+        jpeg_destroy_decompress(&cinfo);
+        return 1;
+    }
+    jpeg_create_decompress(&cinfo);
+    jpeg_mem_src(&cinfo, data, size);
+    jpeg_save_markers(&cinfo, JPEG_APP0 + 1, 0xFFFF);
+    jpeg_read_header(&cinfo, TRUE);
+    w = int(cinfo.image_width);
+    h = int(cinfo.image_height);
+    orientation = exifOrientation(cinfo.marker_list);
+    jpeg_destroy_decompress(&cinfo);
+    return 0;
+}
+
 } // namespace
+
+QSize jpegHeaderSize(QByteArrayView bytes)
+{
+    ErrorState err;
+    initErrors(err);
+    int w = 0, h = 0, orientation = 1;
+    if (readJpegHeader(err, reinterpret_cast<const unsigned char *>(bytes.data()),
+                       (unsigned long)bytes.size(), w, h, orientation) != 0 ||
+        w <= 0 || h <= 0)
+        return QSize();
+    return orientation >= 5 ? QSize(h, w) : QSize(w, h);
+}
 
 int jpegScaleFor(QSize stored, QSize target)
 {
@@ -250,7 +291,7 @@ Decoded decodeJpeg(QByteArrayView bytes, const DecodeRequest &request)
         return d;
     }
     const QSize target = loadedSize(d.stored, request);
-    if (image.size() != target)
+    if (!st.keepScale && image.size() != target)
         image = resampledImage(image, target);
     d.image = upright(image, st.orientation);
     return d;

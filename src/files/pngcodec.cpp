@@ -257,6 +257,12 @@ bool pngSize(QByteArrayView bytes, int &width, int &height)
     return true;
 }
 
+QSize pngHeaderSize(QByteArrayView bytes)
+{
+    int w = 0, h = 0;
+    return pngSize(bytes, w, h) && w > 0 && h > 0 ? QSize(w, h) : QSize();
+}
+
 bool PNG_GetSize(const QString &file, int &width, int &height)
 {
     QFile f(file);

@@ -122,6 +122,24 @@ bool decodePlainBmp(QByteArrayView bytes, const DecodeRequest &request, Decoded 
 
 } // namespace
 
+QSize bmpHeaderSize(QByteArrayView bytes)
+{
+    QSize size;
+    double pixelsPerByte = 1;
+    return bmpDeclared(bytes, size, pixelsPerByte) && size.width() > 0 && size.height() > 0
+               ? size
+               : QSize();
+}
+
+QSize gifHeaderSize(QByteArrayView bytes)
+{
+    QSize size;
+    double pixelsPerByte = 1;
+    return gifDeclared(bytes, size, pixelsPerByte) && size.width() > 0 && size.height() > 0
+               ? size
+               : QSize();
+}
+
 Decoded decodeBmp(QByteArrayView bytes, const DecodeRequest &request)
 {
     Decoded d;

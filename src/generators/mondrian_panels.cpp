@@ -3,6 +3,7 @@
 
 #include "generators/cathedral.h"
 #include "generators/leadglass.h"
+#include "generators/picmosaik.h"
 #include "paint/controls.h"
 
 #include <QtGlobal>
@@ -118,6 +119,8 @@ void registerMondrianPanels()
     // The lead-glass windows paint from the same tables and register with the family.
     registerLeadGlassPanels();
     registerCathedralPanels();
+    // The photo mosaic lays its photos into the same layout.
+    registerPicMosaikPanels();
 }
 
 } // namespace tf

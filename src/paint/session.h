@@ -30,6 +30,7 @@
 #include "paint/mondriantables.h"
 #include "paint/painter.h"
 #include "paint/paintrecord.h"
+#include "paint/picsourcelist.h"
 #include "paint/sessionview.h"
 #include "paint/superformat.h"
 #include "paint/textstate.h"
@@ -105,6 +106,9 @@ public:
     // The frame tables of the Mondrian family, kept from one paint to the next.
     MondrianTables &mondrian() { return m_mondrian; }
     const MondrianTables &mondrian() const { return m_mondrian; }
+    // The photo sources of the mosaic, the cube and the show, with the scanned list.
+    PicSourceList &picSources() { return m_picSources; }
+    const PicSourceList &picSources() const { return m_picSources; }
     // The Superformat surfaces and the kept former picture (see superformat.h).
     SuperformatSurfaces &superformat() { return *m_superformat; }
     const SuperformatSurfaces &superformat() const { return *m_superformat; }
@@ -165,6 +169,7 @@ private:
     TransparencyState m_transparency;
     FilterState m_filters;
     MondrianTables m_mondrian;
+    PicSourceList m_picSources;
     std::unique_ptr<SuperformatSurfaces> m_superformat;
     TextState m_text;
     AnimationState m_animation;

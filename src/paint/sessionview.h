@@ -23,6 +23,10 @@ public:
     // Shows the Superformat picture (the session's SuperDIB) in the Superformat viewer, after
     // a Superformat paint.
     virtual void showSuperformat() {}
+    // frmDiaSetBildquelle: lets the user choose a file or a directory as the photo source
+    // (the session's PicSourceList and the panel's source option); false when nothing was
+    // chosen or there is no window to ask in.
+    virtual bool choosePicSource() { return false; }
     // Opens the matrix window ("The Matrix") with glyphs of `glyph` pixels falling at `speed`
     // (1..10); answers false when there is no window to open it in.
     virtual bool openMatrixWindow(int glyph, int speed)

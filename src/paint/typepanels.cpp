@@ -60,6 +60,11 @@ std::span<const TypePanel> typePanels()
         {"ART-Mondrian-LeadGlass", "feat_20MLeadGlass"},
         {"ART-Cathedral-LeadGlass", "feat_21CathedralWindow"},
         {"Plasma", "feat_22Plasma"},
+        {"PIC-Mosaik", "feat_15PicMosaik"},
+        {"PIC-MosaikSuper", "feat_15PicMosaik"},
+        {"PIC-DiaShow", "feat_15PicMosaik"},
+        {"Photo-CUBE", "feat_15PicMosaik"},
+        {"Photo-CUBESuper", "feat_15PicMosaik"},
     };
     return table;
 }
