@@ -12,6 +12,7 @@
 #include "generators/leadglass.h"
 #include "generators/mondrian.h"
 #include "generators/papers.h"
+#include "generators/photocubepaint.h"
 #include "generators/photocubepanel.h"
 #include "generators/plasmapaint.h"
 #include "generators/polygraphics.h"
@@ -58,8 +59,8 @@ std::span<const PainterEntry> painterTable()
         {"PIC-DiaShow", nullptr, NoUndo},
         {"ART-Mondrian-LeadGlass", paintLeadGlass, Prepare},
         {"ART-Cathedral-LeadGlass", paintCathedralWindow, Prepare},
-        {"Photo-CUBE", nullptr, Prepare},
-        {"Photo-CUBESuper", nullptr, Prepare},
+        {"Photo-CUBE", paintPhotoCube, Prepare},
+        {"Photo-CUBESuper", paintPhotoCubeSuper, NoUndo},
         {"Interne Kacheln", Create_Interne_Webtiles, Prepare},
         // Group 3
         {"Poly-Elliptic", paintPolyElliptic, Prepare},

@@ -5,6 +5,7 @@
 #include "core/picturebox.h"
 #include "generators/longrun.h"
 #include "generators/photocubepanel.h"
+#include "generators/photocubesource.h"
 #include "paint/painter.h"
 #include "paint/session.h"
 #include "paint/superformatpaint.h"
@@ -59,7 +60,7 @@ std::optional<QSize> checkPhotoCubeSuperSize(Session &s)
     if (typedW > LongPaintSide || typedH > LongPaintSide) {
         const Answer a = s.ask(
             QCoreApplication::translate(
-                "PhotoCube",
+                "PicMosaik",
                 "Diese Bildgröße erfordert einige Berechnungszeit. Sorgen Sie bitte unbedingt "
                 "dafür, daß die Quellbilder groß genug für dieses Mosaik sind, oder aktivieren "
                 "Sie die Option [] Kleine Bilder zulassen!"),
@@ -123,5 +124,21 @@ void Draw_Photo_CUBE(PaintContext &ctx, CubePhotoSource &photos, bool super, QSi
         Ende_Transparent(s);
     });
 }
+
+void Create_PhotoCube(PaintContext &ctx, bool super)
+{
+    guarded(QStringLiteral("Create_PhotoCube"), [&] {
+        std::optional<QSize> size;
+        if (super) {
+            size = checkPhotoCubeSuperSize(ctx.session);
+            if (!size) return;
+        }
+        PanelCubePhotos photos;
+        Draw_Photo_CUBE(ctx, photos, super, size.value_or(QSize()));
+    });
+}
+
+void paintPhotoCube(PaintContext &ctx) { Create_PhotoCube(ctx, false); }
+void paintPhotoCubeSuper(PaintContext &ctx) { Create_PhotoCube(ctx, true); }
 
 } // namespace tf

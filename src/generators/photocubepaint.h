@@ -46,4 +46,12 @@ CubeLook cubeLookOfPaint(PaintContext &ctx);
 void Draw_Photo_CUBE(PaintContext &ctx, CubePhotoSource &photos, bool super,
                      QSize superSize = QSize());
 
+// The command: the size check for the Superformat, then the cube from the panel's photo
+// source (the session's PicSourceList, as the photo mosaic uses it).
+void Create_PhotoCube(PaintContext &ctx, bool super);
+
+// The painters of "Photo-CUBE" and "Photo-CUBESuper".
+void paintPhotoCube(PaintContext &ctx);
+void paintPhotoCubeSuper(PaintContext &ctx);
+
 } // namespace tf

@@ -1,6 +1,9 @@
 #include "generators/photocubepanel.h"
 
+#include "generators/picmosaik.h"
 #include "paint/controls.h"
+
+#include <stdexcept>
 
 #include <QCoreApplication>
 
@@ -8,15 +11,28 @@ namespace tf {
 
 namespace {
 ControlKey key(const char *name, int index = -1) { return ControlKey{QString::fromLatin1(name), index}; }
+
+// The photo source's controls of the mosaic's panel, shown here too (the same values).
+ControlSpec sharedControl(const char *name)
+{
+    const ControlSpec *def = findControlSpec(key(name));
+    if (!def) throw std::logic_error("photo cube panel before the mosaic's");
+    return *def;
+}
+
 } // namespace
 
 const ControlPanel &photoCubePanel()
 {
     using K = ControlKind;
+    registerPicMosaikPanels();
     static const ControlPanel panel{
         QString::fromLatin1(PhotoCubePanelName),
         QT_TRANSLATE_NOOP("Controls", "Foto-Würfel"),
         {
+            sharedControl("optPicMosaikSource"),
+            sharedControl("XPicMosaikSubDirs"),
+            sharedControl("XPicMosaik_MixSlots"),
             controlSpec("XPhotoCubeShadow", -1, K::Checked, QT_TRANSLATE_NOOP("Controls", "Schatten"), "1"),
             controlSpec("scrollPhotoCube", 0, K::Value, QT_TRANSLATE_NOOP("Controls", "Größe"), "62", 20,
                         90, {}, " %"),
@@ -28,6 +44,9 @@ const ControlPanel &photoCubePanel()
                         0, 1,
                         {QT_TRANSLATE_NOOP("Controls", "von links"),
                          QT_TRANSLATE_NOOP("Controls", "von rechts")}),
+        },
+        {
+            {"BtnPicMosaik_SetPics", "...", BtnPicMosaik_SetPics},
         }};
     return panel;
 }

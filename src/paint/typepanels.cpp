@@ -63,8 +63,8 @@ std::span<const TypePanel> typePanels()
         {"PIC-Mosaik", "feat_15PicMosaik"},
         {"PIC-MosaikSuper", "feat_15PicMosaik"},
         {"PIC-DiaShow", "feat_15PicMosaik"},
-        {"Photo-CUBE", "feat_15PicMosaik"},
-        {"Photo-CUBESuper", "feat_15PicMosaik"},
+        {"Photo-CUBE", "feat_16PhotoCube"},
+        {"Photo-CUBESuper", "feat_16PhotoCube"},
     };
     return table;
 }

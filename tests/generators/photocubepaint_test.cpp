@@ -150,3 +150,150 @@ TEST_F(PhotoCubePaintTest, StopLeavesTheRowsPaintedSoFar)
 }
 
 } // namespace
+
+// ---- the cube from the panel's photo source -------------------------------------------------
+
+#include "support/testdata.h"
+
+#include <QTemporaryDir>
+
+namespace {
+
+// The look a paint with random values off takes from the panel.
+tf::CubeLook cubeLookOfPaintFor(tf::Session &s)
+{
+    tf::PaintContext ctx{s, s.workspace().Bild, s.workspace().BildUndo, s.workspace().BildWork,
+                         tf::readOptionVariables(s.controls(), 1, 1)};
+    return tf::cubeLookOfPaint(ctx);
+}
+
+struct PhotoCubeSourceTest : PaintFixture {
+    void source(const QString &path, bool file)
+    {
+        s.picSources().PicSource = path;
+        set("optPicMosaikSource", file ? QStringLiteral("0") : QStringLiteral("1"));
+    }
+    void superSize(int w, int h)
+    {
+        set("txtSuperSize", QString::number(w), 0);
+        set("txtSuperSize", QString::number(h), 1);
+    }
+};
+
+TEST_F(PhotoCubeSourceTest, MissingSourcesSayWhatToDoAndLeaveThePicture)
+{
+    size(160, 120);
+    fixedColours(RGB(0, 0, 0), RGB(255, 255, 255));
+    ground(RGB(9, 99, 199));
+    const QImage before = image().copy();
+    source(QString(), false);
+    paint("Photo-CUBE");
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("Stellen Sie bitte zuerst ein Bildverzeichnis "
+                                                  "ein!\r\nVerwenden Sie bitte den [...]-Befehl."));
+    source(QString(), true);
+    paint("Photo-CUBE");
+    EXPECT_EQ(prompter.lastText(),
+              QStringLiteral("Wählen Sie bitte zuerst ein Bild aus!\r\nVerwenden Sie bitte den [...]-Befehl."));
+    QTemporaryDir empty;
+    source(empty.path(), false);
+    paint("Photo-CUBE");
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("Kann keine gültigen Bilder finden in ") + empty.path());
+    EXPECT_EQ(image(), before);
+}
+
+TEST_F(PhotoCubeSourceTest, AOnePixelPhotoCoversEveryFace)
+{
+    QTemporaryDir dir;
+    QImage one(1, 1, QImage::Format_RGB32);
+    one.fill(qRgb(200, 120, 40));
+    ASSERT_TRUE(one.save(dir.filePath(QStringLiteral("one.png"))));
+    size(240, 200);
+    fixedColours(RGB(0, 0, 0), RGB(255, 255, 255));
+    set("XPhotoCubeShadow", QStringLiteral("0"));
+    for (bool file : {true, false}) {
+        source(file ? dir.filePath(QStringLiteral("one.png")) : dir.path(), file);
+        ASSERT_EQ(paint("Photo-CUBE"), PaintOutcome::Painted);
+        EXPECT_TRUE(prompter.asked().empty()) << prompter.lastText().toStdString();
+        const CubeScene scene({240, 200}, cubeLookOfPaintFor(s));
+        for (CubeFace f : {CubeFace::Top, CubeFace::Left, CubeFace::Right}) {
+            const QPointF p = scene.pointOf(f, 0.5, 0.5);
+            const QRgb c = image().pixel(int(p.x()), int(p.y()));
+            const double k = scene.shade(f, 0.5, 0.5);
+            EXPECT_NEAR(qRed(c), 200 * k, 1.5);
+            EXPECT_NEAR(qGreen(c), 120 * k, 1.5);
+            EXPECT_NEAR(qBlue(c), 40 * k, 1.5);
+        }
+    }
+}
+
+TEST_F(PhotoCubeSourceTest, UnreadablePhotosAreNamedAndPassedOver)
+{
+    QTemporaryDir dir;
+    QFile bad(dir.filePath(QStringLiteral("a_broken.jpg")));
+    ASSERT_TRUE(bad.open(QIODevice::WriteOnly));
+    bad.write("\xFF\xD8\xFF not a picture");
+    bad.close();
+    QImage good(8, 8, QImage::Format_RGB32);
+    good.fill(qRgb(30, 200, 30));
+    ASSERT_TRUE(good.save(dir.filePath(QStringLiteral("b_good.png"))));
+    size(160, 120);
+    fixedColours(RGB(0, 0, 0), RGB(255, 255, 255));
+    source(dir.path(), false);
+    ASSERT_EQ(paint("Photo-CUBE"), PaintOutcome::Painted);
+    EXPECT_TRUE(prompter.asked().empty()) << prompter.lastText().toStdString();
+    // Every face shows the one photo that could be read.
+    const QRgb top = image().pixel(80, 45);
+    EXPECT_GT(qGreen(top), 2 * qRed(top));
+    // Only broken photos: the message of an empty directory.
+    QFile::remove(dir.filePath(QStringLiteral("b_good.png")));
+    s.picSources().clear();
+    paint("Photo-CUBE");
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("Kann keine gültigen Bilder finden in ") + dir.path());
+}
+
+TEST_F(PhotoCubeSourceTest, PhotosOfADirectoryPaintTheSameInThePictureAndInSuperformat)
+{
+    TF_REQUIRE_TESTDATA();
+    size(320, 240);
+    fixedColours(RGB(0, 0, 0), RGB(240, 236, 228));
+    s.colours().RandomValues = true;
+    source(testdataPath(QStringLiteral("photos/kodak/landscape")), false);
+    ASSERT_EQ(paint("Photo-CUBE", 21), PaintOutcome::Painted);
+    EXPECT_TRUE(prompter.asked().empty());
+    EXPECT_EQ(s.picSources().PicCount, 18);
+    const QImage picture = image().copy();
+    EXPECT_NE(picture.pixel(160, 120), qRgb(240, 236, 228)); // the cube stands in the middle
+    EXPECT_EQ(picture.pixel(1, 1), qRgb(240, 236, 228));
+    superSize(320, 240);
+    ASSERT_EQ(paint("Photo-CUBESuper", 21), PaintOutcome::Painted);
+    const cDIBSection &dib = s.superformat().SuperDIB;
+    ASSERT_EQ(dib.dib_width(), 320);
+    int differ = 0;
+    for (int y = 0; y < 240; ++y)
+        for (int x = 0; x < 320; ++x)
+            differ += fromQRgb(picture.pixel(x, y)) != dib.dib_hdc().pixel(x, y);
+    EXPECT_EQ(differ, 0);
+    // The same seed paints the same picture again; another seed another one.
+    ASSERT_EQ(paint("Photo-CUBE", 21), PaintOutcome::Painted);
+    EXPECT_EQ(image(), picture);
+    ASSERT_EQ(paint("Photo-CUBE", 22), PaintOutcome::Painted);
+    EXPECT_NE(image(), picture);
+}
+
+TEST_F(PhotoCubeSourceTest, SuperformatChecksItsSizeBeforeItLooksForPhotos)
+{
+    source(QString(), false);
+    superSize(0, 500);
+    paint("Photo-CUBESuper");
+    ASSERT_EQ(prompter.asked().size(), 1u);
+    EXPECT_EQ(prompter.lastText(), QStringLiteral("0 - sizes not allowed"));
+    prompter.clear();
+    superSize(6000, 500);
+    prompter.script({Answer::Cancel});
+    paint("Photo-CUBESuper");
+    ASSERT_EQ(prompter.asked().size(), 1u);
+    EXPECT_TRUE(prompter.lastText().startsWith(QStringLiteral("Diese Bildgröße erfordert")));
+    EXPECT_EQ(s.superformat().SuperDIB.hDIB(), 0u);
+}
+
+} // namespace
