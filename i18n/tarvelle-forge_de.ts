@@ -1392,6 +1392,30 @@
         <source>Nur Innenbilder</source>
         <translation>Nur Innenbilder</translation>
     </message>
+    <message>
+        <source>Foto-Würfel</source>
+        <translation>Foto-Würfel</translation>
+    </message>
+    <message>
+        <source>Drehung</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>Blick von oben</source>
+        <translation>Blick von oben</translation>
+    </message>
+    <message>
+        <source>Licht</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>von links</source>
+        <translation>von links</translation>
+    </message>
+    <message>
+        <source>von rechts</source>
+        <translation>von rechts</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -1588,6 +1612,34 @@
     <message>
         <source>Ungültiges Bild </source>
         <translation>Ungültiges Bild </translation>
+    </message>
+    <message>
+        <source>Diese Bildgröße erfordert einige Berechnungszeit. Sorgen Sie bitte unbedingt dafür, daß die Quellbilder groß genug für dieses Mosaik sind, oder aktivieren Sie die Option [] Kleine Bilder zulassen!</source>
+        <translation>Diese Bildgröße erfordert einige Berechnungszeit. Sorgen Sie bitte unbedingt dafür, daß die Quellbilder groß genug für dieses Mosaik sind, oder aktivieren Sie die Option [] Kleine Bilder zulassen!</translation>
+    </message>
+    <message>
+        <source>Verwenden Sie bitte den [...]-Befehl.</source>
+        <translation>Verwenden Sie bitte den [...]-Befehl.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie bitte zuerst ein Bild aus!</source>
+        <translation>Wählen Sie bitte zuerst ein Bild aus!</translation>
+    </message>
+    <message>
+        <source>Stellen Sie bitte zuerst ein Bildverzeichnis ein!</source>
+        <translation>Stellen Sie bitte zuerst ein Bildverzeichnis ein!</translation>
+    </message>
+    <message>
+        <source>Kann keine gültigen Bilder finden in </source>
+        <translation>Kann keine gültigen Bilder finden in </translation>
+    </message>
+    <message>
+        <source>Suche Bilder in </source>
+        <translation>Suche Bilder in </translation>
+    </message>
+    <message>
+        <source> pictures</source>
+        <translation> pictures</translation>
     </message>
 </context>
 <context>

@@ -1393,6 +1393,30 @@
         <source>Nur Innenbilder</source>
         <translation>Only centerpictures</translation>
     </message>
+    <message>
+        <source>Foto-Würfel</source>
+        <translation>Photo cube</translation>
+    </message>
+    <message>
+        <source>Drehung</source>
+        <translation>Turn</translation>
+    </message>
+    <message>
+        <source>Blick von oben</source>
+        <translation>View from above</translation>
+    </message>
+    <message>
+        <source>Licht</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>von links</source>
+        <translation>from the left</translation>
+    </message>
+    <message>
+        <source>von rechts</source>
+        <translation>from the right</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>
@@ -1589,6 +1613,34 @@
     <message>
         <source>Ungültiges Bild </source>
         <translation>No valid picture </translation>
+    </message>
+    <message>
+        <source>Diese Bildgröße erfordert einige Berechnungszeit. Sorgen Sie bitte unbedingt dafür, daß die Quellbilder groß genug für dieses Mosaik sind, oder aktivieren Sie die Option [] Kleine Bilder zulassen!</source>
+        <translation>This mosaic will take some time for calculations. Please make sure that the source pictures are not too small, or active the option [] Allow small pictures!</translation>
+    </message>
+    <message>
+        <source>Verwenden Sie bitte den [...]-Befehl.</source>
+        <translation>Please use the [...] command.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie bitte zuerst ein Bild aus!</source>
+        <translation>Please choose a picture first!</translation>
+    </message>
+    <message>
+        <source>Stellen Sie bitte zuerst ein Bildverzeichnis ein!</source>
+        <translation>Please set a picture directory first!</translation>
+    </message>
+    <message>
+        <source>Kann keine gültigen Bilder finden in </source>
+        <translation>No valid pictures in </translation>
+    </message>
+    <message>
+        <source>Suche Bilder in </source>
+        <translation>Searching pictures in </translation>
+    </message>
+    <message>
+        <source> pictures</source>
+        <translation> pictures</translation>
     </message>
 </context>
 <context>

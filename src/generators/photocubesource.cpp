@@ -22,14 +22,26 @@ ControlKey key(const char *name, int index = -1) { return {QString::fromLatin1(n
 constexpr double CutShare = 0.5, CutRange = 0.3;
 
 // The texts the photo mosaic shows for the same cases (its translation context).
-QString tr(const char *text) { return QCoreApplication::translate("PicMosaik", text); }
-QString useTheCommand() { return QStringLiteral("\r\n") + tr("Verwenden Sie bitte den [...]-Befehl."); }
-QString chooseAPictureFirst() { return tr("Wählen Sie bitte zuerst ein Bild aus!") + useTheCommand(); }
+QString useTheCommand()
+{
+    return QStringLiteral("\r\n") +
+           QCoreApplication::translate("PicMosaik", "Verwenden Sie bitte den [...]-Befehl.");
+}
+QString chooseAPictureFirst()
+{
+    return QCoreApplication::translate("PicMosaik", "Wählen Sie bitte zuerst ein Bild aus!") +
+           useTheCommand();
+}
 QString chooseADirectoryFirst()
 {
-    return tr("Stellen Sie bitte zuerst ein Bildverzeichnis ein!") + useTheCommand();
+    return QCoreApplication::translate("PicMosaik",
+                                       "Stellen Sie bitte zuerst ein Bildverzeichnis ein!") +
+           useTheCommand();
 }
-QString noValidPictures(const QString &path) { return tr("Kann keine gültigen Bilder finden in ") + path; }
+QString noValidPictures(const QString &path)
+{
+    return QCoreApplication::translate("PicMosaik", "Kann keine gültigen Bilder finden in ") + path;
+}
 
 // One face's photo: its file and the square it shows: the top left corner in shares of the
 // photo's width and height, the side in shares of its shorter side (a null cut: the middle
@@ -90,7 +102,8 @@ bool listOf(Session &s, const QString &dir, bool recurse)
     PicSourceList &src = s.picSources();
     if (src.holds(dir, recurse)) return src.PicCount > 0;
     src.clear();
-    s.status().setPanelText(sbrState, tr("Suche Bilder in ") + dir);
+    s.status().setPanelText(sbrState,
+                            QCoreApplication::translate("PicMosaik", "Suche Bilder in ") + dir);
     int32_t count = 0;
     xLib_DirRekurs(src.ListPicDir, dir, QStringLiteral("*.*"), recurse, true, count);
     src.PicCount = count;
@@ -98,7 +111,8 @@ bool listOf(Session &s, const QString &dir, bool recurse)
     src.LastRecurse = recurse;
     src.resetUsed();
     src.ListValid = true;
-    s.status().setPanelText(sbrState, QString::number(count) + tr(" pictures"));
+    s.status().setPanelText(sbrState, QString::number(count) +
+                                          QCoreApplication::translate("PicMosaik", " pictures"));
     return count > 0;
 }
 
