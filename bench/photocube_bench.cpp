@@ -1,8 +1,11 @@
 // Speed of the photo cube's picture at 4096 x 4096 from three photos of the shared test
-// files: building the faces' halved copies, and painting the rows on one thread and on all.
+// files: building the faces' halved copies, painting the rows on one thread and on all, and
+// the whole paint of "Photo-CUBE" from the directory (picks, decoding, rows), beside the
+// yardstick of writing the picture's bytes once.
 #include "core/parallel.h"
 #include "generators/cubetexture.h"
 #include "generators/photocube.h"
+#include "painterbench.h"
 
 #include <QImage>
 #include <benchmark/benchmark.h>
@@ -48,7 +51,21 @@ void paintCube(benchmark::State &state)
     state.SetItemsProcessed(state.iterations() * int64_t(side) * side);
 }
 
+void paintFromDirectory(benchmark::State &state)
+{
+    const auto session = tf::bench::paintSession(4096, 4096);
+    Session &s = *session;
+    s.colours().RandomValues = true;
+    s.picSources().PicSource = QStringLiteral(TF_TESTDATA_DIR "/photos/kodak/landscape");
+    s.controls().set(ControlKey{QStringLiteral("optPicMosaikSource")}, QStringLiteral("1"));
+    tf::bench::paintLoop(state, s, QStringLiteral("Photo-CUBE"), 4096, 4096);
+}
+
+void writeBytes(benchmark::State &state) { tf::bench::writeBytes(state, 4096); }
+
 BENCHMARK(buildFaces)->Unit(benchmark::kMillisecond);
 BENCHMARK(paintCube)->Arg(1)->Arg(0)->Unit(benchmark::kMillisecond);
+BENCHMARK(paintFromDirectory)->Unit(benchmark::kMillisecond);
+BENCHMARK(writeBytes)->Unit(benchmark::kMillisecond);
 
 } // namespace
