@@ -235,3 +235,18 @@ TEST(PhotoCube, PictureAndSurfaceGetTheSamePixelsInAnyBandsOfRows)
             ASSERT_EQ(picture.pixel(x, y), qRgb(r[x * 3 + 2], r[x * 3 + 1], r[x * 3])) << x << "," << y;
     }
 }
+
+TEST(PhotoCube, TinyAndThinPicturesArePaintedWhole)
+{
+    const CubeTexture t(flat(3, 3, qRgb(100, 150, 200)));
+    for (QSize size : {QSize(1, 1), QSize(3, 2), QSize(500, 4), QSize(4, 300)}) {
+        const CubeScene scene(size, CubeLook{});
+        EXPECT_GE(scene.faceSide(), 1);
+        QImage img(size, QImage::Format_RGB32);
+        img.fill(Qt::magenta);
+        scene.paintRows({&t, &t, &t}, PixelRows::of(img), 0, size.height());
+        for (int y = 0; y < size.height(); ++y)
+            for (int x = 0; x < size.width(); ++x)
+                ASSERT_NE(img.pixel(x, y), QColor(Qt::magenta).rgb()) << size.width() << "x" << size.height();
+    }
+}
