@@ -3,6 +3,7 @@
 #include "core/numeric.h"
 #include "core/parallel.h"
 #include "core/status.h"
+#include "core/yield.h"
 #include "files/cdstdpicture.h"
 #include "paint/controls.h"
 #include "paint/painter.h"
@@ -96,16 +97,37 @@ void decode(std::vector<FacePick> &picks, int faceSide)
                    [](int) {});
 }
 
-// The directory's list of photos, scanned when it does not hold this source.
-bool listOf(Session &s, const QString &dir, bool recurse)
+// Gives way once per directory of a scan; a Stop ends the scan.
+class ScanYield : public YieldHook {
+public:
+    explicit ScanYield(PaintContext &ctx) : m_ctx(ctx) {}
+    bool yield() override
+    {
+        m_ctx.DoEvents();
+        return m_ctx.stopRequested();
+    }
+
+private:
+    PaintContext &m_ctx;
+};
+
+// The directory's list of photos, scanned when it does not hold this source. False when it
+// holds none, or the scan was stopped (then the list is left invalid).
+bool listOf(PaintContext &ctx, const QString &dir, bool recurse)
 {
+    Session &s = ctx.session;
     PicSourceList &src = s.picSources();
     if (src.holds(dir, recurse)) return src.PicCount > 0;
     src.clear();
     s.status().setPanelText(sbrState,
                             QCoreApplication::translate("PicMosaik", "Suche Bilder in ") + dir);
     int32_t count = 0;
-    xLib_DirRekurs(src.ListPicDir, dir, QStringLiteral("*.*"), recurse, true, count);
+    ScanYield yield(ctx);
+    if (!xLib_DirRekurs(src.ListPicDir, dir, QStringLiteral("*.*"), recurse, true, count, &yield)) {
+        src.clear();
+        s.status().setPanelText(sbrState, QString());
+        return false;
+    }
     src.PicCount = count;
     src.LastSource = dir;
     src.LastRecurse = recurse;
@@ -120,7 +142,8 @@ bool fromDirectory(PaintContext &ctx, const QString &dir, bool recurse, int face
                    std::array<QImage, 3> &faces)
 {
     Session &s = ctx.session;
-    if (!listOf(s, dir, recurse)) {
+    if (!listOf(ctx, dir, recurse)) {
+        if (ctx.stopRequested()) return false;
         s.ask(noValidPictures(dir), Buttons::Ok, Icon::Exclamation);
         return false;
     }

@@ -280,6 +280,26 @@ TEST_F(PhotoCubeSourceTest, PhotosOfADirectoryPaintTheSameInThePictureAndInSuper
     EXPECT_NE(image(), picture);
 }
 
+TEST_F(PhotoCubeSourceTest, AStopDuringTheScanEndsQuietly)
+{
+    QTemporaryDir dir;
+    QImage photo(4, 4, QImage::Format_RGB32);
+    photo.fill(qRgb(1, 2, 3));
+    ASSERT_TRUE(photo.save(dir.filePath(QStringLiteral("p.png"))));
+    size(120, 90);
+    fixedColours(RGB(0, 0, 0), RGB(255, 255, 255));
+    ground(RGB(70, 80, 90));
+    const QImage before = image().copy();
+    source(dir.path(), false);
+    StopAtOnce stop;
+    s.setYieldHook(&stop);
+    paint("Photo-CUBE");
+    s.setYieldHook(nullptr);
+    EXPECT_TRUE(prompter.asked().empty());
+    EXPECT_FALSE(s.picSources().ListValid);
+    EXPECT_EQ(image(), before);
+}
+
 TEST_F(PhotoCubeSourceTest, SuperformatChecksItsSizeBeforeItLooksForPhotos)
 {
     source(QString(), false);
