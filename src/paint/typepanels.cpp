@@ -1,5 +1,6 @@
 #include "paint/typepanels.h"
 
+#include "paint/controls.h"
 #include "paint/grafdialogpanel.h"
 #include "paint/textstate.h"
 
@@ -84,6 +85,17 @@ QStringList panelsReadBy(const QString &key)
     const QString own = optionPanelOf(key);
     if (!own.isEmpty()) out << own;
     return out;
+}
+
+bool readsPhotoSource(const QString &key)
+{
+    const QStringList names = panelsReadBy(key);
+    for (const ControlPanel *panel : controlPanels()) {
+        if (!names.contains(panel->name)) continue;
+        for (const ControlSpec &def : panel->controls)
+            if (def.key.name == QLatin1String("optPicMosaikSource")) return true;
+    }
+    return false;
 }
 
 } // namespace tf

@@ -2,6 +2,7 @@
 // the same pixels, a source without photos leaving everything as it was, and Stop.
 #include "generators/photocubepaint.h"
 #include "generators/photocubepanel.h"
+#include "paint/typepanels.h"
 #include "paint/painter.h"
 
 #include "paintfixture.h"
@@ -278,6 +279,14 @@ TEST_F(PhotoCubeSourceTest, PhotosOfADirectoryPaintTheSameInThePictureAndInSuper
     EXPECT_EQ(image(), picture);
     ASSERT_EQ(paint("Photo-CUBE", 22), PaintOutcome::Painted);
     EXPECT_NE(image(), picture);
+}
+
+TEST_F(PhotoCubeSourceTest, TheCubeAndTheMosaicReadThePhotoSource)
+{
+    for (const char *key : {"Photo-CUBE", "Photo-CUBESuper", "PIC-Mosaik", "PIC-MosaikSuper"})
+        EXPECT_TRUE(readsPhotoSource(QString::fromLatin1(key))) << key;
+    for (const char *key : {"ART-Mondrian", "Backgroundcolor", "Plasma"})
+        EXPECT_FALSE(readsPhotoSource(QString::fromLatin1(key))) << key;
 }
 
 TEST_F(PhotoCubeSourceTest, AStopDuringTheScanEndsQuietly)
