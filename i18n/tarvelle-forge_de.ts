@@ -1419,6 +1419,30 @@
         <source>Nur Innenbilder</source>
         <translation>Nur Innenbilder</translation>
     </message>
+    <message>
+        <source>Foto-Würfel</source>
+        <translation>Foto-Würfel</translation>
+    </message>
+    <message>
+        <source>Drehung</source>
+        <translation>Drehung</translation>
+    </message>
+    <message>
+        <source>Blick von oben</source>
+        <translation>Blick von oben</translation>
+    </message>
+    <message>
+        <source>Licht</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>von links</source>
+        <translation>von links</translation>
+    </message>
+    <message>
+        <source>von rechts</source>
+        <translation>von rechts</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

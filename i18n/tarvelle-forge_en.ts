@@ -1420,6 +1420,30 @@
         <source>Nur Innenbilder</source>
         <translation>Only centerpictures</translation>
     </message>
+    <message>
+        <source>Foto-Würfel</source>
+        <translation>Photo cube</translation>
+    </message>
+    <message>
+        <source>Drehung</source>
+        <translation>Turn</translation>
+    </message>
+    <message>
+        <source>Blick von oben</source>
+        <translation>View from above</translation>
+    </message>
+    <message>
+        <source>Licht</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>von links</source>
+        <translation>from the left</translation>
+    </message>
+    <message>
+        <source>von rechts</source>
+        <translation>from the right</translation>
+    </message>
 </context>
 <context>
     <name>Decode</name>

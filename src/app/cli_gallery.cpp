@@ -16,6 +16,7 @@
 #include "paint/paintrecord.h"
 #include "paint/session.h"
 #include "paint/superformat.h"
+#include "paint/typepanels.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -219,7 +220,7 @@ int runGallery(const QStringList &args)
             const PainterEntry *entry = findPainter(painterTable(), key);
             if (!entry || !entry->paint) continue;
             // The types that paint photos need a source to paint from.
-            if (o.source.isEmpty() && readsPhotos(key)) continue;
+            if (o.source.isEmpty() && readsPhotoSource(key)) continue;
             std::optional<PaintRecord> record, base;
             const QImage picture = paintOne(key, o, temp, record, base);
             const QString file = pictureFileName(key);

@@ -53,7 +53,5 @@ bool applyColours(Session &s, const PaintOptions &o);
 // the program's message and exit code 2 before anything is painted or written. A UsageError
 // for --source given to a type that reads no photos.
 int applyPicSource(Session &s, const PaintOptions &o);
-// The type paints photos (it shows the panel of the photo source).
-bool readsPhotos(const QString &type);
 
 } // namespace tf::cli

@@ -13,14 +13,9 @@
 
 namespace tf::cli {
 
-bool readsPhotos(const QString &type)
-{
-    return optionPanelOf(type) == QLatin1String(PicMosaikPanelName);
-}
-
 int applyPicSource(Session &s, const PaintOptions &o)
 {
-    if (!readsPhotos(o.type)) {
+    if (!readsPhotoSource(o.type)) {
         if (!o.source.isEmpty())
             throw UsageError(QCoreApplication::translate(
                                  "Cli", "Die Option --source gilt nur für Typen mit Fotos, "

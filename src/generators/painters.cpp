@@ -14,6 +14,8 @@
 #include "generators/mondrian.h"
 #include "generators/papers.h"
 #include "generators/picmosaik.h"
+#include "generators/photocubepaint.h"
+#include "generators/photocubepanel.h"
 #include "generators/plasmapaint.h"
 #include "generators/polygraphics.h"
 #include "generators/polypanels.h"
@@ -60,8 +62,8 @@ std::span<const PainterEntry> painterTable()
         {"PIC-DiaShow", paintPicDiaShow, NoUndo},
         {"ART-Mondrian-LeadGlass", paintLeadGlass, Prepare},
         {"ART-Cathedral-LeadGlass", paintCathedralWindow, Prepare},
-        {"Photo-CUBE", nullptr, Prepare},
-        {"Photo-CUBESuper", nullptr, Prepare},
+        {"Photo-CUBE", paintPhotoCube, Prepare},
+        {"Photo-CUBESuper", paintPhotoCubeSuper, NoUndo},
         {"Interne Kacheln", Create_Interne_Webtiles, Prepare},
         // Group 3
         {"Poly-Elliptic", paintPolyElliptic, Prepare},
@@ -178,6 +180,7 @@ void registerAllPanels()
         registerOrthoTextPanel();
         registerMondrianPanels();
         registerPlasmaPanels();
+        registerPhotoCubePanel();
         return true;
     }();
     (void)once;

@@ -1,5 +1,6 @@
 #include "paint/typepanels.h"
 
+#include "paint/controls.h"
 #include "paint/grafdialogpanel.h"
 #include "paint/textstate.h"
 
@@ -63,8 +64,8 @@ std::span<const TypePanel> typePanels()
         {"PIC-Mosaik", "feat_15PicMosaik"},
         {"PIC-MosaikSuper", "feat_15PicMosaik"},
         {"PIC-DiaShow", "feat_15PicMosaik"},
-        {"Photo-CUBE", "feat_15PicMosaik"},
-        {"Photo-CUBESuper", "feat_15PicMosaik"},
+        {"Photo-CUBE", "feat_16PhotoCube"},
+        {"Photo-CUBESuper", "feat_16PhotoCube"},
     };
     return table;
 }
@@ -84,6 +85,17 @@ QStringList panelsReadBy(const QString &key)
     const QString own = optionPanelOf(key);
     if (!own.isEmpty()) out << own;
     return out;
+}
+
+bool readsPhotoSource(const QString &key)
+{
+    const QStringList names = panelsReadBy(key);
+    for (const ControlPanel *panel : controlPanels()) {
+        if (!names.contains(panel->name)) continue;
+        for (const ControlSpec &def : panel->controls)
+            if (def.key.name == QLatin1String("optPicMosaikSource")) return true;
+    }
+    return false;
 }
 
 } // namespace tf

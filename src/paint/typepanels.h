@@ -23,5 +23,8 @@ std::span<const TypePanel> typePanels();
 QString optionPanelOf(const QString &key);
 // The panels a type reads: the paint dialog's general options, its dialog and its own panel.
 QStringList panelsReadBy(const QString &key);
+// Whether a type paints photos of the photo source: one of its panels holds the source's
+// control "optPicMosaikSource" (the photo mosaic's types and the photo cube).
+bool readsPhotoSource(const QString &key);
 
 } // namespace tf

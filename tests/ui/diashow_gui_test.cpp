@@ -135,7 +135,7 @@ TEST_F(DiaShowWindowTest, RepaintWithTheShowChosenRepeatsALoadedPresentation)
             m.ArrCellV(2, c, r) = 1;
         }
     maker.picSources().PicSource = testdataPath(QStringLiteral("photos/kodak/landscape"));
-    maker.controls().set({QStringLiteral("txtPicMosaik_Timer")}, QStringLiteral("0.1"));
+    maker.controls().set({QStringLiteral("txtPicMosaik_Timer")}, QStringLiteral("1"));
     const QString file = dir.filePath(QStringLiteral("zwei.tvp"));
     ASSERT_TRUE(picPresentation_Save(maker, file, QSize(800, 800)));
 

@@ -51,8 +51,9 @@ TEST_F(PicMosaikWindowTest, PaintsAMosaicOfThePhotosAndRepaintsItsFrames)
     for (const char *key : {"PIC-Mosaik", "PIC-MosaikSuper", "PIC-DiaShow", "Photo-CUBE",
                             "Photo-CUBESuper"}) {
         choose(key);
+        const bool cube = QString::fromLatin1(key).startsWith(QLatin1String("Photo-CUBE"));
         EXPECT_EQ(window->findChild<ui::FeatDialogDock *>()->currentPanel(),
-                  QStringLiteral("feat_15PicMosaik"))
+                  cube ? QStringLiteral("feat_16PhotoCube") : QStringLiteral("feat_15PicMosaik"))
             << key;
     }
     choose("PIC-Mosaik");
