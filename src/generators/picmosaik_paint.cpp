@@ -103,7 +103,7 @@ PicMosaikOptions readPicMosaikOptions(Session &s, bool super)
     o.subDirs = k.checked(key("XPicMosaikSubDirs"));
     o.mix = k.checked(key("XPicMosaik_MixSlots"));
     o.allowSmall = k.checked(key("XPicMosaik_UseSmallPics", 0));
-    o.tileSmall = o.allowSmall && k.checked(key("XPicMosaik_UseSmallPics", 1));
+    o.tileSmall = k.checked(key("XPicMosaik_UseSmallPics", 1));
     o.shrink = k.checked(key("XPicMosaikStretchpics"));
     o.center = k.checked(key("XPicMosaikCenterPics"));
     o.antiAlias = k.checked(key("XPicMosaikAliasing"));
@@ -114,15 +114,15 @@ PicMosaikOptions readPicMosaikOptions(Session &s, bool super)
     o.satRange = k.value(key("SliderSatur", 1));
     o.onlyGrey = k.checked(key("XPicMosaik_OnlyGrey"));
     o.fillAll = k.checked(key("XPicMosaik_FillAll"));
-    // "Nur freie Rahmen füllen" answers only while not every frame is filled, and never in
-    // the Superformat.
-    o.fillOnlyEmpty = !o.fillAll && !super && k.checked(key("XPicMosaik_FillOnlyEmpty"));
+    // "Nur freie Rahmen füllen" (enabled only while not every frame is filled) never answers
+    // in the Superformat.
+    o.fillOnlyEmpty = !super && k.checked(key("XPicMosaik_FillOnlyEmpty"));
     o.opt = std::clamp(k.listIndex(key("cmbPicMosaik_Options")), 0, 9);
     o.panelH = CInt(std::max(2.0, Val(k.text(key("txtPMKachel", 0)))));
     o.panelV = CInt(std::max(2.0, Val(k.text(key("txtPMKachel", 1)))));
     o.margin = CLng(Val(k.text(key("txtPMKachel", 2))));
     o.doSub = k.checked(key("XPicMosaik", 2));
-    o.harmonic = o.doSub && k.checked(key("XPicMosaik", 3));
+    o.harmonic = k.checked(key("XPicMosaik", 3));
     o.drawBorders = k.checked(key("XBorders"));
     o.centreLayout = k.checked(key("XCenter"));
     o.randomValues = s.colours().RandomValues;

@@ -2,6 +2,7 @@
 // "feat_15PicMosaik".
 #include "generators/picmosaik.h"
 
+#include "paint/controllinks.h"
 #include "paint/controls.h"
 
 #include <QtGlobal>
@@ -101,6 +102,14 @@ const ControlPanel &picMosaikPanel()
             {"BtnPicMosaik_SetPics", "...", BtnPicMosaik_SetPics},
             {"BtnPicMosaik_Repaint", QT_TRANSLATE_NOOP("Controls", "Repaint letztes Set"),
              BtnPicMosaik_Repaint},
+        },
+        {
+            enabledOnlyWith({controlKey("XPicMosaik", 3)}, {isOn("XPicMosaik", 2)}),
+            enabledOnlyWith({controlKey("XPicMosaik_UseSmallPics", 1)},
+                            {isOn("XPicMosaik_UseSmallPics", 0)}),
+            // Resampling is a way of shrinking.
+            enabledOnlyWith({controlKey("XPicMosaikAliasing")}, {isOn("XPicMosaikStretchpics")}),
+            enabledOnlyWith({controlKey("XPicMosaik_FillOnlyEmpty")}, {isOff("XPicMosaik_FillAll")}),
         }};
     return panel;
 }

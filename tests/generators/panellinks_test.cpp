@@ -96,3 +96,26 @@ TEST_F(PanelLinksTest, TheBoogieTypesDisableFormatAndMarginAndEnableTheirOwnCont
 }
 
 } // namespace
+
+// The photo mosaic's three dependent boxes read as off while the box they hang on says no.
+TEST_F(PanelLinksTest, TheMosaicsDependentBoxesReadAsOffUntilTheirBoxAllowsThem)
+{
+    struct Rule {
+        const char *box;
+        int index;
+        const char *on;
+        int onIndex;
+        const char *allowed; // the value of `on` that enables `box`
+    };
+    for (const Rule &r : {Rule{"XPicMosaik", 3, "XPicMosaik", 2, "1"},
+                          Rule{"XPicMosaik_UseSmallPics", 1, "XPicMosaik_UseSmallPics", 0, "1"},
+                          Rule{"XPicMosaikAliasing", -1, "XPicMosaikStretchpics", -1, "1"},
+                          Rule{"XPicMosaik_FillOnlyEmpty", -1, "XPicMosaik_FillAll", -1, "0"}}) {
+        const char *other = QLatin1String(r.allowed) == QLatin1String("1") ? "0" : "1";
+        set(r.on, other, r.onIndex);
+        set(r.box, "1", r.index);
+        EXPECT_FALSE(checked(r.box, r.index)) << r.box;
+        set(r.on, r.allowed, r.onIndex);
+        EXPECT_TRUE(checked(r.box, r.index)) << r.box;
+    }
+}
