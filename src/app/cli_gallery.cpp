@@ -131,7 +131,9 @@ QImage paintOne(const QString &key, const GalleryOptions &o, QTemporaryDir &temp
         if (!paintType(GalleryBase)) return QImage();
         base = s.paint().lastPaint;
     }
-    if (!o.source.isEmpty()) {
+    if (!o.source.isEmpty() && readsPhotoSource(key)) {
+        // A gallery shows what a folder of photos gives, its sub-folders included.
+        s.controls().set(controlKey("XPicMosaikSubDirs"), QStringLiteral("1"));
         PaintOptions paint;
         paint.type = key;
         paint.source = o.source;

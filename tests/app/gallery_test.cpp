@@ -1,6 +1,7 @@
 // `tarvelle-forge gallery` and the gradient types on the command line, run as the built
 // program.
 #include "forgeprocess.h"
+#include "support/testdata.h"
 
 #include <QDir>
 #include <QFile>
@@ -99,6 +100,21 @@ TEST(Gallery, ShowsReworkingAndSuperformatTypesOverSomethingPainted)
         ASSERT_FALSE(picture.isNull()) << file.toStdString();
         EXPECT_FALSE(isFlat(picture)) << file.toStdString();
     }
+}
+
+// With a folder of photos (its sub-folders walked) the photo types are in the gallery; other
+// types are not told about the photos.
+TEST(Gallery, WithPhotosThePhotoTypesPaintFromThem)
+{
+    TF_REQUIRE_TESTDATA();
+    QTemporaryDir dir;
+    const Outcome r = forge({QStringLiteral("gallery"), QStringLiteral("-o"), dir.path(),
+                             QStringLiteral("--group"), QStringLiteral("2"),
+                             QStringLiteral("--source"), testdataPath(QStringLiteral("photos")),
+                             QStringLiteral("--size"), QStringLiteral("160x128")});
+    ASSERT_EQ(r.code, 0) << r.err.toStdString();
+    for (const char *file : {"PIC-Mosaik.png", "Photo-CUBE.png", "Filled-Triangles.png"})
+        EXPECT_FALSE(QImage(QDir(dir.path()).filePath(QString::fromLatin1(file))).isNull()) << file;
 }
 
 TEST(Gallery, WithoutAFolderItIsBadUsage)
