@@ -107,8 +107,6 @@ const ControlPanel &picMosaikPanel()
             enabledOnlyWith({controlKey("XPicMosaik", 3)}, {isOn("XPicMosaik", 2)}),
             enabledOnlyWith({controlKey("XPicMosaik_UseSmallPics", 1)},
                             {isOn("XPicMosaik_UseSmallPics", 0)}),
-            // Resampling is a way of shrinking.
-            enabledOnlyWith({controlKey("XPicMosaikAliasing")}, {isOn("XPicMosaikStretchpics")}),
             enabledOnlyWith({controlKey("XPicMosaik_FillOnlyEmpty")}, {isOff("XPicMosaik_FillAll")}),
         }};
     return panel;

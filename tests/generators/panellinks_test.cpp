@@ -109,7 +109,6 @@ TEST_F(PanelLinksTest, TheMosaicsDependentBoxesReadAsOffUntilTheirBoxAllowsThem)
     };
     for (const Rule &r : {Rule{"XPicMosaik", 3, "XPicMosaik", 2, "1"},
                           Rule{"XPicMosaik_UseSmallPics", 1, "XPicMosaik_UseSmallPics", 0, "1"},
-                          Rule{"XPicMosaikAliasing", -1, "XPicMosaikStretchpics", -1, "1"},
                           Rule{"XPicMosaik_FillOnlyEmpty", -1, "XPicMosaik_FillAll", -1, "0"}}) {
         const char *other = QLatin1String(r.allowed) == QLatin1String("1") ? "0" : "1";
         set(r.on, other, r.onIndex);
