@@ -90,6 +90,54 @@ bool sizeFromSurface(PaintContext &ctx, const FrameCanvas &canvas, int32_t &form
 
 } // namespace
 
+void makeMondrianSet(Session &s, const MondrianSetRequest &r, int16_t &penW)
+{
+    int16_t h = r.h, v = r.v, symH = r.symH, symV = r.symV, subH = r.subH, subV = r.subV;
+    int32_t seedH = 0, seedV = 0;
+    if (r.randomValues) {
+        h = CInt(Int(double(s.Rnd()) * 9) + 2);
+        v = CInt(Int(double(s.Rnd()) * 9) + 2);
+        symH = int16_t(Int(double(s.Rnd()) * 2));
+        symV = int16_t(Int(double(s.Rnd()) * 2));
+        subH = subV = 1;
+        if (penW == 1)
+            penW = int16_t(rounded(double(s.Rnd()) * 5) + 1);
+        if (r.doSub) {
+            if (rounded(double(s.Rnd())) == 1)
+                seedH = rounded(double(s.Rnd()) * double(s.Timer()));
+            if (rounded(double(s.Rnd())) == 1)
+                seedV = rounded(double(s.Rnd()) * double(s.Timer()));
+            else
+                seedV = seedH;
+        }
+    } else if (r.harmonic) {
+        seedH = rounded(double(s.Rnd()) * double(s.Timer()));
+        seedV = rounded(double(s.Rnd()) * double(s.Timer()));
+    }
+    MondrianTables &t = s.mondrian();
+    t.MondrianLastH = h;
+    t.MondrianLastV = v;
+    t.MondrianLastType = int16_t(r.type);
+    t.MondrianHSplits = h;
+    t.MondrianVSplits = v;
+    t.MondrianUnit = 1.0f;
+    t.MondrianGridW = 0;
+    t.MondrianGridH = 0;
+    MondrianSplitArgs a;
+    a.SymH = symH;
+    a.SymV = symV;
+    a.Pen = penW;
+    a.DoSub = r.doSub ? 1 : 0;
+    a.MinRatio = r.minRatio;
+    a.Mode = r.type;
+    a.Unit = 1.0f;
+    a.SeedH = seedH;
+    a.SeedV = seedV;
+    a.SubH = subH;
+    a.SubV = subV;
+    CreateArr_Mondrian_Splits(s, a);
+}
+
 void chooseMondrianColours(Session &s, bool withWhite)
 {
     const bool duoActive = s.colours().XDuotones[0] || s.colours().XDuotones[1];
@@ -188,55 +236,23 @@ void drawMondrian(PaintContext &ctx, FrameCanvas &canvas, MondrianCall call)
         chooseMondrianColours(s, o.withWhite);
 
     if (!repaint) {
-        int16_t h = o.panelH, v = o.panelV, subH = o.subH, subV = o.subV;
-        int16_t symH = call.SymH, symV = call.SymV;
-        int32_t seedH = 0, seedV = 0;
-        if (s.colours().RandomValues) {
-            if (call.Super) {
-                // Counts from the size, then drawn anew as for the picture: only the draws stay.
-                h = CInt(call.SuperW / 1024.0 + Int(double(s.Rnd()) * 9));
-                v = CInt(call.SuperH / 1024.0 + Int(double(s.Rnd()) * 9));
-            }
-            h = CInt(Int(double(s.Rnd()) * 9) + 2);
-            v = CInt(Int(double(s.Rnd()) * 9) + 2);
-            symH = int16_t(Int(double(s.Rnd()) * 2));
-            symV = int16_t(Int(double(s.Rnd()) * 2));
-            subH = subV = 1;
-            if (penW == 1)
-                penW = int16_t(rounded(double(s.Rnd()) * 5) + 1);
-            if (o.doSub) {
-                if (rounded(double(s.Rnd())) == 1)
-                    seedH = rounded(double(s.Rnd()) * double(s.Timer()));
-                if (rounded(double(s.Rnd())) == 1)
-                    seedV = rounded(double(s.Rnd()) * double(s.Timer()));
-                else
-                    seedV = seedH;
-            }
-        } else if (o.harmonic) {
-            seedH = rounded(double(s.Rnd()) * double(s.Timer()));
-            seedV = rounded(double(s.Rnd()) * double(s.Timer()));
+        // The Superformat drew counts from its size first; only their draws remain.
+        if (s.colours().RandomValues && call.Super) {
+            (void)s.Rnd();
+            (void)s.Rnd();
         }
-        t.MondrianLastH = h;
-        t.MondrianLastV = v;
-        t.MondrianLastType = int16_t(call.Type);
-        t.MondrianHSplits = h;
-        t.MondrianVSplits = v;
-        t.MondrianUnit = 1.0f;
-        t.MondrianGridW = 0;
-        t.MondrianGridH = 0;
-        MondrianSplitArgs a;
-        a.SymH = symH;
-        a.SymV = symV;
-        a.Pen = penW;
-        a.DoSub = o.doSub ? 1 : 0;
-        a.MinRatio = 2;
-        a.Mode = call.Type;
-        a.Unit = 1.0f;
-        a.SeedH = seedH;
-        a.SeedV = seedV;
-        a.SubH = subH;
-        a.SubV = subV;
-        CreateArr_Mondrian_Splits(s, a);
+        MondrianSetRequest r;
+        r.h = o.panelH;
+        r.v = o.panelV;
+        r.symH = call.SymH;
+        r.symV = call.SymV;
+        r.subH = o.subH;
+        r.subV = o.subV;
+        r.doSub = o.doSub;
+        r.harmonic = o.harmonic;
+        r.randomValues = s.colours().RandomValues;
+        r.type = call.Type;
+        makeMondrianSet(s, r, penW);
     }
 
     if (!call.Super) {

@@ -244,46 +244,17 @@ struct PicMosaikRun::Impl {
         }
 
         if (!repaint) {
-            int16_t h = o.panelH, v = o.panelV;
-            int16_t symH = call.SymH, symV = call.SymV;
-            int32_t seedH = 0, seedV = 0;
-            if (o.randomValues) {
-                h = CInt(Int(double(s.Rnd()) * 9) + 2);
-                v = CInt(Int(double(s.Rnd()) * 9) + 2);
-                symH = int16_t(Int(double(s.Rnd()) * 2));
-                symV = int16_t(Int(double(s.Rnd()) * 2));
-                if (penW == 1)
-                    penW = int16_t(rounded(double(s.Rnd()) * 5) + 1);
-                if (o.doSub) {
-                    if (rounded(double(s.Rnd())) == 1)
-                        seedH = rounded(double(s.Rnd()) * double(s.Timer()));
-                    if (rounded(double(s.Rnd())) == 1)
-                        seedV = rounded(double(s.Rnd()) * double(s.Timer()));
-                    else
-                        seedV = seedH;
-                }
-            } else if (o.harmonic) {
-                seedH = rounded(double(s.Rnd()) * double(s.Timer()));
-                seedV = rounded(double(s.Rnd()) * double(s.Timer()));
-            }
-            t.MondrianLastH = h;
-            t.MondrianLastV = v;
-            t.MondrianLastType = int16_t(call.Type);
-            t.MondrianHSplits = h;
-            t.MondrianVSplits = v;
-            t.MondrianUnit = 1.0f;
-            t.MondrianGridW = 0;
-            t.MondrianGridH = 0;
-            MondrianSplitArgs a;
-            a.SymH = symH;
-            a.SymV = symV;
-            a.Pen = penW;
-            a.DoSub = o.doSub ? 1 : 0;
-            a.MinRatio = std::max<int16_t>(1, call.MinRatio);
-            a.Mode = call.Type;
-            a.SeedH = seedH;
-            a.SeedV = seedV;
-            CreateArr_Mondrian_Splits(s, a);
+            MondrianSetRequest r;
+            r.h = o.panelH;
+            r.v = o.panelV;
+            r.symH = call.SymH;
+            r.symV = call.SymV;
+            r.doSub = o.doSub;
+            r.harmonic = o.harmonic;
+            r.randomValues = o.randomValues;
+            r.minRatio = std::max<int16_t>(1, call.MinRatio);
+            r.type = call.Type;
+            makeMondrianSet(s, r, penW);
         }
 
         if (!call.Super) {
