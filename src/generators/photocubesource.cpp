@@ -1,4 +1,5 @@
 #include "generators/photocubesource.h"
+#include "generators/picmosaik_texts.h"
 
 #include "core/numeric.h"
 #include "core/parallel.h"
@@ -9,7 +10,6 @@
 #include "paint/painter.h"
 #include "paint/session.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
 
@@ -21,28 +21,6 @@ ControlKey key(const char *name, int index = -1) { return {QString::fromLatin1(n
 
 // A random cut of the one photo takes this share of its shorter side, and up to this more.
 constexpr double CutShare = 0.5, CutRange = 0.3;
-
-// The texts the photo mosaic shows for the same cases (its translation context).
-QString useTheCommand()
-{
-    return QStringLiteral("\r\n") +
-           QCoreApplication::translate("PicMosaik", "Verwenden Sie bitte den [...]-Befehl.");
-}
-QString chooseAPictureFirst()
-{
-    return QCoreApplication::translate("PicMosaik", "Wählen Sie bitte zuerst ein Bild aus!") +
-           useTheCommand();
-}
-QString chooseADirectoryFirst()
-{
-    return QCoreApplication::translate("PicMosaik",
-                                       "Stellen Sie bitte zuerst ein Bildverzeichnis ein!") +
-           useTheCommand();
-}
-QString noValidPictures(const QString &path)
-{
-    return QCoreApplication::translate("PicMosaik", "Kann keine gültigen Bilder finden in ") + path;
-}
 
 // One face's photo: its file and the square it shows: the top left corner in shares of the
 // photo's width and height, the side in shares of its shorter side (a null cut: the middle
@@ -120,7 +98,7 @@ bool listOf(PaintContext &ctx, const QString &dir, bool recurse)
     if (src.holds(dir, recurse)) return src.PicCount > 0;
     src.clear();
     s.status().setPanelText(sbrState,
-                            QCoreApplication::translate("PicMosaik", "Suche Bilder in ") + dir);
+                            mosaiktext::scanning(dir));
     int32_t count = 0;
     ScanYield yield(ctx);
     if (!xLib_DirRekurs(src.ListPicDir, dir, QStringLiteral("*.*"), recurse, true, count, &yield)) {
@@ -133,8 +111,7 @@ bool listOf(PaintContext &ctx, const QString &dir, bool recurse)
     src.LastRecurse = recurse;
     src.resetUsed();
     src.ListValid = true;
-    s.status().setPanelText(sbrState, QString::number(count) +
-                                          QCoreApplication::translate("PicMosaik", " pictures"));
+    s.status().setPanelText(sbrState, mosaiktext::pictureCount(count));
     return count > 0;
 }
 
@@ -144,7 +121,7 @@ bool fromDirectory(PaintContext &ctx, const QString &dir, bool recurse, int face
     Session &s = ctx.session;
     if (!listOf(ctx, dir, recurse)) {
         if (ctx.stopRequested()) return false;
-        s.ask(noValidPictures(dir), Buttons::Ok, Icon::Exclamation);
+        s.ask(mosaiktext::noValidPictures(dir), Buttons::Ok, Icon::Exclamation);
         return false;
     }
     PicSourceList &src = s.picSources();
@@ -181,7 +158,7 @@ bool fromDirectory(PaintContext &ctx, const QString &dir, bool recurse, int face
             } else if (read != picks.end()) {
                 p = *read;
             } else {
-                s.ask(noValidPictures(dir), Buttons::Ok, Icon::Exclamation);
+                s.ask(mosaiktext::noValidPictures(dir), Buttons::Ok, Icon::Exclamation);
                 return false;
             }
         }
@@ -213,7 +190,7 @@ bool fromFile(PaintContext &ctx, const QString &file, bool mix, int faceSide,
     decode(pick, faceSide);
     if (pick[0].picture.isNull()) {
         s.status().setPanelText(sbrState, invalidPictureText(file));
-        s.ask(noValidPictures(file), Buttons::Ok, Icon::Exclamation);
+        s.ask(mosaiktext::noValidPictures(file), Buttons::Ok, Icon::Exclamation);
         return false;
     }
     for (size_t i = 0; i < 3; ++i) faces[i] = squareOf(pick[0].picture, cuts[i]);
@@ -229,7 +206,8 @@ bool PanelCubePhotos::facesFor(PaintContext &ctx, int faceSide, std::array<QImag
     const bool file = k.listIndex(key("optPicMosaikSource")) == 0;
     const QString source = s.picSources().PicSource;
     if (source.isEmpty()) {
-        s.ask(file ? chooseAPictureFirst() : chooseADirectoryFirst(), Buttons::Ok, Icon::Exclamation);
+        s.ask(file ? mosaiktext::chooseAPictureFirst() : mosaiktext::chooseADirectoryFirst(),
+              Buttons::Ok, Icon::Exclamation);
         return false;
     }
     if (file) return fromFile(ctx, source, k.checked(key("XPicMosaik_MixSlots")), faceSide, faces);
