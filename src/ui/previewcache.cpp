@@ -6,6 +6,7 @@
 #include "core/surfacepreview.h"
 #include "paint/session.h"
 #include "paint/superformat.h"
+#include "paint/typepanels.h"
 
 #include <algorithm>
 
@@ -33,7 +34,9 @@ QImage PreviewCache::preview(const QString &key)
         return *it;
     QImage image;
     const PainterEntry *entry = findPainter(m_session->painters(), key);
-    if (entry && entry->paint) {
+    // A photo type paints from the user's photos, which a preview does not have: it would only
+    // say that a source is missing.
+    if (entry && entry->paint && !readsPhotoSource(key)) {
         Session &s = *m_session;
         Workspace &ws = s.workspace();
         ws.Bild.setPicture(QImage());

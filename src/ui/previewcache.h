@@ -22,7 +22,8 @@ public:
     PreviewCache();
     ~PreviewCache();
 
-    // The preview of a type; a null image when the type has no painter or its paint failed.
+    // The preview of a type; a null image when the type has no painter, paints from the photo
+    // source or its paint failed.
     QImage preview(const QString &key);
 
 private:
