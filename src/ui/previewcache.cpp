@@ -43,9 +43,16 @@ QImage PreviewCache::preview(const QString &key)
         ws.Bild.setBackColor(0xFFFFFF);
         ws.Bild_CLEAR();
         ws.lastaction.clear();
+        // A type that reworks the picture that stands shows its work over a painted one.
+        bool under = true;
+        if (entry->overPicture) {
+            s.paint().GrafKey = QStringLiteral("Boxes-Randomized");
+            s.paint().nextSeed = Seed;
+            under = Create_Polygraphics(s) == PaintOutcome::Painted;
+        }
         s.paint().GrafKey = key;
         s.paint().nextSeed = Seed;
-        if (Create_Polygraphics(s) == PaintOutcome::Painted) {
+        if (under && Create_Polygraphics(s) == PaintOutcome::Painted) {
             SuperformatSurfaces &sf = s.superformat();
             if (isSuperformatType(key) && sf.hasPicture()) {
                 const double zoom = double(Side) / std::max(sf.SuperDIB.dib_width(),
