@@ -5,6 +5,7 @@
 #include "core/fault.h"
 #include "core/picturebox.h"
 #include "generators/leadpen.h"
+#include "generators/mondrian.h"
 #include "generators/mondrianlayout.h"
 #include "paint/colourstate.h"
 #include "paint/duocolortable.h"
@@ -141,46 +142,24 @@ bool LeadGlass::sizeFromPicture()
 
 void LeadGlass::layout()
 {
-    int16_t h = m_o.panelH, v = m_o.panelV;
-    int16_t symH = m_call.SymH, symV = m_call.SymV;
-    int32_t seedH = 0, seedV = 0;
-    if (m_o.random) {
-        h = CInt(Int(rnd(m_s) * 9) + 2);
-        v = CInt(Int(rnd(m_s) * 9) + 2);
-        symH = int16_t(Int(rnd(m_s) * 2));
-        symV = int16_t(Int(rnd(m_s) * 2));
-        m_o.rauten = symH == 1 && symV == 1 && h == v;
-        if (m_o.doSub) {
-            if (rounded(rnd(m_s)) == 1)
-                seedH = rounded(rnd(m_s) * double(m_s.Timer()));
-            if (rounded(rnd(m_s)) == 1)
-                seedV = rounded(rnd(m_s) * double(m_s.Timer()));
-            else
-                seedV = seedH;
-        }
-    } else if (m_o.harmonic) {
-        seedH = rounded(rnd(m_s) * double(m_s.Timer()));
-        seedV = rounded(rnd(m_s) * double(m_s.Timer()));
-    }
+    MondrianSetRequest r;
+    r.h = m_o.panelH;
+    r.v = m_o.panelV;
+    r.symH = m_call.SymH;
+    r.symV = m_call.SymV;
+    r.pen = m_penW;
+    r.drawPen = false; // the lead keeps the pen it was given
+    r.doSub = m_o.doSub;
+    r.harmonic = m_o.harmonic;
+    r.randomValues = m_o.random;
+    r.minRatio = LeadMinRatio;
+    r.type = m_call.Type;
+    const MondrianSetDrawn d = makeMondrianSet(m_s, r);
+    if (m_o.random)
+        m_o.rauten = d.symH == 1 && d.symV == 1 && d.h == d.v;
+    // A window remembers the panel's counts, not the drawn ones.
     m_t.MondrianLastH = m_o.panelH;
     m_t.MondrianLastV = m_o.panelV;
-    m_t.MondrianLastType = int16_t(m_call.Type);
-    m_t.MondrianHSplits = h;
-    m_t.MondrianVSplits = v;
-    m_t.MondrianUnit = 1.0f;
-    m_t.MondrianGridW = 0;
-    m_t.MondrianGridH = 0;
-    MondrianSplitArgs a;
-    a.SymH = symH;
-    a.SymV = symV;
-    a.Pen = m_penW;
-    a.DoSub = m_o.doSub ? 1 : 0;
-    a.MinRatio = LeadMinRatio;
-    a.Mode = m_call.Type;
-    a.Unit = 1.0f;
-    a.SeedH = seedH;
-    a.SeedV = seedV;
-    CreateArr_Mondrian_Splits(m_s, a);
 }
 
 // The panes in the colours of the table and, with all frames, the lead at the top and left

@@ -90,8 +90,9 @@ bool sizeFromSurface(PaintContext &ctx, const FrameCanvas &canvas, int32_t &form
 
 } // namespace
 
-void makeMondrianSet(Session &s, const MondrianSetRequest &r, int16_t &penW)
+MondrianSetDrawn makeMondrianSet(Session &s, const MondrianSetRequest &r)
 {
+    int16_t penW = r.pen;
     int16_t h = r.h, v = r.v, symH = r.symH, symV = r.symV, subH = r.subH, subV = r.subV;
     int32_t seedH = 0, seedV = 0;
     if (r.randomValues) {
@@ -100,7 +101,7 @@ void makeMondrianSet(Session &s, const MondrianSetRequest &r, int16_t &penW)
         symH = int16_t(Int(double(s.Rnd()) * 2));
         symV = int16_t(Int(double(s.Rnd()) * 2));
         subH = subV = 1;
-        if (penW == 1)
+        if (r.drawPen && penW == 1)
             penW = int16_t(rounded(double(s.Rnd()) * 5) + 1);
         if (r.doSub) {
             if (rounded(double(s.Rnd())) == 1)
@@ -136,6 +137,7 @@ void makeMondrianSet(Session &s, const MondrianSetRequest &r, int16_t &penW)
     a.SubH = subH;
     a.SubV = subV;
     CreateArr_Mondrian_Splits(s, a);
+    return {h, v, symH, symV, penW};
 }
 
 void chooseMondrianColours(Session &s, bool withWhite)
@@ -252,7 +254,8 @@ void drawMondrian(PaintContext &ctx, FrameCanvas &canvas, MondrianCall call)
         r.harmonic = o.harmonic;
         r.randomValues = s.colours().RandomValues;
         r.type = call.Type;
-        makeMondrianSet(s, r, penW);
+        r.pen = penW;
+        penW = makeMondrianSet(s, r).pen;
     }
 
     if (!call.Super) {

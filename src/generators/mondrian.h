@@ -73,22 +73,29 @@ PaintOutcome BtnMondrian_Repaint(Session &s);
 // else "MondrianColors"; `withWhite` false makes the white entries -1 (no fill).
 void chooseMondrianColours(Session &s, bool withWhite);
 
-// What a new set of frames is made from: the panel's split counts, symmetry and sub-factors.
+// What a new set of frames is made from: the panel's split counts, symmetry and sub-factors,
+// and the frame line's width.
 struct MondrianSetRequest {
     int16_t h = 2, v = 2;
     int16_t symH = 1, symV = 1;
     int16_t subH = 1, subV = 1;
+    int16_t pen = 1;
+    bool drawPen = true; // with random values, a pen of 1 is drawn anew (1 to 6)
     bool doSub = false;
     bool harmonic = false;
     bool randomValues = false;
     int16_t minRatio = 2;
     int32_t type = 0;
 };
+// The counts, symmetry and pen the set was made with.
+struct MondrianSetDrawn {
+    int16_t h, v, symH, symV, pen;
+};
 // Makes a new set in the session's tables: with random values on, counts of 2 to 10, a
-// symmetry, sub-factors of 1 and (for a pen of 1) a pen of 1 to 6 are drawn, and seeds for
-// the subdivision; else harmonic splits draw their two seeds. The draws keep this order, so a
-// seed gives the same set in every painter that shares it (Mondrian, the photo mosaic).
-void makeMondrianSet(Session &s, const MondrianSetRequest &r, int16_t &penW);
+// symmetry, sub-factors of 1, the pen (see `drawPen`) and seeds for the subdivision are
+// drawn; else harmonic splits draw their two seeds. The draws keep this order, so a seed gives
+// the same set in every painter that shares it (Mondrian, lead glass, the photo mosaic).
+MondrianSetDrawn makeMondrianSet(Session &s, const MondrianSetRequest &r);
 // The colour of a frame from that table: a sub-frame from the whole table, a whole cell from
 // its first 18 entries; a large cell (over a quarter of picW or picH) is never the near-black
 // nor white. NoColour: the frame stays unfilled.

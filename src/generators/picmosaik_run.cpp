@@ -254,7 +254,8 @@ struct PicMosaikRun::Impl {
             r.randomValues = o.randomValues;
             r.minRatio = std::max<int16_t>(1, call.MinRatio);
             r.type = call.Type;
-            makeMondrianSet(s, r, penW);
+            r.pen = penW;
+            penW = makeMondrianSet(s, r).pen;
         }
 
         if (!call.Super) {
