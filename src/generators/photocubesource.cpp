@@ -96,23 +96,14 @@ bool listOf(PaintContext &ctx, const QString &dir, bool recurse)
     Session &s = ctx.session;
     PicSourceList &src = s.picSources();
     if (src.holds(dir, recurse)) return src.PicCount > 0;
-    src.clear();
-    s.status().setPanelText(sbrState,
-                            mosaiktext::scanning(dir));
-    int32_t count = 0;
+    s.status().setPanelText(sbrState, mosaiktext::scanning(dir));
     ScanYield yield(ctx);
-    if (!xLib_DirRekurs(src.ListPicDir, dir, QStringLiteral("*.*"), recurse, true, count, &yield)) {
-        src.clear();
+    if (!src.scan(dir, recurse, &yield)) {
         s.status().setPanelText(sbrState, QString());
         return false;
     }
-    src.PicCount = count;
-    src.LastSource = dir;
-    src.LastRecurse = recurse;
-    src.resetUsed();
-    src.ListValid = true;
-    s.status().setPanelText(sbrState, mosaiktext::pictureCount(count));
-    return count > 0;
+    s.status().setPanelText(sbrState, mosaiktext::pictureCount(src.PicCount));
+    return src.PicCount > 0;
 }
 
 bool fromDirectory(PaintContext &ctx, const QString &dir, bool recurse, int faceSide,

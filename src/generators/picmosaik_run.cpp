@@ -79,19 +79,10 @@ bool scanDirectory(Session &s, const PicMosaikOptions &o)
         return false;
     }
     if (!l.holds(dir, o.subDirs)) {
-        l.clear();
         s.status().setPanelText(sbrState, mosaiktext::scanning(dir));
-        int32_t count = 0;
         SessionYield yield(s);
-        xLib_DirRekurs(l.ListPicDir, dir, QStringLiteral("*.*"), o.subDirs, true, count, &yield);
-        if (s.paint().StopPaint) {
-            l.clear();
+        if (!l.scan(dir, o.subDirs, &yield))
             return false;
-        }
-        l.PicCount = count;
-        l.LastSource = dir;
-        l.LastRecurse = o.subDirs;
-        l.ListValid = count > 0;
     }
     if (l.PicCount <= 0) {
         l.clear();

@@ -15,6 +15,22 @@ void PicSourceList::clear()
     resetUsed();
 }
 
+bool PicSourceList::scan(const QString &dir, bool recurse, YieldHook *yield)
+{
+    clear();
+    int32_t count = 0;
+    if (!xLib_DirRekurs(ListPicDir, dir, QStringLiteral("*.*"), recurse, true, count, yield)) {
+        clear();
+        return false;
+    }
+    PicCount = count;
+    LastSource = dir;
+    LastRecurse = recurse;
+    ListValid = count > 0;
+    resetUsed();
+    return true;
+}
+
 void PicSourceList::resetUsed()
 {
     UsedMap.assign(size_t(std::max<int32_t>(PicCount, 0)) + 1, 0);

@@ -48,6 +48,10 @@ struct PicSourceList {
     }
     // Empties the list (PicCount 0, UsedMap 0..0) and marks it invalid.
     void clear();
+    // Scans the pictures of `dir` into the list (xLib_DirRekurs, `yield` once per directory),
+    // all unused; the list stands for that source while it holds any. False when the walk was
+    // stopped: the list is then empty.
+    bool scan(const QString &dir, bool recurse, YieldHook *yield);
     // Clears UsedMap to 0..PicCount, all unused.
     void resetUsed();
     // The number of pictures marked used.
