@@ -74,9 +74,10 @@ ColorLong cell(const ColourState &c, int i)
     return duoCell(c, i).value_or(NoColour);
 }
 
-// The inner size by the selection and the picture's shape: a selection or a picture that is
-// not square takes the whole surface less the margins, and Format 0.
-bool sizeFromSurface(PaintContext &ctx, const FrameCanvas &canvas, int32_t &format, int32_t m2)
+} // namespace
+
+bool mondrianSizeFromSurface(PaintContext &ctx, const FrameCanvas &canvas, int32_t &format,
+                             int32_t m2)
 {
     MondrianTables &t = ctx.session.mondrian();
     if (ctx.workspace().PicSelect.Visible() || canvas.width() != canvas.height()) {
@@ -87,8 +88,6 @@ bool sizeFromSurface(PaintContext &ctx, const FrameCanvas &canvas, int32_t &form
     }
     return false;
 }
-
-} // namespace
 
 MondrianSetDrawn makeMondrianSet(Session &s, const MondrianSetRequest &r)
 {
@@ -219,7 +218,7 @@ void drawMondrian(PaintContext &ctx, FrameCanvas &canvas, MondrianCall call)
         t.MondrianH = picH - m2;
     } else if (repaint) {
         // the sizes of the last set
-    } else if (!sizeFromSurface(ctx, canvas, call.Format, m2)) {
+    } else if (!mondrianSizeFromSurface(ctx, canvas, call.Format, m2)) {
         const double side = call.Side;
         if (call.Format == 1) {
             t.MondrianW = rounded(double(s.Rnd()) * side / 2 - 32 + side / 2 - m2);
@@ -260,7 +259,7 @@ void drawMondrian(PaintContext &ctx, FrameCanvas &canvas, MondrianCall call)
 
     if (!call.Super) {
         canvas.clear();
-        sizeFromSurface(ctx, canvas, call.Format, m2);
+        mondrianSizeFromSurface(ctx, canvas, call.Format, m2);
     }
 
     int32_t offX = t.MondrianMargin, offY = t.MondrianMargin;

@@ -73,6 +73,10 @@ PaintOutcome BtnMondrian_Repaint(Session &s);
 // else "MondrianColors"; `withWhite` false makes the white entries -1 (no fill).
 void chooseMondrianColours(Session &s, bool withWhite);
 
+// The inner size by the selection and the picture's shape: a selection or a picture that is
+// not square takes the whole surface less the margins `m2`, and Format 0. False: neither.
+bool mondrianSizeFromSurface(PaintContext &ctx, const FrameCanvas &canvas, int32_t &format,
+                             int32_t m2);
 // What a new set of frames is made from: the panel's split counts, symmetry and sub-factors,
 // and the frame line's width.
 struct MondrianSetRequest {

@@ -8,6 +8,7 @@
 #include "core/picturebox.h"
 #include "files/cdstdpicture.h"
 #include "files/jpegcodec.h"
+#include "files/reduce.h"
 #include "generators/framecanvas.h"
 #include "generators/mondrian.h"
 #include "generators/mondrianlayout.h"
@@ -178,16 +179,8 @@ struct PicMosaikRun::Impl {
 
     bool sizeFromSurface(const FrameCanvas &canvas, int32_t m2)
     {
-        MondrianTables &t = s.mondrian();
-        if (call.Show)
-            return false;
-        if (ctx.workspace().PicSelect.Visible() || canvas.width() != canvas.height()) {
-            format = 0;
-            t.MondrianW = canvas.width() - m2;
-            t.MondrianH = canvas.height() - m2;
-            return true;
-        }
-        return false;
+        // The show keeps the whole window its layout was given.
+        return !call.Show && mondrianSizeFromSurface(ctx, canvas, format, m2);
     }
 
     void layout(FrameCanvas &canvas)
@@ -512,22 +505,9 @@ struct PicMosaikRun::Impl {
                     p.resample ? dib.Resample(p.scaled.width(), p.scaled.height())
                                : dib.Resize(p.scaled.width(), p.scaled.height());
                 if (scaled)
-                    whole = imageOfSurface(*scaled);
+                    whole = imageOfDib(*scaled);
             }
         }
-    }
-
-    static QImage imageOfSurface(const cDIBSection &dib)
-    {
-        QImage out(dib.dib_width(), dib.dib_height(), QImage::Format_RGB32);
-        const ConstDibView v = dib.view();
-        for (int y = 0; y < out.height(); ++y) {
-            const uint8_t *src = v.row(v.height - 1 - y);
-            auto *dst = reinterpret_cast<QRgb *>(out.scanLine(y));
-            for (int x = 0; x < out.width(); ++x, src += 3)
-                dst[x] = qRgb(src[2], src[1], src[0]);
-        }
-        return out;
     }
 
     // --- effects --------------------------------------------------------------------------
