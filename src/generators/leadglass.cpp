@@ -507,18 +507,7 @@ void LeadGlass::paint()
                  (m_o.panelH == m_t.MondrianLastH && m_o.panelV == m_t.MondrianLastV));
 
     if (!m_repaint && !sizeFromPicture()) {
-        const double side = m_call.Side;
-        if (m_call.Format == 1) {
-            m_t.MondrianW = rounded(rnd(m_s) * side / 2 - 32 + side / 2 - m2);
-            m_t.MondrianH = m_call.Side - m2;
-        } else if (m_call.Format == 2) {
-            m_t.MondrianH = rounded(rnd(m_s) * side / 2 - 32 + side / 2 - m2);
-            m_t.MondrianW = m_call.Side - m2;
-        } else {
-            m_call.Format = 0;
-            m_t.MondrianW = m_call.Side - m2;
-            m_t.MondrianH = m_call.Side - m2;
-        }
+        mondrianSizeByFormat(m_s, m_call.Format, m_call.Side, m2);
     }
 
     if (m_o.fill)

@@ -89,6 +89,23 @@ bool mondrianSizeFromSurface(PaintContext &ctx, const FrameCanvas &canvas, int32
     return false;
 }
 
+void mondrianSizeByFormat(Session &s, int32_t &format, int32_t side, int32_t m2)
+{
+    MondrianTables &t = s.mondrian();
+    const double d = side;
+    if (format == 1) {
+        t.MondrianW = rounded(double(s.Rnd()) * d / 2 - 32 + d / 2 - m2);
+        t.MondrianH = side - m2;
+    } else if (format == 2) {
+        t.MondrianH = rounded(double(s.Rnd()) * d / 2 - 32 + d / 2 - m2);
+        t.MondrianW = side - m2;
+    } else {
+        format = 0;
+        t.MondrianW = side - m2;
+        t.MondrianH = side - m2;
+    }
+}
+
 MondrianSetDrawn makeMondrianSet(Session &s, const MondrianSetRequest &r)
 {
     int16_t penW = r.pen;
@@ -219,18 +236,7 @@ void drawMondrian(PaintContext &ctx, FrameCanvas &canvas, MondrianCall call)
     } else if (repaint) {
         // the sizes of the last set
     } else if (!mondrianSizeFromSurface(ctx, canvas, call.Format, m2)) {
-        const double side = call.Side;
-        if (call.Format == 1) {
-            t.MondrianW = rounded(double(s.Rnd()) * side / 2 - 32 + side / 2 - m2);
-            t.MondrianH = call.Side - m2;
-        } else if (call.Format == 2) {
-            t.MondrianH = rounded(double(s.Rnd()) * side / 2 - 32 + side / 2 - m2);
-            t.MondrianW = call.Side - m2;
-        } else {
-            call.Format = 0;
-            t.MondrianW = call.Side - m2;
-            t.MondrianH = call.Side - m2;
-        }
+        mondrianSizeByFormat(s, call.Format, call.Side, m2);
     }
 
     if (o.fill)

@@ -77,6 +77,10 @@ void chooseMondrianColours(Session &s, bool withWhite);
 // not square takes the whole surface less the margins `m2`, and Format 0. False: neither.
 bool mondrianSizeFromSurface(PaintContext &ctx, const FrameCanvas &canvas, int32_t &format,
                              int32_t m2);
+// The inner size of a square surface of `side` by Format: 1 (vertical) a random width from
+// about half the side to the whole, 2 (horizontal) the same for the height, anything else the
+// whole side, and Format 0; the margins `m2` taken off.
+void mondrianSizeByFormat(Session &s, int32_t &format, int32_t side, int32_t m2);
 // What a new set of frames is made from: the panel's split counts, symmetry and sub-factors,
 // and the frame line's width.
 struct MondrianSetRequest {

@@ -213,18 +213,7 @@ struct PicMosaikRun::Impl {
         } else if (repaint && t.MondrianW > 0 && t.MondrianH > 0) {
             // the sizes of the last set
         } else if (!sizeFromSurface(canvas, m2)) {
-            const double side = call.Side;
-            if (format == 1) {
-                t.MondrianW = rounded(double(s.Rnd()) * side / 2 - 32 + side / 2 - m2);
-                t.MondrianH = call.Side - m2;
-            } else if (format == 2) {
-                t.MondrianH = rounded(double(s.Rnd()) * side / 2 - 32 + side / 2 - m2);
-                t.MondrianW = call.Side - m2;
-            } else {
-                format = 0;
-                t.MondrianW = call.Side - m2;
-                t.MondrianH = call.Side - m2;
-            }
+            mondrianSizeByFormat(s, format, call.Side, m2);
         }
 
         if (!repaint) {
