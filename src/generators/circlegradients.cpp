@@ -160,12 +160,7 @@ void Do_CircleGradients(PaintContext &ctx, CircleGradient type)
 {
     StopRule stop(ctx);
     const int w = ctx.opt.W, h = ctx.opt.H;
-    double cx = w / 2.0, cy = h / 2.0;
-    if (!ctx.opt.UseCenter) {
-        // A random centre in the middle third, so that most of the disc stays on the picture.
-        cx = rounded(w / 3.0 + rnd(ctx) * w / 3.0);
-        cy = rounded(h / 3.0 + rnd(ctx) * h / 3.0);
-    }
+    const auto [cx, cy] = figureCentre(ctx);
     const double k = type == CircleGradient::FourSpirals ? 0.5 : 1.0;
     const Controls &controls = ctx.session.controls();
     Scheibe S;

@@ -17,6 +17,16 @@ double rnd(PaintContext &ctx) { return double(ctx.Rnd()); }
 
 int rounded(double x) { return CLng(x); }
 
+Centre figureCentre(PaintContext &ctx)
+{
+    const int w = ctx.opt.W, h = ctx.opt.H;
+    if (ctx.opt.UseCenter)
+        return {w / 2.0, h / 2.0};
+    const double x = rounded(w / 3.0 + rnd(ctx) * w / 3.0);
+    const double y = rounded(h / 3.0 + rnd(ctx) * h / 3.0);
+    return {x, y};
+}
+
 int countOf(PaintContext &ctx, int random, int lower)
 {
     if (ctx.colours().RandomValues) return random;

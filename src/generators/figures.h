@@ -30,6 +30,13 @@ double rnd(PaintContext &ctx);
 // rounded(x): round half to even, as every conversion does.
 int rounded(double x);
 
+// The centre of a figure: the middle of the picture with "Zentrieren" (UseCenter), else a
+// whole-pixel point of the middle third drawn x then y, so most of the figure stays on it.
+struct Centre {
+    double x, y;
+};
+Centre figureCentre(PaintContext &ctx);
+
 // The count of a type: `random` with RandomValues, else NumberValue raised to `lower`.
 int countOf(PaintContext &ctx, int random, int lower);
 

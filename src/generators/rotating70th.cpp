@@ -58,13 +58,7 @@ void Do_Rotating70th(PaintContext &ctx, bool crazy)
 {
     StopRule stop(ctx);
     const int w = ctx.opt.W, h = ctx.opt.H;
-    double cx = w / 2.0, cy = h / 2.0;
-    if (!ctx.opt.UseCenter) {
-        // A random centre in the middle third, so that most of the figure stays on the
-        // picture.
-        cx = rounded(w / 3.0 + rnd(ctx) * w / 3.0);
-        cy = rounded(h / 3.0 + rnd(ctx) * h / 3.0);
-    }
+    const auto [cx, cy] = figureCentre(ctx);
     const int n = ctx.colours().RandomValues ? rounded(rnd(ctx) * 200) + 1
                                              : std::max<int>(1, ctx.opt.NumberValue);
     const int style = rounded(rnd(ctx) * 3);

@@ -89,14 +89,8 @@ bool Draw_Spirograph(PaintContext &ctx, double cx, double cy, int r, int k, doub
 void Do_Spirograph(PaintContext &ctx)
 {
     StopRule stop(ctx);
-    const int w = ctx.opt.W, h = ctx.opt.H;
-    double cx = w / 2.0, cy = h / 2.0;
-    if (!ctx.opt.UseCenter) {
-        // A random centre in the middle third, so that most of the figure stays on the
-        // picture.
-        cx = rounded(w / 3.0 + rnd(ctx) * w / 3.0);
-        cy = rounded(h / 3.0 + rnd(ctx) * h / 3.0);
-    }
+    const int w = ctx.opt.W;
+    const auto [cx, cy] = figureCentre(ctx);
     const double aspect = rnd(ctx) * 0.8 + 0.2;
     int k = 3, r = rounded(w / 100.0 + 50);
     if (ctx.colours().RandomValues) {
