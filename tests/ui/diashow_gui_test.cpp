@@ -23,22 +23,7 @@ using namespace tf;
 
 namespace {
 
-struct DiaShowWindowTest : WindowFixture {
-    void SetUp() override
-    {
-        WindowFixture::SetUp();
-        start();
-    }
-    void choose(const char *key)
-    {
-        const auto where = findType(QString::fromUtf8(key));
-        ASSERT_TRUE(where);
-        mn_Grafmodes(window->session(), where->group);
-        QApplication::processEvents();
-        window->findChild<QListWidget *>(QStringLiteral("ListBoxType"))
-            ->setCurrentRow(where->listIndex);
-        QApplication::processEvents();
-    }
+struct DiaShowWindowTest : StartedWindow {
     static ui::DiaShowWindow *openShow()
     {
         for (QWidget *w : QApplication::topLevelWidgets())

@@ -22,22 +22,7 @@ using namespace tf;
 
 namespace {
 
-struct PicMosaikWindowTest : WindowFixture {
-    void SetUp() override
-    {
-        WindowFixture::SetUp();
-        start();
-    }
-    void choose(const char *key)
-    {
-        const auto where = findType(QString::fromUtf8(key));
-        ASSERT_TRUE(where);
-        mn_Grafmodes(window->session(), where->group);
-        QApplication::processEvents();
-        window->findChild<QListWidget *>(QStringLiteral("ListBoxType"))
-            ->setCurrentRow(where->listIndex);
-        QApplication::processEvents();
-    }
+struct PicMosaikWindowTest : StartedWindow {
     void set(const char *name, const char *value, int index = -1)
     {
         ASSERT_TRUE(window->session().controls().set(
